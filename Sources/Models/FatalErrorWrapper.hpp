@@ -1,0 +1,24 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+namespace quillet {
+
+/// The one way in which the module stops the program on an impossible state, so that a test or a host can see
+/// it coming.
+struct FatalErrorWrapper {
+    /// Takes a message, the source file's name and the line.
+    using Closure = std::function<void(std::string_view message, const char* file, unsigned line)>;
+
+    /// Writes "Fatal error: <message>: file <file>, line <line>" to standard error and aborts.
+    [[noreturn]] static void defaultFatalErrorClosure(std::string_view message, const char* file,
+                                                      unsigned line);
+
+    /// The hook that is called; `defaultFatalErrorClosure` until replaced. Replace it only while nothing of
+    /// the module runs. A replaced hook should not return; where one does, the caller goes on with a harmless
+    /// value that its own comment names, and never with undefined behaviour.
+    static Closure fatalErrorClosure;
+};
+
+} // namespace quillet

@@ -1,0 +1,15 @@
+#include "Models/OpenOrdersResponse.hpp"
+
+#include "Models/Json/Decoder.hpp"
+
+namespace quillet {
+
+std::expected<OpenOrdersResponse, OpenOrdersResponse::Error>
+OpenOrdersResponse::create(const std::optional<std::string>& data) {
+    if (!data) {
+        return std::unexpected(CodingError::emptyData);
+    }
+    return json::decode<OpenOrdersResponse>(*data);
+}
+
+} // namespace quillet

@@ -1,0 +1,114 @@
+#include "Models/Decimal.hpp"
+#include "Models/Json/Decoder.hpp"
+
+#include <boost/multiprecision/cpp_dec_float.hpp>
+#include <gmock/gmock.h>
+
+#include <random>
+
+namespace quillet::tests {
+
+struct Amounts {
+    std::vector<Decimal> amounts;
+};
+
+} // namespace quillet::tests
+
+namespace quillet {
+template <>
+inline constexpr auto jsonFields<tests::Amounts> =
+    std::tuple{json::Field{"amounts", &tests::Amounts::amounts}};
+}
+
+namespace quillet::tests {
+
+// Far more digits than any text here has: the oracle itself never rounds.
+using Oracle = boost::multiprecision::number<boost::multiprecision::cpp_dec_float<200>>;
+
+/// A number of at most 38 significant digits, in one of the many ways to write it.
+std::string randomNumber(std::mt19937& random) {
+    const auto pick = [&](unsigned below) { return random() % below; };
+    const auto digits = [&](std::size_t count) {
+        std::string text;
+        while (text.size() < count) {
+            text += static_cast<char>('0' + pick(10) * (pick(4) != 0));
+        }
+        return text;
+    };
+    std::string text = pick(3) == 0 ? "-" : "";
+    text += pick(4) == 0 ? "0" : static_cast<char>('1' + pick(9)) + digits(pick(4) == 0 ? pick(19) : pick(5));
+    if (pick(4) != 0) {
+        text += '.' + digits(1 + (pick(4) == 0 ? pick(18) : pick(4)));
+    }
+    if (pick(3) == 0) {
+        text += pick(2) == 0 ? "e" : "E";
+        text += std::array{"", "+", "-"}[pick(3)] + digits(1 + pick(2));
+    }
+    return text;
+}
+
+TEST(DecimalTest, EqualsAnotherLibrarysDecimalsForEveryWayToWriteThem) {
+    std::mt19937 random;
+    std::string body = R"({"amounts":[)";
+    std::vector<Oracle> expected;
+    for (int i = 0; i < 20000; ++i) {
+        const std::string text = randomNumber(random);
+        expected.emplace_back(text);
+        body += (i == 0 ? "" : i % 3 == 0 ? ", " : ",") + text;
+        const auto parsed = Decimal::parse(text);
+        ASSERT_TRUE(parsed) << text;
+        ASSERT_EQ(Oracle(parsed->toString()), expected.back()) << text;
+    }
+    // In a body most numbers take a shorter way than `parse`.
+    const auto decoded = json::decode<Amounts>(body + "]}");
+    ASSERT_TRUE(decoded);
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        ASSERT_EQ(Oracle(decoded->amounts[i].toString()), expected[i]);
+        ASSERT_EQ(decoded->amounts[i] == decoded->amounts[i / 2], expected[i] == expected[i / 2]);
+    }
+}
+
+TEST(DecimalTest, ComparesByValueAndPrintsPlainly) {
+    const struct {
+        std::string text;
+        Decimal value;
+        std::string plain;
+    } cases[] = {
+        {"1.50", Decimal(15, -1), "1.5"},
+        {"150e-2", Decimal(15, -1), "1.5"},
+        {"-0.00", Decimal(), "0"},
+        {"0e999999999999999999999", Decimal(), "0"},
+        {"-0.05", Decimal(-5, -2), "-0.05"},
+        {"3e2", Decimal(300), "300"},
+        {"-9223372036854775808", Decimal(std::numeric_limits<std::int64_t>::min()), "-9223372036854775808"},
+        {"1" + std::string(5000, '0') + "e-5000", Decimal(1), "1"},
+        {"0." + std::string(5000, '0') + "7e5001", Decimal(7), "7"}};
+    for (const auto& [text, value, plain] : cases) {
+        EXPECT_EQ(Decimal::parse(text), value) << text;
+        EXPECT_EQ(value.toString(), plain) << text;
+    }
+}
+
+TEST(DecimalTest, KeepsThirtyEightDigitsAndRoundsTheRestHalfToEven) {
+    const std::string nines(38, '9');
+    const std::string digits = "1234567890123456789012345678901234567";
+    const std::pair<std::string, std::string> cases[] = {{nines, nines},
+                                                         {nines + "4", nines + "0"},
+                                                         {nines + "5", "1" + std::string(39, '0')},
+                                                         {digits + "25", digits + "20"},
+                                                         {digits + "35", digits + "40"},
+                                                         {digits + "2.5000001", digits + "3"},
+                                                         {"0.0" + digits + "85", "0.0" + digits + "8"}};
+    for (const auto& [text, rounded] : cases) {
+        EXPECT_EQ(Decimal::parse(text)->toString(), rounded) << text;
+    }
+}
+
+TEST(DecimalTest, RefusesWhatItCannotHold) {
+    for (const char* text : {"", "-", "1.", ".1", "01", "1 ", "1e", "1e10000", "1e-10000",
+                             "1e99999999999999999999", "1e-99999999999999999999", "inf", "1,5", "+1"}) {
+        EXPECT_EQ(Decimal::parse(text), std::nullopt) << text;
+    }
+}
+
+} // namespace quillet::tests

@@ -1,0 +1,149 @@
+#include "Models/Bodies.hpp"
+#include "Models/CheckoutResponse.hpp"
+#include "Models/OpenOrdersResponse.hpp"
+#include "Models/OrderResponse.hpp"
+
+#include <gmock/gmock.h>
+
+namespace quillet::tests {
+
+using namespace std::chrono;
+
+TEST(OpenOrdersResponseTest, ReadsEveryFieldExactly) {
+    const auto response = OpenOrdersResponse::create(openOrdersJson);
+    ASSERT_TRUE(response);
+    const Cycle cycle{202405, sys_days(2024y / 3 / 1) + 3h, sys_days(2024y / 3 / 22) + 3h - 1ms};
+    EXPECT_EQ(response->consultant, (Consultant{8812345, cycle}));
+    const OrderItem item{.productCode = 70712,
+                         .origin = "MAGAZINE",
+                         .productDescription = "Máscara \"Nítida\"",
+                         .unitPoints = 3,
+                         .totalPoints = 6,
+                         .totalPrice = Decimal(1198, -1),
+                         .totalProfit = Decimal(3594, -2),
+                         .choosable = false,
+                         .amount = 2,
+                         .magazineAmount = 2,
+                         .unitPrice = Decimal(599, -1),
+                         .unitProfit = Decimal(1797, -2),
+                         .imageUrl = "https://images.example/70712.jpg",
+                         .isKit = true};
+    const Order order{.cartNumber = 18446744073709551615U,
+                      .uuid = "6f1c",
+                      .status = "OPEN",
+                      .type = "SELL_OUT",
+                      .createdAt = sys_days(2024y / 3 / 5) + 13h + 20min + 30456ms,
+                      .totalRegularItems = 1,
+                      .totalBenefitItems = 0,
+                      .totalItems = 1,
+                      .totalPoints = 6,
+                      .total = Decimal(101, -1),
+                      .regularItemsProfit = Decimal(3594, -2),
+                      .benefitItemsProfit = Decimal(),
+                      .totalProfit = Decimal(3594, -2),
+                      .magazineCycle = "202405",
+                      .regularItems = {item},
+                      .benefitItems = {}};
+    EXPECT_EQ(response->openOrders, (std::vector{order, order}));
+}
+
+TEST(OpenOrdersResponseTest, ReadsKeysInAnyOrderWrittenInAnyWay) {
+    // Every object of the body turned around, which leaves its lists as they are.
+    const std::string item =
+        R"({ "isKit" : true , "imageUrl":"i","unitProfit":1,"unitPrice" : 5990e-2 ,"magazineAmount":2,
+        "\u0061mount":20e-1,"choosable":false, "new":{"amount":[{}]}, "totalProfit":1,"totalPrice":1,"totalPoints":6.0 ,
+        "unitPoints":-0,"productDescription":"d","origin":"","productCode":1 , "productCode":"a second one is ignored"})";
+    const std::string body =
+        R"({"carts":[{"benefitItems":[],"regularItems":[)" + item + "," + item +
+        R"(],"magazineCycle":"","totalProfit":0,"benefitItemsProfit":0,"regularItemsProfit":0,"cartTotal":0,
+        "totalPoints":0,"totalItems":0,"totalBenefitItems":0,"totalRegularItems":0,
+        "createdAt":"2024-03-05T10:20:30.456-0300","type":"","status":"","cartUuid":"","cartNumber":1e2}],"consultant":{"id":1}})";
+    const auto response = OpenOrdersResponse::create(body);
+    ASSERT_TRUE(response) << std::get<DecodingError>(response.error()).description();
+    const Order& order = response->openOrders.at(0);
+    EXPECT_EQ(order.cartNumber, 100U);
+    ASSERT_EQ(order.regularItems.size(), 2U);
+    const OrderItem expected{.productCode = 1,
+                             .origin = "",
+                             .productDescription = "d",
+                             .unitPoints = 0,
+                             .totalPoints = 6,
+                             .totalPrice = Decimal(1),
+                             .totalProfit = Decimal(1),
+                             .amount = 2,
+                             .magazineAmount = 2,
+                             .unitPrice = Decimal(599, -1),
+                             .unitProfit = Decimal(1),
+                             .imageUrl = "i",
+                             .isKit = true};
+    EXPECT_EQ(order.regularItems.at(1), expected);
+}
+
+TEST(OpenOrdersResponseTest, TellsAnAbsentBodyFromAnEmptyOneAndFromNull) {
+    EXPECT_EQ(OpenOrdersResponse::create(std::nullopt).error(),
+              OpenOrdersResponse::Error(OpenOrdersResponse::CodingError::emptyData));
+    EXPECT_EQ(OpenOrdersResponse::create("").error(), OpenOrdersResponse::Error(DecodingError()));
+    EXPECT_EQ(OpenOrdersResponse::create("null").error(),
+              OpenOrdersResponse::Error(DecodingError{DecodingError::Reason::unexpectedValue, "", "object"}));
+    EXPECT_TRUE(OpenOrdersResponse::create(R"({"consultant":{"id":1},"carts":[]})")->openOrders.empty());
+}
+
+TEST(OrderResponseTest, ReadsNullAsAnAbsentResponse) {
+    EXPECT_EQ(OrderResponse::create(std::nullopt).error(),
+              OrderResponse::Error(ResponseCodingError::emptyData));
+    EXPECT_EQ(OrderResponse::create(" null ").value(), std::nullopt);
+    EXPECT_EQ(OrderResponse::create("nul").error(), OrderResponse::Error(DecodingError()));
+    const auto response = OrderResponse::create(orderJson);
+    ASSERT_TRUE(response && *response);
+    EXPECT_EQ((*response)->consultant, (Consultant{1, std::nullopt}));
+    // The same amount written with fewer digits is the same order.
+    EXPECT_EQ(response, OrderResponse::create(replaced(orderJson, "10.10", "10.1")));
+    EXPECT_NE(response, OrderResponse::create(replaced(orderJson, "10.10", "10.11")));
+}
+
+TEST(CheckoutResponseTest, ReadsVerdictSummaryAndProducts) {
+    const auto response = CheckoutResponse::create(checkoutJson);
+    ASSERT_TRUE(response);
+    EXPECT_EQ(response->submittedOrderId, "A-1");
+    EXPECT_EQ(response->consultant, (Consultant{1, std::nullopt}));
+    EXPECT_EQ(response->message, CheckoutResponseMessage::cartSubmittedPartialSuccess);
+    EXPECT_EQ(response->summary, (Summary{1, 2, 3, 4, 5, 6, 7}));
+    const Product added{1, "Labial", ProductErrorStatus::none, 2, Decimal(15, -1), 0, 0};
+    // A status not known here reads as not found; unit points that are not sent are absent, not 0.
+    const Product other{2, "Crema", ProductErrorStatus::notFound, 1, Decimal(2), std::nullopt, 9};
+    EXPECT_EQ(response->products, (std::vector{added, other}));
+}
+
+TEST(CheckoutResponseTest, ReadsEveryVerdictAndStatusByItsExactName) {
+    const std::pair<std::string, CheckoutResponseMessage> verdicts[] = {
+        {"CART_SUBMITTED_SUCCESS", CheckoutResponseMessage::cartSubmittedSuccess},
+        {"CART_SUBMITTED\\u005fERROR", CheckoutResponseMessage::cartSubmittedError}};
+    for (const auto& [name, verdict] : verdicts) {
+        EXPECT_EQ(
+            CheckoutResponse::create(replaced(checkoutJson, "CART_SUBMITTED_PARTIAL_SUCCESS", name))->message,
+            verdict);
+    }
+    const std::pair<std::string, ProductErrorStatus> statuses[] = {
+        {"UNAVAILABLE", ProductErrorStatus::unavailable},
+        {"QUANTITY_ERROR", ProductErrorStatus::quantityError},
+        {"NOT_FOUND", ProductErrorStatus::notFound},
+        {"ok", ProductErrorStatus::notFound}};
+    for (const auto& [name, status] : statuses) {
+        const auto response = CheckoutResponse::create(replaced(checkoutJson, "OUT_OF_STOCK", name));
+        EXPECT_EQ(response->products.at(1).status, status) << name;
+    }
+}
+
+TEST(CheckoutResponseTest, RepeatsAnUnknownVerdictInAnErrorOfItsOwn) {
+    EXPECT_EQ(CheckoutResponse::create(std::nullopt).error(),
+              CheckoutResponse::Error(CheckoutResponse::CodingError::emptyData));
+    const auto unknown = replaced(checkoutJson, "CART_SUBMITTED_PARTIAL_SUCCESS", "CART_SUBMITTED_OK");
+    EXPECT_EQ(CheckoutResponse::create(unknown).error(),
+              CheckoutResponse::Error(
+                  CheckoutResponseMessageCodingError{"Error decoding - \"CART_SUBMITTED_OK\"\n"}));
+    // An earlier field's fault comes first.
+    const auto earlier = CheckoutResponse::create(replaced(unknown, "\"A-1\"", "1"));
+    EXPECT_EQ(std::get<DecodingError>(earlier.error()).path, "submittedOrderId");
+}
+
+} // namespace quillet::tests
