@@ -1,0 +1,52 @@
+#pragma once
+
+#include "Gateway/Log.hpp"
+#include "Gateway/Router.hpp"
+
+#include <condition_variable>
+#include <cstdint>
+#include <mutex>
+
+#include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/ssl/context.hpp>
+#include <boost/asio/ssl/stream.hpp>
+
+namespace quillet::gateway {
+
+/// One client's connection, from the TLS handshake to its end. It blocks: each runs on a thread of its own,
+/// so that what is done on the wire, and when, reads from top to bottom.
+class Connection {
+public:
+    Connection(std::uint64_t number, boost::asio::ip::tcp::socket socket, boost::asio::ssl::context& tls,
+               const Router& router, Log& log);
+
+    /// Answers requests until the client goes, a fault ends the connection, or `interrupt` is called. Closes
+    /// the socket.
+    void run();
+
+    /// Ends `run` soon, wherever it is. May be called from any thread, also after `run` has ended.
+    void interrupt();
+
+private:
+    // What follows an answer: the next request, a farewell, or an end without one.
+    enum class Then { next, part, drop };
+
+    void serve();
+    [[nodiscard]] Then answer(const Request& request, const Outcome& outcome, bool keepAlive);
+    void send(const std::string& bytes);
+    [[nodiscard]] bool waitFor(std::chrono::milliseconds time);
+    void waitForClientToGo();
+    void endPolitely();
+
+    std::uint64_t number_;
+    boost::asio::ssl::stream<boost::asio::ip::tcp::socket> stream_;
+    const Router& router_;
+    Log& log_;
+
+    std::mutex mutex_;
+    std::condition_variable interruption_;
+    bool interrupted_ = false;
+    bool closed_ = false;
+};
+
+} // namespace quillet::gateway

@@ -1,0 +1,113 @@
+#include "Gateway/Server.hpp"
+
+#include "Gateway/Connection.hpp"
+
+#include <array>
+#include <atomic>
+#include <list>
+#include <thread>
+
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/posix/stream_descriptor.hpp>
+#include <boost/asio/signal_set.hpp>
+
+#include <unistd.h>
+
+namespace quillet::gateway {
+
+namespace {
+
+namespace asio = boost::asio;
+using Failure = boost::system::error_code;
+
+constexpr std::size_t mostConnections = 256;
+
+struct Session {
+    explicit Session(auto&&... parts) : connection(std::forward<decltype(parts)>(parts)...) {}
+
+    Connection connection;
+    std::atomic<bool> ended = false;
+    std::jthread thread;
+};
+
+void usePair(asio::ssl::context& tls, const Credentials& credentials) {
+    auto* const context = tls.native_handle();
+    if (SSL_CTX_use_certificate(context, credentials.certificate.get()) != 1 ||
+        SSL_CTX_use_PrivateKey(context, credentials.key.get()) != 1 ||
+        SSL_CTX_set_min_proto_version(context, TLS1_2_VERSION) != 1)
+        throw std::runtime_error("OpenSSL does not take the server's certificate");
+}
+
+} // namespace
+
+struct Server::Implementation {
+    Implementation(std::uint16_t port, const Router& itsRouter, Log& itsLog)
+        : acceptor(loop, {asio::ip::address_v4::loopback(), port}, true), router(itsRouter), log(itsLog) {}
+
+    void accept() {
+        acceptor.async_accept([this](const Failure& failure, asio::ip::tcp::socket socket) {
+            if (failure == asio::error::operation_aborted)
+                return;
+            sessions.remove_if([](const Session& session) { return session.ended.load(); });
+            // Beyond the limit a client is turned away: its socket closes right here.
+            if (!failure && sessions.size() < mostConnections)
+                start(std::move(socket));
+            accept();
+        });
+    }
+
+    void start(asio::ip::tcp::socket socket) {
+        auto& session = sessions.emplace_back(++number, std::move(socket), tls, router, log);
+        session.thread = std::jthread([&session] {
+            session.connection.run();
+            session.ended = true;
+        });
+    }
+
+    void readStdin() {
+        input.async_read_some(asio::buffer(ignored), [this](const Failure& failure, std::size_t) {
+            // Files and /dev/null cannot be waited for and count as ended.
+            failure ? loop.stop() : readStdin();
+        });
+    }
+
+    asio::io_context loop{1};
+    asio::ssl::context tls{asio::ssl::context::tls_server};
+    asio::ip::tcp::acceptor acceptor;
+    asio::signal_set signals{loop, SIGTERM, SIGINT};
+    asio::posix::stream_descriptor input{loop};
+    std::array<char, 256> ignored{};
+    const Router& router;
+    Log& log;
+    std::uint64_t number = 0;
+    // Only the loop's thread touches the list; a session's own thread sees nothing but its session.
+    std::list<Session> sessions;
+};
+
+Server::Server(std::uint16_t port, const Credentials& credentials, const Router& router, Log& log)
+    : implementation_(std::make_unique<Implementation>(port, router, log)) {
+    usePair(implementation_->tls, credentials);
+}
+
+Server::~Server() = default;
+
+std::uint16_t Server::port() const {
+    return implementation_->acceptor.local_endpoint().port();
+}
+
+void Server::run(bool stopWithStdin) {
+    auto& self = *implementation_;
+    self.signals.async_wait([&self](const Failure&, int) { self.loop.stop(); });
+    if (stopWithStdin) {
+        Failure failure;
+        self.input.assign(::dup(STDIN_FILENO), failure);
+        failure ? self.loop.stop() : self.readStdin();
+    }
+    self.accept();
+    self.loop.run();
+    for (auto& session : self.sessions)
+        session.connection.interrupt();
+    self.sessions.clear();
+}
+
+} // namespace quillet::gateway

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Gateway/RequestCheck.hpp"
+
+#include <cstdint>
+#include <string>
+
+namespace quillet::gateway {
+
+/// A token with these two segments as they are given, before encoding, signed under the secret.
+std::string signedToken(const std::string& header, const std::string& payload,
+                        std::string_view secret = builtInIdentity().secret);
+std::string goodToken();
+
+/// The three calls as the module makes them.
+Request associateRequest(std::uint64_t consultant, const std::string& cart);
+Request openRequest(std::uint64_t consultant, const std::string& country = "CL");
+Request checkoutRequest(std::uint64_t consultant, const std::string& country = "CL");
+
+/// The seeded cart of one of the consultants 41051 to 41068.
+std::string cartOf(std::uint64_t consultant);
+
+void setHeader(Request& request, const std::string& name, const std::string& value);
+void removeHeader(Request& request, const std::string& name);
+
+} // namespace quillet::gateway
