@@ -1,0 +1,82 @@
+#include "HostApplication.hpp"
+
+#include "KelDS/KelDS.hpp"
+#include "KelDSIcons/KelDSIcons.hpp"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QQmlContext>
+#include <QQuickItem>
+
+namespace demo {
+
+HostApplication::HostApplication(Journal& journal, const QByteArray& orders)
+    : journal_(journal), orders_(QJsonDocument::fromJson(orders).array().toVariantList()) {}
+
+HostApplication::~HostApplication() = default;
+
+bool HostApplication::load(const std::shared_ptr<HostApplication>& self) {
+    self_ = self;
+    kel::useDesignSystem(engine_);
+    engine_.setInitialProperties({{QStringLiteral("host"), QVariant::fromValue<QObject*>(this)}});
+    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Demo/Main.qml")));
+    return window() != nullptr;
+}
+
+QQuickWindow* HostApplication::window() const {
+    return engine_.rootObjects().isEmpty() ? nullptr
+                                           : qobject_cast<QQuickWindow*>(engine_.rootObjects().first());
+}
+
+QQuickItem* HostApplication::phone() const {
+    return window()->property("phone").value<QQuickItem*>();
+}
+
+bool HostApplication::open(const Order& order) {
+    close();
+    quillet::QuilletConfiguration::shared().configure(order.environment);
+    const auto starter =
+        quillet::Starter::create(order.accessToken, order.authorizationProvider, order.cart, self_.lock());
+    auto* stack = window()->property("stack").value<QQuickItem*>();
+    return starter && quillet::present(starter->createRootViewController(), *stack);
+}
+
+void HostApplication::close() {
+    QMetaObject::invokeMethod(window(), "showHome");
+}
+
+void HostApplication::openOrder(int index) {
+    const QVariantMap row = orders_.value(index).toMap();
+    journal_.clear();
+    open({.cart = {row[QStringLiteral("cart")].toString().toStdString(),
+                   row[QStringLiteral("consultant")].toULongLong(),
+                   row[QStringLiteral("country")].toString().toStdString()},
+          .accessToken = "sample-access-token",
+          .authorizationProvider = "sample-idp"});
+}
+
+void HostApplication::navigateToCart() {
+    journal_.navigated(QStringLiteral("navigateToCart"));
+    showHostPage(QStringLiteral("Carrito"),
+                 QStringLiteral("Aquí la aplicación anfitriona muestra el carrito de la consultora."),
+                 int(kel::KelIconNumber::cart));
+}
+
+void HostApplication::navigateToHome() {
+    journal_.navigated(QStringLiteral("navigateToHome"));
+    close();
+}
+
+void HostApplication::navigateToShareMagazine() {
+    journal_.navigated(QStringLiteral("navigateToShareMagazine"));
+    showHostPage(QStringLiteral("Revista digital"),
+                 QStringLiteral("Aquí la aplicación anfitriona comparte la revista con los clientes."),
+                 int(kel::KelIconNumber::share));
+}
+
+void HostApplication::showHostPage(const QString& title, const QString& message, int icon) {
+    QMetaObject::invokeMethod(window(), "showHostPage", Q_ARG(QVariant, title), Q_ARG(QVariant, message),
+                              Q_ARG(QVariant, icon));
+}
+
+} // namespace demo

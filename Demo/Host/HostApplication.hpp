@@ -1,0 +1,62 @@
+#pragma once
+
+#include "Entry/Quillet.hpp"
+#include "Sandbox/Journal.hpp"
+
+#include <QObject>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+#include <memory>
+
+namespace demo {
+
+/// The sample host: one window with a phone-sized screen, on which it opens the module, and beside it, where
+/// there is room, the journal. It is also the module's navigation delegate. Main thread only.
+class HostApplication final : public QObject, public quillet::QuilletNavigationDelegate {
+    Q_OBJECT
+    Q_PROPERTY(QVariantList orders READ orders CONSTANT FINAL)
+    Q_PROPERTY(QObject* journal READ journal CONSTANT FINAL)
+
+public:
+    /// `orders` are the incoming orders that the home screen lists, as JSON.
+    HostApplication(Journal& journal, const QByteArray& orders);
+    ~HostApplication() override;
+
+    /// Loads the window. False, with the reason on standard error, if its QML does not load.
+    [[nodiscard]] bool load(const std::shared_ptr<HostApplication>& self);
+    [[nodiscard]] QQuickWindow* window() const;
+    /// The phone-sized part of the window.
+    [[nodiscard]] QQuickItem* phone() const;
+
+    struct Order {
+        quillet::CartForConsultant cart;
+        std::string accessToken;
+        std::string authorizationProvider;
+        quillet::Environment environment = quillet::Environment::dev;
+    };
+    /// Opens the module for an order; false if its token cannot be signed or its screen not shown.
+    bool open(const Order& order);
+    /// Takes the module away.
+    void close();
+
+    /// Opens the order at `index` of the home screen's list.
+    Q_INVOKABLE void openOrder(int index);
+
+    void navigateToCart() override;
+    void navigateToHome() override;
+    void navigateToShareMagazine() override;
+
+    [[nodiscard]] QVariantList orders() const { return orders_; }
+    [[nodiscard]] QObject* journal() const { return &journal_; }
+
+private:
+    void showHostPage(const QString& title, const QString& message, int icon);
+
+    Journal& journal_;
+    QVariantList orders_;
+    std::weak_ptr<HostApplication> self_;
+    QQmlApplicationEngine engine_;
+};
+
+} // namespace demo

@@ -1,0 +1,139 @@
+#include "Options.hpp"
+
+#include <QCommandLineParser>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace demo {
+
+namespace {
+
+std::optional<quint16> portNumber(const QString& text) {
+    bool ok = false;
+    const uint port = text.toUInt(&ok);
+    return ok && port >= 1 && port <= 65535 ? std::optional(static_cast<quint16>(port)) : std::nullopt;
+}
+
+/// HOST:PORT, where HOST may be an IPv6 address in brackets.
+bool readGateway(const QString& text, Options& options) {
+    const auto colon = text.lastIndexOf(u':');
+    const auto port = colon > 0 ? portNumber(text.mid(colon + 1)) : std::nullopt;
+    QString host = text.left(colon);
+    if (host.startsWith(u'[') && host.endsWith(u']')) {
+        host = host.mid(1, host.size() - 2);
+    }
+    if (!port || host.isEmpty()) {
+        return false;
+    }
+    options.gatewayHost = host;
+    options.gatewayPort = *port;
+    return true;
+}
+
+/// What is wrong with a file of certificate authorities; empty if nothing is.
+QString caFileFault(const QString& path) {
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return QStringLiteral("cannot read the CA file ") + path;
+    }
+    return file.readAll().contains("-----BEGIN CERTIFICATE-----")
+               ? QString()
+               : QStringLiteral("no certificate in the CA file ") + path;
+}
+
+} // namespace
+
+std::expected<Options, QString> parseOptions(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("The sample host: opens customers' orders in the module, in a window or as a play."));
+    const QCommandLineOption help(QStringLiteral("help"), QStringLiteral("Show this help."));
+    const QCommandLineOption tour(QStringLiteral("tour"),
+                                  QStringLiteral("Play every outcome without a display."),
+                                  QStringLiteral("DIR"));
+    const QCommandLineOption play(QStringLiteral("play"), QStringLiteral("Play one file of steps."),
+                                  QStringLiteral("FILE"));
+    const QCommandLineOption out(QStringLiteral("out"), QStringLiteral("Where the play leaves its pictures."),
+                                 QStringLiteral("DIR"));
+    const QCommandLineOption gateway(QStringLiteral("gateway"),
+                                     QStringLiteral("Play against this server instead of the project's own."),
+                                     QStringLiteral("HOST:PORT"));
+    const QCommandLineOption ca(QStringLiteral("ca"),
+                                QStringLiteral("The authorities that server is trusted by."),
+                                QStringLiteral("FILE"));
+    const QCommandLineOption port(QStringLiteral("port"), QStringLiteral("Port of the local gateway."),
+                                  QStringLiteral("N"));
+    const QCommandLineOption reset(QStringLiteral("reset"), QStringLiteral("Seed the local gateway afresh."));
+    const QCommandLineOption data(QStringLiteral("data"),
+                                  QStringLiteral("Where the local gateway keeps its state."),
+                                  QStringLiteral("DIR"));
+    const QCommandLineOption program(QStringLiteral("gateway-program"),
+                                     QStringLiteral("The gateway to start."), QStringLiteral("FILE"));
+    const QCommandLineOption language(QStringLiteral("language"), QStringLiteral("es, pt or en (es)."),
+                                      QStringLiteral("CODE"), QStringLiteral("es"));
+    parser.addOptions({help, tour, play, out, gateway, ca, port, reset, data, program, language});
+
+    if (!parser.parse(arguments)) {
+        return std::unexpected(parser.errorText());
+    }
+    if (parser.isSet(help)) {
+        std::fputs(qPrintable(parser.helpText()), stdout);
+        return std::unexpected(QString());
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        return std::unexpected(QStringLiteral("not understood: ") + parser.positionalArguments().first());
+    }
+
+    Options options;
+    options.dataFolder = parser.value(data);
+    options.gatewayProgram = parser.value(program);
+    options.reset = parser.isSet(reset);
+    options.language = parser.value(language);
+    if (!QStringList{QStringLiteral("es"), QStringLiteral("pt"), QStringLiteral("en")}.contains(
+            options.language)) {
+        return std::unexpected(QStringLiteral("--language is es, pt or en, not ") + options.language);
+    }
+    if (parser.isSet(tour) && parser.isSet(play)) {
+        return std::unexpected(QStringLiteral("--tour and --play do not go together"));
+    }
+    if (parser.isSet(port)) {
+        const auto number = portNumber(parser.value(port));
+        if (!number) {
+            return std::unexpected(QStringLiteral("not a port: ") + parser.value(port));
+        }
+        options.port = *number;
+    }
+    if (parser.isSet(tour)) {
+        options.mode = Options::Mode::tour;
+        options.outFolder = parser.value(tour);
+    }
+    if (parser.isSet(play)) {
+        options.mode = Options::Mode::play;
+        options.playFile = parser.value(play);
+        options.outFolder = parser.value(out);
+    }
+    if (options.mode != Options::Mode::window && options.outFolder.isEmpty()) {
+        return std::unexpected(options.mode == Options::Mode::play ? QStringLiteral("--play needs --out DIR")
+                                                                   : QStringLiteral("--tour needs a folder"));
+    }
+    if (parser.isSet(out) && !parser.isSet(play)) {
+        return std::unexpected(QStringLiteral("--out goes with --play"));
+    }
+    if (parser.isSet(gateway) != parser.isSet(ca) || (parser.isSet(gateway) && !parser.isSet(play))) {
+        return std::unexpected(QStringLiteral("--gateway and --ca go together, and with --play"));
+    }
+    if (parser.isSet(gateway)) {
+        if (!readGateway(parser.value(gateway), options)) {
+            return std::unexpected(QStringLiteral("--gateway is HOST:PORT, not ") + parser.value(gateway));
+        }
+        options.caFile = parser.value(ca);
+        if (const QString fault = caFileFault(options.caFile); !fault.isEmpty()) {
+            return std::unexpected(fault);
+        }
+    }
+    return options;
+}
+
+} // namespace demo

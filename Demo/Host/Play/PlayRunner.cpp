@@ -1,0 +1,231 @@
+#include "Play/PlayRunner.hpp"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QJsonArray>
+#include <QMouseEvent>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace demo {
+
+namespace {
+
+/// How often a waiting step looks again.
+constexpr std::chrono::milliseconds kGlance{20};
+
+void letTimePass(std::chrono::milliseconds time) {
+    QEventLoop loop;
+    QTimer::singleShot(time, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+QPointF middle(const QQuickItem& item) {
+    return item.mapToScene(QPointF(item.width() / 2, item.height() / 2));
+}
+
+/// A dialog's card stands in the middle, so a tap just below the upper edge is on the background.
+QPointF upperEdge(const QQuickItem& item) {
+    return item.mapToScene(QPointF(item.width() / 2, 4));
+}
+
+} // namespace
+
+PlayRunner::PlayRunner(HostApplication& host, Journal& journal,
+                       std::shared_ptr<SwitchableNetworkPath> network, QString shots)
+    : host_(host),
+      journal_(journal),
+      network_(std::move(network)),
+      shots_(std::move(shots)),
+      reader_(*host.phone()) {}
+
+QJsonObject PlayRunner::run(const PlayScript& play) {
+    journal_.clear();
+    network_->setOn(true);
+    QJsonArray reports;
+    bool ok = true;
+    for (const PlayLine& line : play.lines) {
+        const QString missing = perform(line.step);
+        ok = missing.isEmpty();
+        QJsonArray texts = QJsonArray::fromStringList(reader_.texts());
+        QJsonObject report{{QStringLiteral("step"), line.text},
+                           {QStringLiteral("ok"), ok},
+                           {QStringLiteral("title"), title()},
+                           {QStringLiteral("texts"), texts}};
+        if (const auto* shot = std::get_if<steps::Shot>(&line.step); shot && ok) {
+            report[QStringLiteral("shot")] = shot->name + QStringLiteral(".png");
+        }
+        if (!ok) {
+            report[QStringLiteral("missing")] = missing;
+        }
+        reports.append(report);
+        if (!ok) {
+            break;
+        }
+    }
+    const QJsonObject result{{QStringLiteral("name"), play.name},
+                             {QStringLiteral("ok"), ok},
+                             {QStringLiteral("steps"), reports},
+                             {QStringLiteral("requests"), journal_.requestsJson()},
+                             {QStringLiteral("analytics"), journal_.analyticsJson()},
+                             {QStringLiteral("navigation"), journal_.navigationJson()}};
+    host_.close();
+    wait(kPatience, [this] { return settled(); });
+    return result;
+}
+
+QString PlayRunner::perform(const Step& step) {
+    return std::visit([this](const auto& kind) { return perform(kind); }, step);
+}
+
+QString PlayRunner::perform(const steps::Open& step) {
+    return host_.open(step.order) ? QString() : QStringLiteral("the module did not open");
+}
+
+QString PlayRunner::perform(const steps::Close&) {
+    host_.close();
+    return wait(kPatience, [this] { return settled(); }) ? QString()
+                                                         : QStringLiteral("the module did not close");
+}
+
+QString PlayRunner::perform(const steps::Tap& step) {
+    const bool tapped = wait(kPatience, [&] {
+        if (tapHere(step.name)) {
+            return true;
+        }
+        scrollTowards(step.name);
+        return false;
+    });
+    return tapped ? QString() : QStringLiteral("nothing to tap is called \"%1\"").arg(step.name);
+}
+
+QString PlayRunner::perform(const steps::Expect& step) {
+    return wait(step.within, [&] { return settled() && reader_.shows(step.text); })
+               ? QString()
+               : QStringLiteral("not on the screen: \"%1\"").arg(step.text);
+}
+
+QString PlayRunner::perform(const steps::Absent& step) {
+    return wait(kPatience, [&] { return settled() && !reader_.shows(step.text); })
+               ? QString()
+               : QStringLiteral("still on the screen: \"%1\"").arg(step.text);
+}
+
+QString PlayRunner::perform(const steps::Title& step) {
+    return wait(kPatience, [&] { return settled() && title() == step.text; })
+               ? QString()
+               : QStringLiteral("the title is \"%1\"").arg(title());
+}
+
+QString PlayRunner::perform(const steps::Background&) {
+    return tapNamed(QStringLiteral("dialogBackground"), upperEdge) ? QString()
+                                                                   : QStringLiteral("there is no dialog");
+}
+
+QString PlayRunner::perform(const steps::CloseIcon&) {
+    return tapNamed(QStringLiteral("dialogCloseIcon"), middle) ? QString()
+                                                               : QStringLiteral("there is no dialog");
+}
+
+QString PlayRunner::perform(const steps::Back&) {
+    const bool went = wait(kPatience, [this] {
+        const auto* back = host_.phone()->findChild<QQuickItem*>(QStringLiteral("hostBack"));
+        if (!back || !settled() || !reader_.reaches(*back, middle(*back))) {
+            return false;
+        }
+        click(middle(*back));
+        return true;
+    });
+    return went ? QString() : QStringLiteral("there is no way back");
+}
+
+QString PlayRunner::perform(const steps::Shot& step) {
+    const QString file = shots_ + u'/' + step.name + QStringLiteral(".png");
+    wait(kPatience, [this] { return settled(); });
+    // Two frames: bindings that the last tap set off have been drawn by the second.
+    letTimePass(2 * kGlance);
+    return host_.window()->grabWindow().save(file) ? QString() : QStringLiteral("cannot write %1").arg(file);
+}
+
+QString PlayRunner::perform(const steps::Network& step) {
+    network_->setOn(step.on);
+    return {};
+}
+
+bool PlayRunner::wait(std::chrono::milliseconds patience, const std::function<bool()>& done) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!done()) {
+        if (std::chrono::milliseconds(timer.elapsed()) > patience) {
+            return false;
+        }
+        letTimePass(kGlance);
+    }
+    return true;
+}
+
+bool PlayRunner::tapNamed(const QString& objectName, std::function<QPointF(const QQuickItem&)> where) {
+    return wait(kPatience, [&] {
+        const QQuickItem* item = settled() ? reader_.named(objectName) : nullptr;
+        if (!item || !reader_.reaches(*item, where(*item))) {
+            return false;
+        }
+        click(where(*item));
+        return true;
+    });
+}
+
+bool PlayRunner::tapHere(const QString& name) {
+    if (!settled()) {
+        return false;
+    }
+    for (const ScreenElement& element : reader_.elements()) {
+        if ((element.text == name || element.item->objectName() == name) && element.visible &&
+            element.enabled) {
+            click(element.center);
+            return true;
+        }
+    }
+    return false;
+}
+
+void PlayRunner::click(QPointF point) {
+    QQuickWindow* window = host_.window();
+    const QPointF global = window->mapToGlobal(point);
+    QMouseEvent press(QEvent::MouseButtonPress, point, point, global, Qt::LeftButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(window, &press);
+    QMouseEvent release(QEvent::MouseButtonRelease, point, point, global, Qt::LeftButton, Qt::NoButton, {});
+    QCoreApplication::sendEvent(window, &release);
+}
+
+void PlayRunner::scrollTowards(const QString& name) {
+    QQuickItem* page = settled() ? reader_.scrollable() : nullptr;
+    if (!page) {
+        return;
+    }
+    const double origin = page->property("originY").toDouble();
+    const double last = origin + page->property("contentHeight").toDouble() - page->height();
+    const double here = page->property("contentY").toDouble();
+    double next = here >= last - 1 ? origin : here + 0.7 * page->height();
+    for (const ScreenElement& element : reader_.elements()) {
+        if (element.text == name || element.item->objectName() == name) {
+            const QPointF corner = page->mapToScene(QPointF(0, 0));
+            next = here + element.center.y() - corner.y() - page->height() / 2;
+        }
+    }
+    page->setProperty("contentY", std::clamp(next, origin, std::max(origin, last)));
+}
+
+QString PlayRunner::title() const {
+    const auto* bar = host_.phone()->findChild<QQuickItem*>(QStringLiteral("hostBar"));
+    return bar ? bar->property("title").toString() : QString();
+}
+
+bool PlayRunner::settled() const {
+    const auto* stack = host_.window()->property("stack").value<QQuickItem*>();
+    return stack && !stack->property("busy").toBool();
+}
+
+} // namespace demo

@@ -1,0 +1,184 @@
+#include "Play/PlayScript.hpp"
+
+#include <QHash>
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <cmath>
+#include <functional>
+#include <optional>
+
+namespace demo {
+
+namespace {
+
+using Words = QStringList;
+using Parsed = std::expected<Step, QString>;
+
+/// Splits at blanks outside double quotes; nothing if a quote is left open.
+std::optional<Words> split(const QString& line) {
+    Words words;
+    QString word;
+    bool quoted = false;
+    bool started = false;
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        const QChar c = line[i];
+        if (c == u'"') {
+            quoted = !quoted;
+            started = true;
+        } else if (quoted && c == u'\\' && i + 1 < line.size()) {
+            word += line[++i];
+        } else if (!quoted && c.isSpace()) {
+            if (started) {
+                words << word;
+            }
+            word.clear();
+            started = false;
+        } else {
+            word += c;
+            started = true;
+        }
+    }
+    if (started) {
+        words << word;
+    }
+    return quoted ? std::nullopt : std::optional(words);
+}
+
+/// The words "key=value" of a step; nothing if one is not of that form, unknown, or there twice.
+std::optional<QHash<QString, QString>> settings(const Words& words, const QStringList& known) {
+    QHash<QString, QString> values;
+    for (const QString& word : words) {
+        const QString key = word.section(u'=', 0, 0);
+        if (!word.contains(u'=') || !known.contains(key) || values.contains(key)) {
+            return std::nullopt;
+        }
+        values[key] = word.section(u'=', 1);
+    }
+    return values;
+}
+
+Parsed parseOpen(const Words& words) {
+    const auto values =
+        settings(words, {QStringLiteral("cart"), QStringLiteral("consultant"), QStringLiteral("country"),
+                         QStringLiteral("token"), QStringLiteral("provider"), QStringLiteral("environment")});
+    if (!values || !values->contains(QStringLiteral("cart")) ||
+        !values->contains(QStringLiteral("consultant")) || !values->contains(QStringLiteral("country"))) {
+        return std::unexpected(
+            QStringLiteral("open takes cart=UUID consultant=N country=CC, and token=, provider= "
+                           "and environment= if wanted"));
+    }
+    bool ok = false;
+    steps::Open open;
+    open.order.cart = {values->value(QStringLiteral("cart")).toStdString(),
+                       values->value(QStringLiteral("consultant")).toULongLong(&ok),
+                       values->value(QStringLiteral("country")).toStdString()};
+    if (!ok) {
+        return std::unexpected(QStringLiteral("not a consultant's number: ") +
+                               values->value(QStringLiteral("consultant")));
+    }
+    open.order.accessToken =
+        values->value(QStringLiteral("token"), QStringLiteral("sample-access-token")).toStdString();
+    open.order.authorizationProvider =
+        values->value(QStringLiteral("provider"), QStringLiteral("sample-idp")).toStdString();
+    static const QHash<QString, quillet::Environment> environments{
+        {QStringLiteral("dev"), quillet::Environment::dev},
+        {QStringLiteral("hml"), quillet::Environment::hml},
+        {QStringLiteral("prd"), quillet::Environment::prd}};
+    const QString environment = values->value(QStringLiteral("environment"), QStringLiteral("dev"));
+    if (!environments.contains(environment)) {
+        return std::unexpected(QStringLiteral("environment is dev, hml or prd, not ") + environment);
+    }
+    open.order.environment = environments[environment];
+    return open;
+}
+
+Parsed parseExpect(const Words& words) {
+    const auto values = settings(words.mid(1), {QStringLiteral("within")});
+    if (words.isEmpty() || !values) {
+        return std::unexpected(QStringLiteral("expect takes a text, and within=SECONDS if wanted"));
+    }
+    auto within = kPatience;
+    if (values->contains(QStringLiteral("within"))) {
+        bool ok = false;
+        const double seconds = values->value(QStringLiteral("within")).toDouble(&ok);
+        if (!ok || !(seconds >= 0 && seconds <= 3600)) {
+            return std::unexpected(QStringLiteral("within takes seconds, from 0 to 3600"));
+        }
+        within = std::chrono::milliseconds(std::llround(seconds * 1000));
+    }
+    return steps::Expect{words.first(), within};
+}
+
+template <typename TextStep>
+Parsed parseText(const Words& words) {
+    return words.size() == 1 ? Parsed(TextStep{words.first()})
+                             : std::unexpected(QStringLiteral("this step takes one text"));
+}
+
+template <typename BareStep>
+Parsed parseBare(const Words& words) {
+    return words.isEmpty() ? Parsed(BareStep{}) : std::unexpected(QStringLiteral("this step takes nothing"));
+}
+
+Parsed parseShot(const Words& words) {
+    static const QRegularExpression plainName(QStringLiteral("^[A-Za-z0-9][A-Za-z0-9._-]*$"));
+    return words.size() == 1 && plainName.match(words.first()).hasMatch()
+               ? Parsed(steps::Shot{words.first()})
+               : std::unexpected(QStringLiteral("shot takes a name of letters, digits, points and dashes"));
+}
+
+Parsed parseNetwork(const Words& words) {
+    const QString state = words.value(0);
+    return words.size() == 1 && (state == QLatin1String("on") || state == QLatin1String("off"))
+               ? Parsed(steps::Network{state == QLatin1String("on")})
+               : std::unexpected(QStringLiteral("network takes on or off"));
+}
+
+Parsed parseStep(const QString& line) {
+    static const QHash<QString, std::function<Parsed(const Words&)>> parsers{
+        {QStringLiteral("open"), parseOpen},
+        {QStringLiteral("close"), parseBare<steps::Close>},
+        {QStringLiteral("tap"), parseText<steps::Tap>},
+        {QStringLiteral("expect"), parseExpect},
+        {QStringLiteral("absent"), parseText<steps::Absent>},
+        {QStringLiteral("title"), parseText<steps::Title>},
+        {QStringLiteral("background"), parseBare<steps::Background>},
+        {QStringLiteral("close-icon"), parseBare<steps::CloseIcon>},
+        {QStringLiteral("back"), parseBare<steps::Back>},
+        {QStringLiteral("shot"), parseShot},
+        {QStringLiteral("network"), parseNetwork},
+    };
+    const auto words = split(line);
+    if (!words) {
+        return std::unexpected(QStringLiteral("a quotation mark is left open"));
+    }
+    const auto parser = parsers.constFind(words->value(0));
+    return parser == parsers.constEnd()
+               ? std::unexpected(QStringLiteral("unknown step \"%1\"").arg(words->value(0)))
+               : (*parser)(words->mid(1));
+}
+
+} // namespace
+
+std::expected<PlayScript, QString> parsePlay(const QString& name, const QString& text) {
+    PlayScript play{name, {}};
+    const QStringList lines = text.split(u'\n');
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const QString line = lines[i].trimmed();
+        if (line.isEmpty() || line.startsWith(u'#')) {
+            continue;
+        }
+        auto step = parseStep(line);
+        if (!step) {
+            return std::unexpected(QStringLiteral("%1, line %2: %3").arg(name).arg(i + 1).arg(step.error()));
+        }
+        play.lines.push_back({line, std::move(*step)});
+    }
+    if (play.lines.empty()) {
+        return std::unexpected(QStringLiteral("%1 has no steps").arg(name));
+    }
+    return play;
+}
+
+} // namespace demo

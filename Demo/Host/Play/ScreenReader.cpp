@@ -1,0 +1,176 @@
+#include "Play/ScreenReader.hpp"
+
+#include <QAccessible>
+#include <QQuickWindow>
+
+#include <algorithm>
+#include <cmath>
+
+namespace demo {
+
+namespace {
+
+constexpr double kInvisible = 0.05;
+/// Elements whose middles are closer than this stand on one line.
+constexpr double kLine = 8;
+
+/// Children from bottom to top, as they are painted.
+QList<QQuickItem*> paintOrder(const QQuickItem& item) {
+    QList<QQuickItem*> children = item.childItems();
+    std::ranges::stable_sort(children, {}, &QQuickItem::z);
+    return children;
+}
+
+bool drawn(const QQuickItem& item) {
+    double opacity = 1;
+    for (const QQuickItem* i = &item; i; i = i->parentItem()) {
+        opacity *= i->opacity();
+    }
+    return item.isVisible() && opacity > kInvisible;
+}
+
+QRectF sceneRect(const QQuickItem& item) {
+    return item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
+}
+
+/// Inside the window and every ancestor that cuts off what leaves it.
+bool inside(const QQuickItem& item, QPointF point) {
+    for (const QQuickItem* i = item.parentItem(); i; i = i->parentItem()) {
+        if (i->clip() && !sceneRect(*i).contains(point)) {
+            return false;
+        }
+    }
+    const QQuickWindow* window = item.window();
+    return window && QRectF(0, 0, window->width(), window->height()).contains(point);
+}
+
+bool isWithin(const QQuickItem* item, const QQuickItem& ancestor) {
+    while (item && item != &ancestor) {
+        item = item->parentItem();
+    }
+    return item != nullptr;
+}
+
+/// The topmost item that decides about `target` at this point: the target itself or something inside it, or
+/// whatever lies above it and takes taps.
+const QQuickItem* topmost(const QQuickItem& root, const QQuickItem& target, QPointF point) {
+    // What has faded out but is still there takes taps all the same.
+    if (!root.isVisible()) {
+        return nullptr;
+    }
+    const bool hit = sceneRect(root).contains(point);
+    if (root.clip() && !hit) {
+        return nullptr;
+    }
+    QList<QQuickItem*> children = paintOrder(root);
+    for (auto child = children.crbegin(); child != children.crend(); ++child) {
+        if (const QQuickItem* found = topmost(**child, target, point)) {
+            return found;
+        }
+    }
+    return hit && (&root == &target || root.acceptedMouseButtons() != Qt::NoButton) ? &root : nullptr;
+}
+
+QString accessibleName(QQuickItem& item) {
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&item);
+    if (!interface) {
+        return {};
+    }
+    switch (interface->role()) {
+    // A container that is named after a text inside it would say that text twice.
+    case QAccessible::Dialog:
+    case QAccessible::Animation:
+    case QAccessible::Client:
+        return {};
+    default:
+        return interface->text(QAccessible::Name);
+    }
+}
+
+} // namespace
+
+void ScreenReader::collect(QQuickItem& item, bool host, QList<QQuickItem*>& items) const {
+    // Below the stack only a page with a view controller is the module's; beside the stack only its overlays
+    // are.
+    if (item.objectName() == QLatin1String("hostBar")) {
+        return;
+    }
+    if (item.inherits("QQuickStackView")) {
+        host = true;
+    }
+    if (host && item.property("viewController").isValid()) {
+        host = false;
+    }
+    if (!host) {
+        items << &item;
+    }
+    for (QQuickItem* child : paintOrder(item)) {
+        collect(*child, host, items);
+    }
+}
+
+QList<QQuickItem*> ScreenReader::items() const {
+    QList<QQuickItem*> items;
+    collect(phone_, false, items);
+    return items;
+}
+
+QList<ScreenElement> ScreenReader::elements() const {
+    QList<ScreenElement> elements;
+    for (QQuickItem* item : items()) {
+        const QString name = drawn(*item) ? accessibleName(*item) : QString();
+        if (!name.isEmpty()) {
+            const QPointF center = sceneRect(*item).center();
+            elements << ScreenElement{item, name, center, reaches(*item, center), item->isEnabled()};
+        }
+    }
+    std::ranges::stable_sort(elements, [](const ScreenElement& a, const ScreenElement& b) {
+        const double lineA = std::floor(a.center.y() / kLine);
+        const double lineB = std::floor(b.center.y() / kLine);
+        return lineA != lineB ? lineA < lineB : a.center.x() < b.center.x();
+    });
+    return elements;
+}
+
+QStringList ScreenReader::texts() const {
+    QStringList texts;
+    for (const ScreenElement& element : elements()) {
+        if (element.visible) {
+            texts << element.text;
+        }
+    }
+    return texts;
+}
+
+bool ScreenReader::shows(const QString& text) const {
+    return texts().contains(text);
+}
+
+bool ScreenReader::reaches(const QQuickItem& item, QPointF point) const {
+    if (!drawn(item) || !inside(item, point)) {
+        return false;
+    }
+    const QQuickItem* top = topmost(*item.window()->contentItem(), item, point);
+    return top && isWithin(top, item);
+}
+
+QQuickItem* ScreenReader::named(const QString& objectName) const {
+    for (QQuickItem* item : items()) {
+        if (item->objectName() == objectName && drawn(*item)) {
+            return item;
+        }
+    }
+    return nullptr;
+}
+
+QQuickItem* ScreenReader::scrollable() const {
+    for (QQuickItem* item : items()) {
+        if (item->inherits("QQuickFlickable") && drawn(*item) &&
+            item->property("contentHeight").toDouble() > item->height()) {
+            return item;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace demo

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QList>
+#include <QPointF>
+#include <QQuickItem>
+#include <QStringList>
+
+namespace demo {
+
+/// Something on the screen that says something: what a person sees of it and a screen reader would read.
+struct ScreenElement {
+    QQuickItem* item = nullptr;
+    QString text;
+    /// The middle of the element, in the window.
+    QPointF center;
+    /// In the window, and not under a dialog or an overlay.
+    bool visible = false;
+    bool enabled = false;
+};
+
+/// Reads the phone-sized screen as a person would: what counts is what is drawn, not what exists.
+class ScreenReader {
+public:
+    /// `phone` holds the bar and the stack; only the module's own screen is read.
+    explicit ScreenReader(QQuickItem& phone) : phone_(phone) {}
+
+    /// All elements of the module's screen in reading order, whether or not they can be seen.
+    [[nodiscard]] QList<ScreenElement> elements() const;
+    /// The texts that can be seen, in reading order.
+    [[nodiscard]] QStringList texts() const;
+    [[nodiscard]] bool shows(const QString& text) const;
+    /// Whether a tap at this point of the window would reach the item.
+    [[nodiscard]] bool reaches(const QQuickItem& item, QPointF point) const;
+    /// A visible item of the screen by its object name; null if there is none.
+    [[nodiscard]] QQuickItem* named(const QString& objectName) const;
+    /// The list or page that scrolls on the module's screen; null if nothing does.
+    [[nodiscard]] QQuickItem* scrollable() const;
+
+private:
+    void collect(QQuickItem& item, bool host, QList<QQuickItem*>& items) const;
+    [[nodiscard]] QList<QQuickItem*> items() const;
+
+    QQuickItem& phone_;
+};
+
+} // namespace demo

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+
+#include <expected>
+
+namespace demo {
+
+/// The address of a gateway, and the authority that vouches for it.
+struct GatewayAddress {
+    QString host = QStringLiteral("127.0.0.1");
+    quint16 port = 0;
+    QString caFile;
+};
+
+/// The local gateway as a child process. It ends with this object, and with the host should that die.
+class GatewayProcess final {
+public:
+    ~GatewayProcess();
+
+    struct Settings {
+        QString program;
+        QString dataFolder;
+        quint16 port = 0;
+        bool reset = false;
+    };
+    /// Starts the gateway and waits, ten seconds at the most, until it listens. The error is one line for a
+    /// person.
+    [[nodiscard]] std::expected<GatewayAddress, QString> start(const Settings& settings);
+
+    /// The customers' orders that the gateway has been seeded with, as its `--list` tells them.
+    [[nodiscard]] static QByteArray seededOrders(const Settings& settings);
+
+private:
+    QProcess process_;
+};
+
+} // namespace demo

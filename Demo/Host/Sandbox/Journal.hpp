@@ -1,0 +1,51 @@
+#pragma once
+
+#include "KelCommon/KelAnalytics.hpp"
+#include "Network/Session/URLSessionObserving.hpp"
+
+#include <QJsonArray>
+#include <QObject>
+#include <QVariantList>
+
+namespace demo {
+
+/// What a host's developer wants to see of the module while it runs: its requests and their answers, the
+/// analytics and the navigation it asked for, each in the order of happening. Main thread only.
+class Journal final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QVariantList requests READ requests NOTIFY requestsChanged FINAL)
+    Q_PROPERTY(QVariantList analytics READ analytics NOTIFY analyticsChanged FINAL)
+    Q_PROPERTY(QVariantList navigation READ navigation NOTIFY navigationChanged FINAL)
+
+public:
+    void requestStarted(quint64 exchange, const quillet::URLRequest& request);
+    void requestEnded(quint64 exchange, const quillet::URLRequest& request,
+                      const quillet::URLSessionExchangeEnd& end);
+    void screenTracked(const QString& name);
+    void eventTracked(const kel::KelAnalyticsEventType& event);
+    void navigated(const QString& operation);
+    void clear();
+
+    [[nodiscard]] QVariantList requests() const { return requests_; }
+    [[nodiscard]] QVariantList analytics() const { return analytics_; }
+    [[nodiscard]] QVariantList navigation() const { return navigation_; }
+
+    /// The same for a report, without times. The value of the token is its length.
+    [[nodiscard]] QJsonArray requestsJson() const;
+    [[nodiscard]] QJsonArray analyticsJson() const;
+    [[nodiscard]] QJsonArray navigationJson() const;
+
+Q_SIGNALS:
+    void requestsChanged();
+    void analyticsChanged();
+    void navigationChanged();
+
+private:
+    qsizetype entry(quint64 exchange, const quillet::URLRequest& request);
+
+    QVariantList requests_;
+    QVariantList analytics_;
+    QVariantList navigation_;
+};
+
+} // namespace demo

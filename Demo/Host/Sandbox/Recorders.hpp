@@ -1,0 +1,65 @@
+#pragma once
+
+#include "KelCommon/KelAnalytics.hpp"
+#include "Network/Session/NetworkPathMonitoring.hpp"
+#include "Network/Session/URLSessionObserving.hpp"
+#include "Sandbox/Journal.hpp"
+
+#include <QPointer>
+
+#include <atomic>
+
+namespace demo {
+
+/// Brings what the sessions report on their own threads to the journal on the main thread.
+class TrafficRecorder final : public quillet::URLSessionObserving {
+public:
+    explicit TrafficRecorder(Journal& journal) : journal_(journal) {}
+
+    void willSend(std::uint64_t exchange, const quillet::URLRequest& request) override {
+        post([=](Journal& journal) { journal.requestStarted(exchange, request); });
+    }
+    void didEnd(std::uint64_t exchange, const quillet::URLRequest& request,
+                const quillet::URLSessionExchangeEnd& end) override {
+        post([=](Journal& journal) { journal.requestEnded(exchange, request, end); });
+    }
+
+private:
+    template <typename Entry>
+    void post(Entry entry) {
+        QMetaObject::invokeMethod(
+            &journal_, [this, entry] { entry(journal_); }, Qt::QueuedConnection);
+    }
+
+    // Outlives every session: the process ends with it.
+    Journal& journal_;
+};
+
+/// The sink that the host installs in its analytics manager.
+class AnalyticsRecorder final : public kel::KelAnalyticsManagerType {
+public:
+    explicit AnalyticsRecorder(Journal& journal) : journal_(journal) {}
+
+    void trackScreen(const kel::KelAnalyticsScreenType& screen) override {
+        journal_.screenTracked(QString::fromStdString(screen.name()));
+    }
+    void trackEvent(const kel::KelAnalyticsEventType& event) override { journal_.eventTracked(event); }
+
+private:
+    Journal& journal_;
+};
+
+/// A network that can be switched off, as a consultant on the underground would have it.
+class SwitchableNetworkPath final : public quillet::NetworkPathMonitoring {
+public:
+    [[nodiscard]] bool isSatisfied(const std::string& host, bool isMapped) const override {
+        return on_ && system_.isSatisfied(host, isMapped);
+    }
+    void setOn(bool on) { on_ = on; }
+
+private:
+    std::atomic<bool> on_ = true;
+    quillet::SystemNetworkPathMonitor system_;
+};
+
+} // namespace demo

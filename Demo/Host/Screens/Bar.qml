@@ -1,0 +1,51 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import KelDS
+
+// The host's bar: title and way back of whatever is on top, as a module screen tells them.
+Rectangle {
+    id: bar
+
+    required property StackView stack
+    readonly property var screen: bar.stack.currentItem ? bar.stack.currentItem.viewController ?? null : null
+    readonly property string title: bar.screen ? bar.screen.title
+                                               : bar.stack.currentItem ? bar.stack.currentItem.title : ""
+    readonly property bool hasBack: bar.stack.depth > 1 && !(bar.screen && bar.screen.hidesBackButton)
+
+    objectName: "hostBar"
+    height: KelSizes.mediumX
+    color: KelColors.surface
+
+    AbstractButton {
+        id: back
+
+        objectName: "hostBack"
+        visible: bar.hasBack
+        width: KelSizes.mediumX
+        height: parent.height
+        Accessible.role: Accessible.Button
+        Accessible.name: "Atrás"
+        onClicked: bar.stack.pop()
+        contentItem: Item {
+            KelIcon {
+                anchors.centerIn: parent
+                number: KelIcons.ArrowBack
+                size: KelSizes.standard
+                color: KelColors.highEmphasis
+            }
+        }
+    }
+    KelLabel {
+        x: back.visible ? KelSizes.mediumX : KelSpacing.small
+        width: parent.width - x - KelSpacing.small
+        height: parent.height
+        text: bar.title
+        size: 5
+        weight: 1
+        elide: Text.ElideRight
+    }
+    KelDivider {
+        anchors.bottom: parent.bottom
+        width: parent.width
+    }
+}

@@ -1,0 +1,82 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import KelDS
+
+// Incoming orders, as they came over WhatsApp.
+ListView {
+    id: home
+
+    required property var host
+    readonly property string title: "Pedidos recibidos"
+
+    topMargin: KelSpacing.small
+    bottomMargin: KelSpacing.small
+    spacing: 12
+    model: home.host.orders
+    delegate: AbstractButton {
+        id: order
+
+        required property var modelData
+        required property int index
+
+        x: KelSpacing.small
+        width: ListView.view.width - 2 * KelSpacing.small
+        implicitHeight: card.implicitHeight
+        Accessible.role: Accessible.Button
+        Accessible.name: order.modelData.customer + ". " + order.modelData.title
+        onClicked: home.host.openOrder(order.index)
+        Keys.onReturnPressed: order.click()
+
+        contentItem: KelCard {
+            id: card
+
+            border.width: order.visualFocus ? 2 : 1
+            border.color: order.visualFocus ? KelColors.highEmphasis : KelColors.hairline
+            color: order.down ? KelColors.tint(KelColors.primary) : KelColors.surface
+
+            Row {
+                width: parent.width
+                spacing: 12
+
+                Rectangle {
+                    width: KelSizes.semiX
+                    height: KelSizes.semiX
+                    radius: width / 2
+                    color: KelColors.tint(KelColors.success)
+
+                    KelIcon {
+                        anchors.centerIn: parent
+                        number: KelIcons.Message
+                        size: KelSizes.standard
+                        color: KelColors.success
+                    }
+                }
+                Column {
+                    width: parent.width - KelSizes.semiX - 12
+                    spacing: KelSpacing.micro
+
+                    KelLabel {
+                        width: parent.width
+                        text: order.modelData.customer
+                        weight: 1
+                        wrapMode: Text.Wrap
+                    }
+                    KelLabel {
+                        width: parent.width
+                        text: order.modelData.title
+                        size: 7
+                        lineHeight: 1.2
+                        color: KelColors.mediumEmphasis
+                        wrapMode: Text.Wrap
+                    }
+                    KelLabel {
+                        text: order.modelData.consultant + " · " + order.modelData.country + " · "
+                              + String(order.modelData.cart).slice(0, 8)
+                        size: 11
+                        color: KelColors.mediumEmphasis
+                    }
+                }
+            }
+        }
+    }
+}

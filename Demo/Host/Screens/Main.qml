@@ -1,0 +1,67 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import KelDS
+import Demo
+
+ApplicationWindow {
+    id: window
+
+    required property var host
+    readonly property alias stack: stack
+    readonly property alias phone: phone
+    readonly property bool wide: window.width >= 800
+
+    width: 390
+    height: 844
+    visible: true
+    title: "Quillet"
+    color: KelColors.background
+
+    function showHome() {
+        stack.pop(null)
+    }
+    function showHostPage(title, message, icon) {
+        stack.pop(null, StackView.Immediate)
+        stack.push(page, { title: title, message: message, icon: icon })
+    }
+
+    Item {
+        id: phone
+
+        width: window.wide ? 390 : parent.width
+        height: parent.height
+        clip: window.wide
+
+        Bar {
+            id: bar
+
+            width: parent.width
+            stack: stack
+        }
+        StackView {
+            id: stack
+
+            anchors.top: bar.bottom
+            anchors.bottom: parent.bottom
+            width: parent.width
+            clip: true
+            initialItem: Home {
+                host: window.host
+            }
+        }
+    }
+    Component {
+        id: page
+
+        HostPage {}
+    }
+    Loader {
+        x: phone.width
+        width: parent.width - x
+        height: parent.height
+        active: window.wide
+        sourceComponent: Live {
+            journal: window.host.journal
+        }
+    }
+}

@@ -1,0 +1,146 @@
+#include "HostApplication.hpp"
+#include "KelCommon/KelLocalized.hpp"
+#include "Options.hpp"
+#include "Play/PlayRunner.hpp"
+#include "Sandbox/Platform.hpp"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+constexpr int kFailed = 1;
+constexpr int kUsage = 2;
+
+int complain(const QString& line, int status) {
+    std::fprintf(stderr, "quillet-host: %s\n", qUtf8Printable(line));
+    return status;
+}
+
+std::expected<std::vector<demo::PlayScript>, QString> readPlays(const demo::Options& options) {
+    QStringList files;
+    if (options.mode == demo::Options::Mode::play) {
+        files << options.playFile;
+    } else {
+        for (const QString& name : QDir(QStringLiteral(":/demo/plays")).entryList(QDir::Files, QDir::Name)) {
+            files << QStringLiteral(":/demo/plays/") + name;
+        }
+    }
+    std::vector<demo::PlayScript> plays;
+    for (const QString& path : files) {
+        QFile file(path);
+        if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+            return std::unexpected(QStringLiteral("cannot read the play ") + path);
+        }
+        auto play = demo::parsePlay(QFileInfo(path).completeBaseName(), QString::fromUtf8(file.readAll()));
+        if (!play) {
+            return std::unexpected(play.error());
+        }
+        plays.push_back(std::move(*play));
+    }
+    return plays;
+}
+
+int perform(const std::vector<demo::PlayScript>& plays, demo::PlayRunner& runner, const QString& outFolder) {
+    QJsonArray reports;
+    bool ok = true;
+    for (const demo::PlayScript& play : plays) {
+        const QJsonObject report = runner.run(play);
+        const bool met = report[QStringLiteral("ok")].toBool();
+        ok = ok && met;
+        std::printf("%s  %s\n", met ? "ok    " : "FAILED", qUtf8Printable(play.name));
+        if (!met) {
+            const QJsonObject step = report[QStringLiteral("steps")].toArray().last().toObject();
+            std::printf("        %s\n        %s\n", qUtf8Printable(step[QStringLiteral("step")].toString()),
+                        qUtf8Printable(step[QStringLiteral("missing")].toString()));
+        }
+        std::fflush(stdout);
+        reports.append(report);
+    }
+    QFile file(outFolder + QStringLiteral("/tour.json"));
+    const QByteArray json = QJsonDocument(QJsonObject{{QStringLiteral("plays"), reports}}).toJson();
+    if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size()) {
+        return complain(QStringLiteral("cannot write ") + file.fileName(), kFailed);
+    }
+    return ok ? 0 : kFailed;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments << QString::fromLocal8Bit(argv[i]);
+    }
+    const auto options = demo::parseOptions(arguments);
+    if (!options) {
+        return options.error().isEmpty() ? 0 : complain(options.error(), kUsage);
+    }
+    const bool plays = options->mode != demo::Options::Mode::window;
+    std::vector<demo::PlayScript> scripts;
+    if (plays) {
+        auto read = readPlays(*options);
+        if (!read) {
+            return complain(read.error(), kUsage);
+        }
+        scripts = std::move(*read);
+        if (!QDir().mkpath(options->outFolder)) {
+            return complain(QStringLiteral("cannot make the folder ") + options->outFolder, kFailed);
+        }
+        // A play needs no display, and its pictures are as fine as a phone's.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_SCALE_FACTOR", "2");
+    }
+
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("quillet-host"));
+    kel::setLanguage(options->language);
+
+    QTemporaryDir freshData;
+    demo::GatewayProcess gateway;
+    demo::GatewayProcess::Settings settings{
+        .program = options->gatewayProgram.isEmpty()
+                       ? QCoreApplication::applicationDirPath() + QStringLiteral("/quillet-gateway")
+                       : options->gatewayProgram,
+        .dataFolder = plays || options->dataFolder.isEmpty() ? freshData.path() : options->dataFolder,
+        .port = options->port,
+        .reset = plays || options->reset};
+    demo::GatewayAddress address{options->gatewayHost.value_or(QString()), options->gatewayPort,
+                                 options->caFile};
+    QByteArray orders;
+    if (!options->gatewayHost) {
+        QDir().mkpath(settings.dataFolder);
+        const auto started = gateway.start(settings);
+        if (!started) {
+            return complain(started.error(), kFailed);
+        }
+        address = *started;
+        orders = demo::GatewayProcess::seededOrders(settings);
+    }
+
+    demo::Journal journal;
+    const auto network = demo::configurePlatform(address, journal);
+    const auto host = std::make_shared<demo::HostApplication>(journal, orders);
+    if (!host->load(host)) {
+        return complain(QStringLiteral("the window does not load"), kFailed);
+    }
+    if (!plays) {
+        return QGuiApplication::exec();
+    }
+    demo::PlayRunner runner(*host, journal, network, options->outFolder);
+    const int status = perform(scripts, runner, options->outFolder);
+    if (!options->gatewayHost) {
+        const QString log = options->outFolder + QStringLiteral("/gateway.log");
+        QFile::remove(log);
+        QFile::copy(settings.dataFolder + QStringLiteral("/gateway.log"), log);
+    }
+    return status;
+}

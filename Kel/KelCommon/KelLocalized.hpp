@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+namespace kel {
+
+/// Where a library keeps its string tables: Qt Linguist tables called "<table>_<language>.qm" in a resource
+/// folder.
+struct KelBundle {
+    QString folder;
+    QString table;
+};
+
+/// The language that texts are looked up in from now on, as an ISO 639 code ("es"); empty means the system's.
+/// A host calls it before it shows anything: texts that were looked up before keep their language.
+void setLanguage(const QString& language);
+
+/// The text of `key` in the bundle's table for the current language; without such a table, the Spanish one;
+/// without an entry, the key itself. Main thread only.
+[[nodiscard]] QString localized(const char* key, const KelBundle& bundle);
+
+/// The same for a text whose form depends on a count. The plural form is chosen by the count clamped to
+/// `int`, the digits put in place of "%n" come from all 64 bits.
+[[nodiscard]] QString localized(const char* key, const KelBundle& bundle, quint64 count);
+
+} // namespace kel

@@ -1,0 +1,7 @@
+import QtQuick
+import KelDS
+
+Rectangle {
+    implicitHeight: 1
+    color: KelColors.hairline
+}

@@ -1,0 +1,66 @@
+#include "Checkout/Screen/CheckoutRouter.hpp"
+
+#include "KelCommon/KelAnalyticsManager.hpp"
+#include "Views/Screen/NavigationController.hpp"
+#include "Views/Screen/ViewController.hpp"
+
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+/// The last two digits of the consultant's cycle; empty without a cycle.
+QString cycleText(const CheckoutResponse& response) {
+    const auto& cycle = response.consultant.cycle;
+    return cycle ? QString::fromStdString(Cycle::onlyCode(*cycle)) : QString();
+}
+
+template <typename Creating, typename Input>
+void show(const Creating& factory, const Input& input, const ViewController& from) {
+    auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
+        std::make_unique<LoadingDisplayer>(std::make_unique<LoadingView>()),
+        kel::KelAnalyticsManager::shared());
+    screen->setView(factory.view(input, *screen));
+    screen->setNavigationDelegate(factory.navigationDelegate());
+    screen->setHidesBackButton(true);
+    const auto origin = from.originViewController();
+    if (auto* navigation = origin ? origin->navigationController() : nullptr) {
+        navigation->push(screen);
+    }
+}
+
+} // namespace
+
+CheckoutRouter::CheckoutRouter(std::unique_ptr<AllProductsAddedCreating> allProductsAddedFactory,
+                               std::unique_ptr<ProductsPartiallyAddedCreating> productsPartiallyAddedFactory,
+                               std::unique_ptr<NoProductAddedCreating> noProductAddedFactory)
+    : allProductsAddedFactory_(std::move(allProductsAddedFactory)),
+      productsPartiallyAddedFactory_(std::move(productsPartiallyAddedFactory)),
+      noProductAddedFactory_(std::move(noProductAddedFactory)) {}
+
+void CheckoutRouter::showAllProductsAdded(const ViewController& viewController,
+                                          const CheckoutResponse& response) {
+    show(*allProductsAddedFactory_,
+         AllProductsAddedFactoryInput(cycleText(response), response.summary.addedPoints,
+                                      response.summary.addedProducts, response.products),
+         viewController);
+}
+
+void CheckoutRouter::showProductsPartiallyAdded(const ViewController& viewController,
+                                                const CheckoutResponse& response) {
+    show(*productsPartiallyAddedFactory_,
+         ProductsPartiallyAddedFactoryInput(cycleText(response), response.summary.addedPoints,
+                                            response.summary.addedProducts, response.summary.errorProducts,
+                                            response.products, response.products),
+         viewController);
+}
+
+void CheckoutRouter::showNoProductAdded(const ViewController& viewController,
+                                        const CheckoutResponse& response) {
+    show(*noProductAddedFactory_,
+         NoProductAddedFactoryInput(cycleText(response), response.summary.errorProducts, response.products),
+         viewController);
+}
+
+} // namespace quillet

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "Checkout/Screen/CheckoutRoutering.hpp"
+#include "Checkout/Screen/CheckoutViewModelDelegate.hpp"
+#include "Checkout/Screen/CheckoutViewModeling.hpp"
+#include "Views/Dialogs/DialogFactory.hpp"
+#include "Views/Loading/LoadingView.hpp"
+#include "Views/Screen/ViewController.hpp"
+#include "Views/Tokens/Coloring.hpp"
+#include "Views/TryAgain/TryAgainView.hpp"
+
+namespace quillet {
+
+/// The screen between the send tap and the result. It has no content of its own: it covers itself while the
+/// checkout runs, and then makes way for a result screen or shows the generic error.
+class CheckoutViewController final : public QuickViewController, public CheckoutViewModelDelegate {
+    Q_OBJECT
+    Q_PROPERTY(QObject* loadingView READ loadingView CONSTANT FINAL)
+    Q_PROPERTY(QObject* dialog READ dialog NOTIFY dialogChanged FINAL)
+
+public:
+    CheckoutViewController(std::unique_ptr<Coloring> colors, std::shared_ptr<CheckoutViewModeling> viewModel,
+                           std::unique_ptr<CheckoutRoutering> router,
+                           std::unique_ptr<ViewControllerWrapperCreating> wrapperFactory,
+                           std::unique_ptr<TryAgainCreating> tryAgainFactory,
+                           std::unique_ptr<DialogCreating> dialogFactory,
+                           std::weak_ptr<QuilletNavigationDelegate> navigationDelegate);
+    ~CheckoutViewController() override;
+
+    [[nodiscard]] QUrl viewUrl() const override;
+    void viewDidLoad() override;
+    void viewWillAppear() override;
+
+    void startLoading() override;
+    void stopLoading() override;
+    void showDialog(const DialogPresenter& presenter, DialogActions actions) override;
+    void removeTryAgainView() override;
+    [[nodiscard]] CheckoutRoutering& router() override { return *router_; }
+    [[nodiscard]] std::unique_ptr<ViewController> wrapped() override;
+    [[nodiscard]] std::shared_ptr<QuilletNavigationDelegate> navigationDelegate() const override;
+
+    [[nodiscard]] QObject* loadingView();
+    [[nodiscard]] QObject* dialog() const { return dialog_.get(); }
+
+Q_SIGNALS:
+    void dialogChanged();
+
+private:
+    std::unique_ptr<Coloring> colors_;
+    std::shared_ptr<CheckoutViewModeling> viewModel_;
+    std::unique_ptr<CheckoutRoutering> router_;
+    std::unique_ptr<ViewControllerWrapperCreating> wrapperFactory_;
+    std::unique_ptr<TryAgainCreating> tryAgainFactory_;
+    std::unique_ptr<TryAgainScreen, DeleteLater> tryAgainView_;
+    std::unique_ptr<DialogCreating> dialogFactory_;
+    std::unique_ptr<Dialog, DeleteLater> dialog_;
+    std::weak_ptr<QuilletNavigationDelegate> navigationDelegate_;
+    std::unique_ptr<LoadingView> loadingView_;
+};
+
+} // namespace quillet

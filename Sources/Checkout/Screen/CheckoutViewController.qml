@@ -1,0 +1,8 @@
+import Quillet.Views
+
+Screen {
+    id: screen
+
+    loadingView: screen.controller.loadingView
+    dialog: screen.controller.dialog
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Checkout/Screen/CheckoutViewModelDelegate.hpp"
+#include "Checkout/Screen/CheckoutViewModeling.hpp"
+#include "KelCommon/KelAnalytics.hpp"
+#include "Workers/CheckoutWorkerDelegate.hpp"
+#include "Workers/Executable.hpp"
+
+#include <memory>
+
+namespace quillet {
+
+/// Starts the checkout and picks what its answer leads to. Owned by the screen, which it knows weakly; owns
+/// the worker, which knows it weakly. Keeps nothing of an answer. Main thread only.
+class CheckoutViewModel final : public CheckoutViewModeling,
+                                public CheckoutWorkerDelegate,
+                                public std::enable_shared_from_this<CheckoutViewModel> {
+public:
+    CheckoutViewModel(std::shared_ptr<Executable> checkoutWorker,
+                      std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager);
+
+    void setDelegate(std::weak_ptr<CheckoutViewModelDelegate> delegate);
+    void setNavigationDelegate(std::weak_ptr<QuilletNavigationDelegate> navigationDelegate);
+
+    void startCheckout() override;
+    void willCheckout() override;
+    void didCheckout(const CheckoutResult& result) override;
+
+private:
+    void showFeedback(const CheckoutResponse& response, std::int64_t httpStatusCode);
+    void showGenericError();
+    void retry();
+    void goHome();
+
+    std::weak_ptr<CheckoutViewModelDelegate> delegate_;
+    std::weak_ptr<QuilletNavigationDelegate> navigationDelegate_;
+    std::shared_ptr<Executable> checkoutWorker_;
+    std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager_;
+};
+
+} // namespace quillet

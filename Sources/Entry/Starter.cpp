@@ -1,0 +1,68 @@
+#include "Entry/Starter.hpp"
+
+#include "Entry/BuildSettings.hpp"
+#include "Entry/MainQueuePump.hpp"
+#include "Entry/QuilletConfiguration.hpp"
+#include "Network/Token/HmacSha256Scrivener.hpp"
+#include "SaleSummary/SaleSummaryFactory.hpp"
+#include "Views/QuilletViews.hpp"
+#include "Views/Screen/NavigationController.hpp"
+
+#include <QQmlEngine>
+
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+std::string gatewayHost(Environment environment) {
+    switch (environment) {
+    case Environment::dev:
+        return build::kGatewayHostDev;
+    case Environment::hml:
+        return build::kGatewayHostHml;
+    case Environment::prd:
+        break;
+    }
+    return build::kGatewayHostPrd;
+}
+
+} // namespace
+
+std::expected<Starter, JWTError>
+Starter::create(const std::string& accessToken, std::string authorizationProvider, CartForConsultant cart,
+                const std::shared_ptr<QuilletNavigationDelegate>& navigationDelegate) {
+    auto domainUrl = gatewayHost(QuilletConfiguration::shared().environment());
+    const JWTCreator creator{Header{"HS256", "JWT"}, Payload{accessToken}, build::kSigningSecret,
+                             std::make_shared<HmacSha256Scrivener>()};
+    auto token = creator.createJSONWebToken();
+    if (!token) {
+        return std::unexpected(std::move(token.error()));
+    }
+    return Starter({std::move(*token), std::move(authorizationProvider)}, std::move(cart),
+                   std::move(domainUrl), navigationDelegate);
+}
+
+Starter::Starter(Authorization authorization, CartForConsultant cart, std::string domainUrl,
+                 std::weak_ptr<QuilletNavigationDelegate> navigationDelegate)
+    : authorization_(std::move(authorization)),
+      cart_(std::move(cart)),
+      domainUrl_(std::move(domainUrl)),
+      navigationDelegate_(std::move(navigationDelegate)) {}
+
+std::shared_ptr<QuickViewController> Starter::createRootViewController() const {
+    pumpMainQueue();
+    return SaleSummaryFactory(cart_, authorization_, domainUrl_, std::make_unique<SaleSummaryConfigurator>(),
+                              navigationDelegate_)
+        .createViewController();
+}
+
+bool present(const std::shared_ptr<QuickViewController>& screen, QQuickItem& stackView) {
+    if (QQmlEngine* engine = qmlEngine(&stackView)) {
+        useQuilletViews(*engine);
+    }
+    return NavigationController::of(stackView).push(screen);
+}
+
+} // namespace quillet

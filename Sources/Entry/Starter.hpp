@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Models/CartForConsultant.hpp"
+#include "Network/Token/Authorization.hpp"
+#include "Network/Token/JWTCreator.hpp"
+#include "Views/Navigation/QuilletNavigationDelegate.hpp"
+#include "Views/Screen/QuickViewController.hpp"
+
+#include <expected>
+#include <memory>
+#include <string>
+
+class QQuickItem;
+
+namespace quillet {
+
+/// Opens the module for one customer's order. An immutable value, made on the host's main thread.
+class Starter {
+public:
+    /// Signs the consultant's access token and takes the gateway of the environment configured at this
+    /// moment. Nothing is checked: an empty token is signed like any other. The one failure is a token that
+    /// cannot be signed, which takes a text that is not UTF-8. `authorizationProvider` names the identity
+    /// provider that issued the token. The host keeps the ownership of `navigationDelegate`, which may be
+    /// null.
+    [[nodiscard]] static std::expected<Starter, JWTError>
+    create(const std::string& accessToken, std::string authorizationProvider, CartForConsultant cart,
+           const std::shared_ptr<QuilletNavigationDelegate>& navigationDelegate);
+
+    /// A new, independent root screen at each call, for `present`.
+    [[nodiscard]] std::shared_ptr<QuickViewController> createRootViewController() const;
+
+    [[nodiscard]] const Authorization& authorization() const { return authorization_; }
+    [[nodiscard]] const CartForConsultant& cart() const { return cart_; }
+    /// The gateway's bare host name.
+    [[nodiscard]] const std::string& domainUrl() const { return domainUrl_; }
+
+private:
+    Starter(Authorization authorization, CartForConsultant cart, std::string domainUrl,
+            std::weak_ptr<QuilletNavigationDelegate> navigationDelegate);
+
+    Authorization authorization_;
+    CartForConsultant cart_;
+    std::string domainUrl_;
+    std::weak_ptr<QuilletNavigationDelegate> navigationDelegate_;
+};
+
+/// Pushes a screen of the module on a host's StackView, which owns it from then on: popping it frees
+/// everything behind it. Overlays cover the item in which the host keeps the StackView. The host's bar binds
+/// to `title` and `hidesBackButton` of the current item's `viewController`. Returns false, with the reason in
+/// the log, if the screen could not be shown. Main thread only.
+bool present(const std::shared_ptr<QuickViewController>& screen, QQuickItem& stackView);
+
+} // namespace quillet

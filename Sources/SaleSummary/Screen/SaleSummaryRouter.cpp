@@ -1,0 +1,22 @@
+#include "SaleSummary/Screen/SaleSummaryRouter.hpp"
+
+#include "Views/Screen/NavigationController.hpp"
+#include "Views/Screen/ViewController.hpp"
+
+#include <utility>
+
+namespace quillet {
+
+SaleSummaryRouter::SaleSummaryRouter(std::unique_ptr<CheckoutCreating> checkoutFactory)
+    : checkoutFactory_(std::move(checkoutFactory)) {}
+
+void SaleSummaryRouter::showCheckout(const ViewController* from) {
+    const auto checkout = checkoutFactory_->create();
+    checkout->setHidesBackButton(true);
+    const auto origin = from ? from->originViewController() : nullptr;
+    if (auto* navigation = origin ? origin->navigationController() : nullptr) {
+        navigation->push(checkout);
+    }
+}
+
+} // namespace quillet

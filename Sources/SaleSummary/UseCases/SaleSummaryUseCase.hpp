@@ -1,0 +1,41 @@
+#pragma once
+
+#include "KelCommon/KelAnalytics.hpp"
+#include "Network/Results/OpenOrdersResult.hpp"
+#include "Network/Results/OrderResult.hpp"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quillet {
+
+class SaleSummaryViewModelDelegate;
+
+/// One outcome of the sale summary, which knows by itself whether it applies. Built afresh for each join of
+/// the two calls; holds the screen weakly. Main thread only.
+class SaleSummaryUseCase {
+public:
+    virtual ~SaleSummaryUseCase() = default;
+    /// Whether this outcome fits the stored results. No side effects.
+    [[nodiscard]] virtual bool canShowContent() const = 0;
+    /// Puts this outcome on the screen; nothing is shown if the screen is gone.
+    virtual void showContent() = 0;
+};
+
+struct SaleSummaryUseCaseFactoryInput {
+    std::weak_ptr<SaleSummaryViewModelDelegate> delegate;
+    std::optional<OrderResult> associateResult;
+    std::optional<OpenOrdersResult> getOpenOrdersResult;
+    std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager;
+};
+
+/// Builds the outcomes in the order in which they are asked; the first that applies is shown, and no other.
+class SaleSummaryUseCaseCreating {
+public:
+    virtual ~SaleSummaryUseCaseCreating() = default;
+    [[nodiscard]] virtual std::vector<std::unique_ptr<SaleSummaryUseCase>>
+    createAllUseCases(const SaleSummaryUseCaseFactoryInput& input) const = 0;
+};
+
+} // namespace quillet

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "KelCommon/KelAnalytics.hpp"
+#include "SaleSummary/UseCases/SaleSummaryUseCase.hpp"
+#include "SaleSummary/ViewModel/SaleSummaryViewModelDelegate.hpp"
+#include "SaleSummary/ViewModel/SaleSummaryViewModeling.hpp"
+#include "Workers/AssociateConsultantToCartWorkerDelegate.hpp"
+#include "Workers/Executable.hpp"
+#include "Workers/GetOpenOrdersWorkerDelegate.hpp"
+
+#include <memory>
+#include <optional>
+
+namespace quillet {
+
+/// Runs the two calls of the sale summary one after the other, keeps both results and lets the first use case
+/// that applies put its outcome on the screen. Owned by the screen; owns its workers, which know it weakly.
+/// Main thread only.
+class SaleSummaryViewModel final : public SaleSummaryViewModeling,
+                                   public AssociateConsultantToCartWorkerDelegate,
+                                   public GetOpenOrdersWorkerDelegate {
+public:
+    SaleSummaryViewModel(std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager,
+                         std::shared_ptr<Executable> associateConsultantToCartWorker,
+                         std::shared_ptr<Executable> getOpenOrdersWorker,
+                         std::unique_ptr<SaleSummaryUseCaseCreating> useCasesFactory);
+
+    void setDelegate(std::weak_ptr<SaleSummaryViewModelDelegate> delegate) override;
+    void trackAnalyticsScreen() override;
+    void doRequests() override;
+    void tryAgainDoRequests() override;
+    void trackSendOrdersToCart() override;
+
+    /// Whatever the association answered, the open orders are asked for next.
+    void didAssociate(const OrderResult& result) override;
+    /// Joins once both calls have answered in this pass.
+    void didGetOpenOrders(const OpenOrdersResult& result) override;
+
+private:
+    void showContent();
+
+    std::weak_ptr<SaleSummaryViewModelDelegate> delegate_;
+    std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager_;
+    std::shared_ptr<Executable> associateConsultantToCartWorker_;
+    std::shared_ptr<Executable> getOpenOrdersWorker_;
+    std::unique_ptr<SaleSummaryUseCaseCreating> useCasesFactory_;
+    bool didFinishAssociate_ = false;
+    std::optional<OrderResult> associateResult_;
+    bool didFinishGetOpenOrders_ = false;
+    std::optional<OpenOrdersResult> getOpenOrdersResult_;
+};
+
+} // namespace quillet

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "Views/Dialogs/DialogPresenter.hpp"
+#include "Views/Dialogs/ViewAnimating.hpp"
+
+#include <QObject>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+
+namespace quillet {
+
+/// What a dialog does after it has gone away, one action for each place that can be touched.
+struct DialogActions {
+    std::function<void()> didTapButton;
+    std::function<void()> didTapBackgroundView;
+    std::function<void()> didTapCloseIcon;
+};
+
+/// The module's modal message: a dimmed ground and a card with a title, a close icon, an optional image, a
+/// message and one button. Whatever is touched, the dialog fades first and only then runs that touch's
+/// action. Two touches in quick succession are two dismissals, each with its own action. Owned by the screen
+/// that shows it; an action runs even if the dialog was replaced during the fade. Main thread only.
+class Dialog final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    Q_PROPERTY(QString message READ message CONSTANT FINAL)
+    Q_PROPERTY(QUrl icon READ icon CONSTANT FINAL)
+    Q_PROPERTY(QString actionText READ actionText CONSTANT FINAL)
+    Q_PROPERTY(double alpha READ alpha NOTIFY alphaChanged FINAL)
+    Q_PROPERTY(bool onScreen READ isOnScreen NOTIFY onScreenChanged FINAL)
+
+public:
+    Dialog(const DialogPresenter& presenter, std::shared_ptr<ViewAnimating> viewAnimating,
+           DialogActions actions);
+    Dialog(const DialogWithIconPresenter& presenter, std::shared_ptr<ViewAnimating> viewAnimating,
+           DialogActions actions);
+
+    [[nodiscard]] const QString& title() const { return presenter_.title; }
+    [[nodiscard]] const QString& message() const { return presenter_.message; }
+    [[nodiscard]] QUrl icon() const;
+    [[nodiscard]] const QString& actionText() const { return presenter_.actionText; }
+    /// Opacity of card and ground, 1 until a touch.
+    [[nodiscard]] double alpha() const { return alpha_; }
+    [[nodiscard]] bool isOnScreen() const { return onScreen_; }
+
+    Q_INVOKABLE void touchButton() { dismiss(actions_.didTapButton); }
+    Q_INVOKABLE void touchBackground() { dismiss(actions_.didTapBackgroundView); }
+    Q_INVOKABLE void touchCloseIcon() { dismiss(actions_.didTapCloseIcon); }
+
+    /// Fades card and ground over 0.7 s, takes them off the screen, then runs `completion`.
+    void dismiss(std::function<void()> completion);
+
+Q_SIGNALS:
+    void alphaChanged();
+    void onScreenChanged();
+
+private:
+    void setAlpha(double alpha);
+    void removeFromScreen();
+
+    DialogWithIconPresenter presenter_;
+    std::shared_ptr<ViewAnimating> viewAnimating_;
+    DialogActions actions_;
+    double alpha_ = 1;
+    bool onScreen_ = true;
+};
+
+} // namespace quillet

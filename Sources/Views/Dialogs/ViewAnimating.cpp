@@ -1,0 +1,22 @@
+#include "Views/Dialogs/ViewAnimating.hpp"
+
+#include <QVariantAnimation>
+
+namespace quillet {
+
+void ViewAnimatingWrapper::animate(std::chrono::milliseconds duration,
+                                   std::function<void(double progress)> step,
+                                   std::function<void()> completion) {
+    // Nobody owns the animation: it deletes itself when it has ended.
+    auto* animation = new QVariantAnimation;
+    animation->setStartValue(0.0);
+    animation->setEndValue(1.0);
+    animation->setDuration(static_cast<int>(duration.count()));
+    QObject::connect(animation, &QVariantAnimation::valueChanged, animation,
+                     [step = std::move(step)](const QVariant& value) { step(value.toDouble()); });
+    QObject::connect(animation, &QAbstractAnimation::finished, animation,
+                     [completion = std::move(completion)] { completion(); });
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+} // namespace quillet

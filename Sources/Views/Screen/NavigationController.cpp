@@ -1,0 +1,59 @@
+#include "Views/Screen/NavigationController.hpp"
+
+#include "Views/Screen/QuickViewController.hpp"
+
+#include <QLoggingCategory>
+#include <QQmlComponent>
+#include <QQmlEngine>
+
+namespace quillet {
+
+namespace {
+Q_LOGGING_CATEGORY(lcNavigation, "quillet.navigation")
+}
+
+NavigationController::NavigationController(QQuickItem& stackView)
+    : QObject(&stackView), stackView_(&stackView) {}
+
+NavigationController& NavigationController::of(QQuickItem& stackView) {
+    auto* existing = stackView.findChild<NavigationController*>(QString(), Qt::FindDirectChildrenOnly);
+    return existing ? *existing : *new NavigationController(stackView);
+}
+
+QQuickItem* NavigationController::coverArea() const {
+    return stackView_ && stackView_->parentItem() ? stackView_->parentItem() : stackView_.data();
+}
+
+bool NavigationController::push(const std::shared_ptr<QuickViewController>& screen) {
+    QQmlEngine* engine = stackView_ ? qmlEngine(stackView_) : nullptr;
+    if (!engine) {
+        qCWarning(lcNavigation) << "no StackView to push on";
+        return false;
+    }
+    auto* component = new QQmlComponent(engine, screen->viewUrl(), this);
+    if (component->isError()) {
+        qCWarning(lcNavigation) << component->errors();
+        delete component;
+        return false;
+    }
+    screen->setNavigationController(this);
+
+    // StackView destroys a page on popping it only if it made that page itself, hence a component; and its
+    // `push` can be called from JavaScript alone. The engine must own neither the component nor the screen.
+    QQmlEngine::setObjectOwnership(component, QQmlEngine::CppOwnership);
+    QQmlEngine::setObjectOwnership(screen.get(), QQmlEngine::CppOwnership);
+    QJSValue properties = engine->newObject();
+    properties.setProperty(QStringLiteral("controller"), engine->newQObject(screen.get()));
+    const QJSValue stack = engine->toScriptValue<QObject*>(stackView_.data());
+    const QJSValue page = stack.property(QStringLiteral("push"))
+                              .callWithInstance(stack, {engine->newQObject(component), properties});
+    if (page.isError() || !page.isQObject()) {
+        qCWarning(lcNavigation) << "push failed:" << page.toString();
+        delete component;
+        return false;
+    }
+    component->setParent(page.toQObject());
+    return true;
+}
+
+} // namespace quillet

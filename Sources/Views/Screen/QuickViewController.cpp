@@ -1,0 +1,39 @@
+#include "Views/Screen/QuickViewController.hpp"
+
+#include "Views/Screen/NavigationController.hpp"
+
+namespace quillet {
+
+QuickViewController::QuickViewController() = default;
+QuickViewController::~QuickViewController() = default;
+
+void QuickViewController::setTitle(const QString& title) {
+    if (title != title_) {
+        title_ = title;
+        Q_EMIT titleChanged();
+    }
+}
+
+void QuickViewController::setHidesBackButton(bool hides) {
+    if (hides != hidesBackButton_) {
+        hidesBackButton_ = hides;
+        Q_EMIT hidesBackButtonChanged();
+    }
+}
+
+void QuickViewController::setBackgroundColor(const QColor& color) {
+    if (color != backgroundColor_) {
+        backgroundColor_ = color;
+        Q_EMIT backgroundColorChanged();
+    }
+}
+
+NavigationController* QuickViewController::navigationController() const {
+    return navigation_;
+}
+
+void QuickViewController::setNavigationController(NavigationController* navigation) {
+    navigation_ = navigation;
+}
+
+} // namespace quillet

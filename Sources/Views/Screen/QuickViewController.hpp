@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QPointer>
+#include <QUrl>
+
+#include <memory>
+
+namespace quillet {
+
+class NavigationController;
+
+/// A screen: it owns everything behind what it shows, and a QML file draws it. Made by a factory, it lives in
+/// a std::shared_ptr; once it is pushed, the QML item that draws it is its one owner, so taking the screen
+/// off the stack destroys the whole graph. The controller knows its item only through the navigation
+/// controller, never directly.
+///
+/// Lifecycle, all on the main thread: `viewDidLoad` once, when the item has been made; `viewWillAppear` and
+/// `viewWillDisappear` on each entering and leaving of the top of the stack.
+class QuickViewController : public QObject, public std::enable_shared_from_this<QuickViewController> {
+    Q_OBJECT
+    Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
+    Q_PROPERTY(bool hidesBackButton READ hidesBackButton NOTIFY hidesBackButtonChanged FINAL)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY backgroundColorChanged FINAL)
+
+public:
+    ~QuickViewController() override;
+
+    /// What the host's bar shows while this screen is on top.
+    [[nodiscard]] const QString& title() const { return title_; }
+    /// Whether the host's bar is to show no way back from this screen.
+    [[nodiscard]] bool hidesBackButton() const { return hidesBackButton_; }
+    [[nodiscard]] QColor backgroundColor() const { return backgroundColor_; }
+    void setTitle(const QString& title);
+    void setHidesBackButton(bool hides);
+
+    /// The stack that this screen was pushed on; null before that, and when the stack is gone.
+    [[nodiscard]] NavigationController* navigationController() const;
+    void setNavigationController(NavigationController* navigation);
+
+    /// The QML file that draws this screen.
+    [[nodiscard]] virtual QUrl viewUrl() const = 0;
+
+    virtual void viewDidLoad() {}
+    virtual void viewWillAppear() {}
+    virtual void viewWillDisappear() {}
+
+Q_SIGNALS:
+    void titleChanged();
+    void hidesBackButtonChanged();
+    void backgroundColorChanged();
+
+protected:
+    QuickViewController();
+    void setBackgroundColor(const QColor& color);
+
+    /// A view that is on screen may be in the middle of telling about a tap when it is replaced: it goes once
+    /// control is back in the event loop.
+    struct DeleteLater {
+        void operator()(QObject* object) const { object->deleteLater(); }
+    };
+
+private:
+    QString title_;
+    QColor backgroundColor_;
+    bool hidesBackButton_ = false;
+    QPointer<NavigationController> navigation_;
+};
+
+} // namespace quillet

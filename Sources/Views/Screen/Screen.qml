@@ -1,0 +1,39 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Quillet.Views
+
+// What every screen has: a ground, its overlays above the host's bar, and the stack's lifecycle.
+ScreenItem {
+    id: screen
+
+    required property var controller
+    property var loadingView: null
+    property var dialog: null
+    readonly property bool onTop: StackView.status === StackView.Active || StackView.status === StackView.Activating
+
+    viewController: screen.controller
+    StackView.onActivating: screen.viewWillAppear()
+    StackView.onDeactivating: screen.viewWillDisappear()
+
+    Rectangle {
+        anchors.fill: parent
+        z: -1
+        color: screen.controller.backgroundColor
+    }
+    Loader {
+        parent: screen.coverArea
+        anchors.fill: parent
+        z: 1
+        active: screen.onTop && screen.dialog !== null && screen.dialog.onScreen
+        sourceComponent: Dialog {
+            dialog: screen.dialog
+        }
+    }
+    Loader {
+        parent: screen.coverArea
+        anchors.fill: parent
+        z: 2
+        active: screen.onTop && screen.loadingView !== null && screen.loadingView.onScreen
+        sourceComponent: LoadingView {}
+    }
+}
