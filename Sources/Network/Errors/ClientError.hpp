@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Models/Json/Field.hpp"
+
+#include <cstdint>
+#include <string>
+#include <tuple>
+
+namespace quillet {
+
+/// Body of an answer with a status from 400 to 499.
+struct ClientError {
+    std::string details;
+    std::string error;
+    std::int64_t statusCode = 0;
+    std::string path;
+
+    bool operator==(const ClientError&) const = default;
+};
+
+template <>
+inline constexpr auto jsonFields<ClientError> = std::tuple{
+    json::Field{"details", &ClientError::details},
+    json::Field{"error", &ClientError::error},
+    json::Field{"statusCode", &ClientError::statusCode},
+    json::Field{"path", &ClientError::path},
+};
+
+} // namespace quillet

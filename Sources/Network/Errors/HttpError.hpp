@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Network/Errors/HttpErrorResponse.hpp"
+
+namespace quillet {
+
+/// The failure inside a ServerError.
+struct HttpError {
+    HttpErrorResponse response;
+    std::int64_t status = 0;
+    /// The back end's machine-readable code, such as ERROR_CART_ALREADY_SUBMITTED.
+    std::string message;
+
+    bool operator==(const HttpError&) const = default;
+};
+
+template <>
+inline constexpr auto jsonFields<HttpError> = std::tuple{
+    json::Field{"response", &HttpError::response},
+    json::Field{"status", &HttpError::status},
+    json::Field{"message", &HttpError::message},
+};
+
+} // namespace quillet

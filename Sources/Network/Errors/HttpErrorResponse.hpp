@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Models/Json/Field.hpp"
+
+#include <cstdint>
+#include <string>
+#include <tuple>
+
+namespace quillet {
+
+/// What the service behind the gateway answered, as told inside an HttpError.
+struct HttpErrorResponse {
+    std::int64_t statusCode = 0;
+    std::string message;
+    std::string error;
+
+    bool operator==(const HttpErrorResponse&) const = default;
+};
+
+template <>
+inline constexpr auto jsonFields<HttpErrorResponse> = std::tuple{
+    json::Field{"statusCode", &HttpErrorResponse::statusCode},
+    json::Field{"message", &HttpErrorResponse::message},
+    json::Field{"error", &HttpErrorResponse::error},
+};
+
+} // namespace quillet

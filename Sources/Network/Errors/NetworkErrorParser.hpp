@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Network/Errors/HttpErrorThrowable.hpp"
+#include "Network/Session/HTTPURLResponse.hpp"
+
+#include <memory>
+
+namespace quillet {
+
+/// Says which error, if any, an answer stands for.
+class NetworkErrorParser {
+public:
+    explicit NetworkErrorParser(std::shared_ptr<const HttpErrorThrowable> httpErrorFactory);
+
+    /// Status 400 to 499: what the factory makes of a ClientError; 500 to 599: of a ServerError; anything
+    /// else, and no response at all: the transport error as it came.
+    [[nodiscard]] std::optional<ServiceError> parse(const std::optional<std::string>& data,
+                                                    const std::optional<HTTPURLResponse>& response,
+                                                    std::optional<URLError> transportError) const;
+
+private:
+    std::shared_ptr<const HttpErrorThrowable> httpErrorFactory_;
+};
+
+} // namespace quillet

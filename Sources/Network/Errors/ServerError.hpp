@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Network/Errors/HttpError.hpp"
+
+namespace quillet {
+
+/// Body of an answer with a status from 500 to 599.
+struct ServerError {
+    HttpError error;
+    std::int64_t statusCode = 0;
+    std::string path;
+
+    bool operator==(const ServerError&) const = default;
+};
+
+template <>
+inline constexpr auto jsonFields<ServerError> = std::tuple{
+    json::Field{"error", &ServerError::error},
+    json::Field{"statusCode", &ServerError::statusCode},
+    json::Field{"path", &ServerError::path},
+};
+
+} // namespace quillet

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Network/Errors/EncodingError.hpp"
+#include "Network/Request/JSONValue.hpp"
+#include "Network/Request/URLRequest.hpp"
+
+#include <expected>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quillet {
+
+/// Something that holds a request that can be sent.
+class URLRequestHolding {
+public:
+    virtual ~URLRequestHolding() = default;
+
+    [[nodiscard]] virtual const URLRequest& urlRequest() const = 0;
+};
+
+/// A request in the making. Used by one thread at a time; every operation is done when it returns.
+class URLRequestable : public URLRequestHolding {
+public:
+    /// Absent until set.
+    [[nodiscard]] const std::optional<std::string>& httpMethod() const { return urlRequest().httpMethod; }
+    virtual void setHttpMethod(std::string method) = 0;
+
+    /// As HTTPHeaderFields::addValue; on an error the request is unchanged.
+    [[nodiscard]] virtual std::expected<void, EncodingError>
+    addValue(std::string_view value, std::string_view forHTTPHeaderField) = 0;
+
+    /// Writes the members as one JSON object and makes it the body; on an error the body is unchanged. Sets
+    /// no content type.
+    [[nodiscard]] virtual std::expected<void, EncodingError>
+    addToHttpBody(const JSONValue::Object& parameters) = 0;
+};
+
+} // namespace quillet

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Models/OrderResponse.hpp"
+#include "Network/Errors/ServiceError.hpp"
+
+#include <cstdint>
+#include <optional>
+
+namespace quillet {
+
+/// The outcome of associating a consultant with a cart. Response and error can both be there, or neither.
+struct OrderResult {
+    /// The decoded body; absent where there is none or it does not decode, which is no error in itself.
+    std::optional<OrderResponse> response;
+    std::optional<ServiceError> error;
+    /// 0 where no complete answer came.
+    std::int64_t httpStatusCode = 0;
+};
+
+} // namespace quillet

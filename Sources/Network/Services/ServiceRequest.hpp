@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Network/Errors/ServiceError.hpp"
+#include "Network/Request/URLRequestCreating.hpp"
+
+#include <expected>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillet {
+
+/// What a service adds to its address.
+struct ServiceRequest {
+    std::string method;
+    /// In the order in which they are added.
+    std::vector<HTTPHeaderField> headerFields;
+    std::optional<JSONValue::Object> body = std::nullopt;
+
+    /// The request that is to be sent, or the first thing that is wrong with it.
+    [[nodiscard]] std::expected<URLRequest, ServiceError>
+    build(const URLRequestCreating& factory, const std::expected<Url, NetworkServiceError>& url) const;
+};
+
+} // namespace quillet

@@ -1,0 +1,50 @@
+#include "Network/Session/Curl/CurlErrorCode.hpp"
+
+#include <cerrno>
+
+namespace quillet {
+
+URLError::Code urlErrorCode(CURLcode code, long osError) {
+    using enum URLError::Code;
+    // libcurl has a hundred codes, most of them for protocols that are never spoken here.
+    switch (static_cast<int>(code)) {
+    case CURLE_URL_MALFORMAT:
+        return badURL;
+    case CURLE_OPERATION_TIMEDOUT:
+        return timedOut;
+    case CURLE_COULDNT_RESOLVE_HOST:
+    case CURLE_COULDNT_RESOLVE_PROXY:
+        return cannotFindHost;
+    case CURLE_COULDNT_CONNECT:
+        return osError == ENETUNREACH || osError == ENETDOWN ? notConnectedToInternet : cannotConnectToHost;
+    case CURLE_PROXY:
+        return cannotConnectToHost;
+    case CURLE_GOT_NOTHING:
+    case CURLE_PARTIAL_FILE:
+    case CURLE_RECV_ERROR:
+    case CURLE_SEND_ERROR:
+        return networkConnectionLost;
+    case CURLE_OUT_OF_MEMORY:
+        // What libcurl says to a single header line of more than 100 KiB.
+        return dataLengthExceedsMaximum;
+    case CURLE_BAD_CONTENT_ENCODING:
+        return cannotDecodeContentData;
+    case CURLE_UNSUPPORTED_PROTOCOL:
+    case CURLE_WEIRD_SERVER_REPLY:
+        return cannotParseResponse;
+    case CURLE_PEER_FAILED_VERIFICATION:
+    case CURLE_SSL_ISSUER_ERROR:
+    case CURLE_SSL_INVALIDCERTSTATUS:
+        return serverCertificateUntrusted;
+    case CURLE_SSL_CACERT_BADFILE:
+        return cannotOpenFile;
+    case CURLE_SSL_CONNECT_ERROR:
+    case CURLE_SSL_CIPHER:
+    case CURLE_SSL_CERTPROBLEM:
+    case CURLE_SSL_CLIENTCERT:
+        return secureConnectionFailed;
+    }
+    return unknown;
+}
+
+} // namespace quillet

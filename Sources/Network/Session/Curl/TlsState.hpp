@@ -1,0 +1,28 @@
+#pragma once
+
+#include <curl/curl.h>
+
+#include <memory>
+
+namespace quillet {
+
+/// What libcurl does not tell of a connection's TLS. Touched on the session's thread only; kept alive by the
+/// connection and by the transfers that look at it.
+struct TlsState {
+    /// TLS came to its own end, and was not merely cut off. libcurl takes the one for the other, and with it,
+    /// where nothing announces a body's length, part of a body for the whole.
+    bool isEndedProperly = false;
+    /// The handshake failed over the server's certificate. libcurl calls it that only where no other part of
+    /// OpenSSL complained first, as it does about a signature that is not the authority's.
+    bool isCertificateRefused = false;
+
+    /// For CURLOPT_SSL_CTX_FUNCTION, with a std::shared_ptr<TlsState> as its data: that one becomes the state
+    /// of the connection that is about to be made.
+    static CURLcode watch(CURL*, void* tlsContext, void* state);
+
+    /// The state of the connection that the transfer is using, which may be older than the transfer; null if
+    /// it uses none. To be asked while the transfer runs.
+    [[nodiscard]] static std::shared_ptr<const TlsState> of(CURL* easy);
+};
+
+} // namespace quillet

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Network/Errors/URLError.hpp"
+#include "Network/Request/URLRequest.hpp"
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+
+namespace quillet {
+
+/// How one exchange ended.
+struct URLSessionExchangeEnd {
+    /// Of a complete answer; 0 where there is none.
+    std::int64_t statusCode = 0;
+    /// Absent for a complete answer, whatever its status.
+    std::optional<URLError::Code> errorCode;
+    /// From the start of the call, by the session's clock.
+    std::chrono::milliseconds duration{0};
+};
+
+/// Watches the traffic of all sessions that were made with it, for a developer to look at. Called on the
+/// sessions' threads, by several at a time; must return soon.
+class URLSessionObserving {
+public:
+    virtual ~URLSessionObserving() = default;
+
+    /// A request goes to the network. Not called for one that is refused because there is no network. The
+    /// number is the exchange's own in this process.
+    virtual void willSend(std::uint64_t exchange, const URLRequest& request) = 0;
+
+    /// Called once for each started call, just before its completion.
+    virtual void didEnd(std::uint64_t exchange, const URLRequest& request,
+                        const URLSessionExchangeEnd& end) = 0;
+};
+
+} // namespace quillet

@@ -1,0 +1,15 @@
+#include "Network/Support/OpenSsl.hpp"
+
+#include <openssl/crypto.h>
+
+namespace quillet {
+
+void keepOpenSslToTheEnd() {
+    OPENSSL_init_crypto(OPENSSL_INIT_NO_ATEXIT, nullptr);
+}
+
+void leaveOpenSsl() {
+    OPENSSL_thread_stop();
+}
+
+} // namespace quillet

@@ -1,0 +1,11 @@
+#include "Network/Support/Utf8.hpp"
+
+#include <simdjson.h>
+
+namespace quillet {
+
+bool isUtf8(std::string_view text) {
+    return simdjson::validate_utf8(text);
+}
+
+} // namespace quillet

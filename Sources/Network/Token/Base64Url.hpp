@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Network/Request/JSONEncoder.hpp"
+
+#include <expected>
+#include <string>
+#include <string_view>
+
+namespace quillet {
+
+/// The bytes in base64url, without padding and line breaks.
+[[nodiscard]] std::string base64Url(std::string_view bytes);
+
+/// A record as JSON in base64url; fails with the encoder's error.
+template <typename Record>
+[[nodiscard]] std::expected<std::string, EncodingError> base64String(const Record& record) {
+    auto text = encodeJSON(jsonValue(record));
+    if (text) {
+        *text = base64Url(*text);
+    }
+    return text;
+}
+
+} // namespace quillet

@@ -1,0 +1,31 @@
+#include "Network/Token/JWTCreator.hpp"
+
+#include "Network/Errors/ServiceError.hpp"
+#include "Network/Token/Base64Url.hpp"
+
+#include <utility>
+
+namespace quillet {
+
+std::string description(const JWTError& error) {
+    return std::visit([](const auto& one) { return description(one); }, error);
+}
+
+std::expected<std::string, JWTError> JWTCreator::createJSONWebToken() const {
+    const auto headerSegment = base64String(header);
+    if (!headerSegment) {
+        return std::unexpected(headerSegment.error());
+    }
+    const auto payloadSegment = base64String(payload);
+    if (!payloadSegment) {
+        return std::unexpected(payloadSegment.error());
+    }
+    const std::string content = *headerSegment + "." + *payloadSegment;
+    const auto signature = scribe->signatureBase64String(content, secretKey);
+    if (!signature) {
+        return std::unexpected(signature.error());
+    }
+    return content + "." + *signature;
+}
+
+} // namespace quillet

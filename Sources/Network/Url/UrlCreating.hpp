@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Network/Errors/NetworkServiceError.hpp"
+#include "Network/Url/Url.hpp"
+#include "Network/Url/UrlQueryItem.hpp"
+
+#include <expected>
+#include <string>
+#include <vector>
+
+namespace quillet {
+
+/// Builds the addresses of the back end. Pure: may be called on any thread, answers at once.
+class UrlCreating {
+public:
+    virtual ~UrlCreating() = default;
+
+    /// `domainUrl` is a bare host name, `path` plain text that begins with "/" (or is empty).
+    [[nodiscard]] virtual std::expected<Url, NetworkServiceError>
+    createUrl(const std::string& domainUrl, const std::string& path) const = 0;
+
+    /// The same with a query; the items keep their order. No items, no question mark.
+    [[nodiscard]] virtual std::expected<Url, NetworkServiceError>
+    createUrl(const std::string& domainUrl, const std::string& path,
+              const std::vector<UrlQueryItem>& urlQueryItems) const = 0;
+};
+
+} // namespace quillet

@@ -1,0 +1,56 @@
+#include "Network/Errors/HttpErrorFactory.hpp"
+#include "Network/Request/JSONEncoder.hpp"
+
+#include <gtest/gtest.h>
+
+namespace quillet {
+
+namespace {
+
+const HttpErrorResponse inner{422, "inner", "Unprocessable"};
+const ServerError serverError{{inner, 422, "ERROR_CART_ALREADY_SUBMITTED"}, 500, "/p"};
+const ClientError clientError{"d", "Not/Found", -404, "/p"};
+
+} // namespace
+
+TEST(ServiceError, DescribesItself) {
+    EXPECT_EQ(description(ServiceError(clientError)), "HTTP Code: -404\nNot/Found");
+    EXPECT_EQ(description(inner), "HTTP Code: 422\ninner\nUnprocessable");
+    EXPECT_EQ(description(ServiceError(serverError)), "HTTP Code: 422\nERROR_CART_ALREADY_SUBMITTED");
+    EXPECT_EQ(description(ServiceError(NetworkServiceError::invalidUrl)), "Invalid URL");
+    EXPECT_NE(description(ServiceError(HttpStatusCodeError{500})), "");
+}
+
+TEST(ServiceError, HasAPlatformCodeOnlyWhenTheExchangeFailed) {
+    EXPECT_EQ(platformErrorCode(URLError{URLError::Code::notConnectedToInternet, ""}), -1009);
+    for (const ServiceError& error : {ServiceError(HttpStatusCodeError{-1009}), ServiceError(clientError),
+                                      ServiceError(NetworkServiceError::invalidUrl)}) {
+        EXPECT_EQ(platformErrorCode(error), std::nullopt);
+    }
+}
+
+TEST(HttpErrorFactory, GivesTheRecordOrElseTheStatus) {
+    const auto client = encodeJSON(jsonValue(clientError)).value();
+    const auto server = encodeJSON(jsonValue(serverError)).value();
+    const auto withoutPath = server.substr(0, server.rfind(",\"path\"")) + "}";
+    const struct {
+        std::optional<std::string> data;
+        HttpErrorModel model;
+        ServiceError error;
+    } cases[] = {
+        {client, HttpErrorModel::clientError, clientError},
+        {server, HttpErrorModel::serverError, serverError},
+        {server, HttpErrorModel::clientError, HttpStatusCodeError{418}},
+        {client, HttpErrorModel::serverError, HttpStatusCodeError{418}},
+        {withoutPath, HttpErrorModel::serverError, HttpStatusCodeError{418}},
+        {client + "x", HttpErrorModel::clientError, HttpStatusCodeError{418}},
+        {"", HttpErrorModel::clientError, HttpStatusCodeError{418}},
+        {std::nullopt, HttpErrorModel::serverError, HttpStatusCodeError{418}},
+    };
+    for (const auto& [data, model, error] : cases) {
+        SCOPED_TRACE(data.value_or("absent"));
+        EXPECT_EQ(HttpErrorFactory().parseError(data, 418, model), error);
+    }
+}
+
+} // namespace quillet

@@ -1,0 +1,193 @@
+#include "Network/Session/URLSession.hpp"
+#include "Support/SandboxedSession.hpp"
+
+#include <gtest/gtest.h>
+
+#include <future>
+
+namespace quillet {
+
+namespace {
+
+using namespace std::chrono_literals;
+using testing::Answer;
+
+struct SessionTest : ::testing::Test, testing::SandboxedSession {
+    testing::CallRecorder calls;
+
+    URLSessionDataTask task(const URLSession& session, std::string method = "GET") {
+        return session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = std::move(method)},
+                                calls.completion());
+    }
+};
+
+class WatchedPath final : public NetworkPathMonitoring {
+public:
+    ~WatchedPath() override { gone.set_value(); }
+    bool isSatisfied(const std::string&, bool) const override { return true; }
+
+    std::promise<void> gone;
+};
+
+class TrafficLog final : public URLSessionObserving {
+public:
+    void willSend(std::uint64_t exchange, const URLRequest& request) override {
+        log.record(std::to_string(exchange - first) + " " + request.httpMethod.value_or("") + " " +
+                   request.url.absoluteString());
+    }
+    void didEnd(std::uint64_t exchange, const URLRequest&, const URLSessionExchangeEnd& end) override {
+        const auto code = end.errorCode ? static_cast<std::int64_t>(*end.errorCode) : 0;
+        log.record(std::to_string(exchange - first) + " ended " + std::to_string(end.statusCode) + " " +
+                   std::to_string(code) + " " + std::to_string(end.duration.count()));
+    }
+
+    std::uint64_t first = 1;
+    testing::Recorder<std::string> log;
+};
+
+} // namespace
+
+TEST_F(SessionTest, DeliversOffTheCallersThread) {
+    server.enqueue(Answer::complete(200, "{}"));
+    const URLSession session(configuration);
+    task(session).resume();
+    EXPECT_EQ(calls.wait().response->statusCode, 200);
+    EXPECT_NE(calls.threadOf(), std::this_thread::get_id());
+}
+
+TEST_F(SessionTest, DeliversARedirectAsItCame) {
+    server.enqueue(Answer::complete(302, "moved", "Location: https://gateway.test/other\r\n"));
+    const URLSession session(configuration);
+    task(session).resume();
+    const auto& outcome = calls.wait();
+    ASSERT_TRUE(outcome.response);
+    EXPECT_EQ(outcome.data, "moved");
+    EXPECT_EQ(*outcome.response,
+              (HTTPURLResponse{302, {{"Content-Length", "5"}, {"Location", "https://gateway.test/other"}}}));
+    EXPECT_EQ(server.requests().size(), 1u);
+}
+
+TEST_F(SessionTest, DeliversAnAnswerWithoutABodyAsAnEmptyBody) {
+    // A preliminary answer before it is none.
+    server.enqueue({{"HTTP/1.1 103 Early Hints\r\nLink: x\r\n\r\nHTTP/1.1 204 No Content\r\n\r\n"}});
+    const URLSession session(configuration);
+    task(session).resume();
+    EXPECT_EQ(calls.wait().data, "");
+    EXPECT_EQ(calls.wait().response, (HTTPURLResponse{204}));
+}
+
+TEST_F(SessionTest, StartsOnceHoweverOftenItIsResumedAndNeverByItself) {
+    server.enqueue(Answer::complete(200, "first"));
+    server.enqueue(Answer::complete(200, "second"));
+    const URLSession session(configuration);
+    { const auto neverResumed = task(session, "DELETE"); }
+    auto first = task(session);
+    first.resume();
+    first.resume();
+    EXPECT_EQ(calls.wait().data, "first");
+    first.resume();
+    task(session).resume();
+    EXPECT_EQ(calls.wait(1).data, "second");
+    EXPECT_EQ(server.requests().size(), 2u);
+    EXPECT_EQ(server.connections(), 1u);
+}
+
+TEST_F(SessionTest, RunsAStartedCallToItsEndAndThenEndsItsThread) {
+    const auto gate = std::make_shared<std::latch>(1);
+    server.enqueue({{"HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\n", "{}"}, Answer::Ending::keepOpen, gate});
+    auto path = std::make_shared<WatchedPath>();
+    auto gone = path->gone.get_future();
+    configuration.networkPath = std::move(path);
+    {
+        const URLSession session(std::exchange(configuration, {}));
+        task(session).resume();
+    }
+    ASSERT_TRUE(server.waitForRequests(1));
+    EXPECT_EQ(calls.count(), 0u);
+    gate->count_down();
+    EXPECT_EQ(calls.wait().data, "{}");
+    EXPECT_EQ(gone.wait_for(30s), std::future_status::ready);
+}
+
+TEST_F(SessionTest, StartsACallWhoseSessionIsGone) {
+    server.enqueue(Answer::complete(200, "{}"));
+    auto late = [&] { return task(URLSession(configuration)); }();
+    late.resume();
+    EXPECT_EQ(calls.wait().data, "{}");
+}
+
+TEST_F(SessionTest, LetsACompletionFreeTheSessionAndStartAnotherCall) {
+    server.enqueue(Answer::complete(200, "first"));
+    server.enqueue(Answer::complete(200, "second"));
+    auto session = std::make_unique<URLSession>(configuration);
+    auto second = std::make_shared<URLSessionDataTask>(task(*session));
+    auto first = session->dataTask({.url = {testing::gatewayHost, "/"}},
+                                   [session = std::move(session), second](auto...) { second->resume(); });
+    second.reset();
+    first.resume();
+    EXPECT_EQ(calls.wait().data, "second");
+}
+
+TEST_F(SessionTest, GivesTheWholeCallItsTimeWhateverComesMeanwhile) {
+    const auto gate = std::make_shared<std::latch>(1);
+    server.enqueue(
+        {{"HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n", "drip"}, Answer::Ending::keepOpen, gate});
+    const URLSession session(configuration);
+    task(session, "POST").resume();
+    ASSERT_TRUE(server.waitForRequests(1));
+    clock->advance(59'999ms);
+    gate->count_down();
+    EXPECT_EQ(calls.count(), 0u);
+    clock->advance(1ms);
+    EXPECT_EQ(calls.wait().error->code, URLError::Code::timedOut);
+    EXPECT_FALSE(calls.wait().response);
+    EXPECT_EQ(server.requests().size(), 1u);
+}
+
+TEST_F(SessionTest, KeepsEachCallsOwnTime) {
+    const URLSession session(configuration);
+    session.dataTask({.url = {testing::gatewayHost, "/"}, .timeoutInterval = 10s}, calls.completion())
+        .resume();
+    task(session).resume();
+    ASSERT_TRUE(server.waitForRequests(2));
+    clock->advance(10s);
+    EXPECT_EQ(calls.wait().error->code, URLError::Code::timedOut);
+    EXPECT_EQ(calls.count(), 1u);
+    clock->advance(50s);
+    EXPECT_EQ(calls.wait(1).error->code, URLError::Code::timedOut);
+}
+
+TEST_F(SessionTest, TellsItsObserverBeforeTheCompletion) {
+    const auto observer = std::make_shared<TrafficLog>();
+    configuration.observer = observer;
+    server.enqueue(Answer::complete(404, ""));
+    const URLSession session(configuration);
+    task(session).resume();
+    EXPECT_EQ(calls.wait().data, "");
+    ASSERT_EQ(observer->log.count(), 2u);
+    const auto number = std::stoull(observer->log.wait(0));
+    EXPECT_EQ(observer->log.wait(0), std::to_string(number) + " GET https://gateway.test/");
+    EXPECT_EQ(observer->log.wait(1), std::to_string(number) + " ended 404 0 0");
+    task(session).resume();
+    ASSERT_TRUE(server.waitForRequests(2));
+    clock->advance(60s);
+    EXPECT_TRUE(calls.wait(1).error);
+    EXPECT_EQ(observer->log.wait(3), std::to_string(number + 1) + " ended 0 -1001 60000");
+}
+
+// The process ends while a session's thread is in the middle of a call.
+TEST(SessionDeathTest, DoesNotKeepTheProcessFromEnding) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            auto& sandbox = *new testing::SandboxedSession;
+            const URLSession session(sandbox.configuration);
+            session.dataTask({.url = {testing::gatewayHost, "/"}}, [](auto...) {}).resume();
+            (void)sandbox.server.waitForRequests(1);
+            std::remove(sandbox.authority.bundleFile().c_str());
+            std::exit(0);
+        },
+        ::testing::ExitedWithCode(0), "");
+}
+
+} // namespace quillet

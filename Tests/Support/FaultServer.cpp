@@ -1,0 +1,155 @@
+#include "Support/FaultServer.hpp"
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <optional>
+#include <utility>
+
+namespace quillet::testing {
+
+namespace {
+
+// One request: a head, and a body of the length that the head gives. Nothing at the connection's end.
+std::optional<std::string> readRequest(SSL* tls) {
+    std::string request;
+    std::size_t whole = std::string::npos;
+    while (request.size() < whole) {
+        std::array<char, 4096> buffer{};
+        const int count = SSL_read(tls, buffer.data(), buffer.size());
+        if (count <= 0) {
+            return std::nullopt;
+        }
+        request.append(buffer.data(), static_cast<std::size_t>(count));
+        const auto head = request.find("\r\n\r\n");
+        if (head != std::string::npos) {
+            const auto length = request.find("Content-Length: ");
+            whole = head + 4 + (length < head ? std::stoul(request.substr(length + 16)) : 0);
+        }
+    }
+    return request;
+}
+
+} // namespace
+
+Answer Answer::complete(int status, const std::string& body, const std::string& headers) {
+    return {{"HTTP/1.1 " + std::to_string(status) + " Whatever\r\nContent-Length: " +
+             std::to_string(body.size()) + "\r\n" + headers + "\r\n" + body}};
+}
+
+FaultServer::FaultServer(ContextPointer context) : context_(std::move(context)) {
+    std::signal(SIGPIPE, SIG_IGN);
+    listener_ = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof(address);
+    bind(listener_, reinterpret_cast<sockaddr*>(&address), size);
+    getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size);
+    listen(listener_, 16);
+    port_ = ntohs(address.sin_port);
+    acceptor_ = std::thread([this] { acceptConnections(); });
+}
+
+FaultServer::~FaultServer() {
+    shutdown(listener_, SHUT_RDWR);
+    acceptor_.join();
+    close(listener_);
+    {
+        const std::lock_guard lock(mutex_);
+        for (const int socket : sockets_) {
+            shutdown(socket, SHUT_RDWR);
+        }
+    }
+    for (auto& server : servers_) {
+        server.join();
+    }
+    for (const int socket : sockets_) {
+        close(socket);
+    }
+}
+
+void FaultServer::enqueue(Answer answer) {
+    const std::lock_guard lock(mutex_);
+    script_.push_back(std::move(answer));
+}
+
+std::vector<std::string> FaultServer::requests() {
+    const std::lock_guard lock(mutex_);
+    return requests_;
+}
+
+std::size_t FaultServer::connections() {
+    const std::lock_guard lock(mutex_);
+    return sockets_.size();
+}
+
+bool FaultServer::waitForRequests(std::size_t count) {
+    std::unique_lock lock(mutex_);
+    return changed_.wait_for(lock, std::chrono::seconds(30), [&] { return requests_.size() >= count; });
+}
+
+void FaultServer::acceptConnections() {
+    while (true) {
+        const int socket = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
+        if (socket < 0) {
+            return;
+        }
+        const int atOnce = 1;
+        setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &atOnce, sizeof(atOnce));
+        const std::lock_guard lock(mutex_);
+        sockets_.push_back(socket);
+        servers_.emplace_back([this, socket] { serve(socket); });
+    }
+}
+
+void FaultServer::serve(int socket) {
+    const std::unique_ptr<SSL, decltype(&SSL_free)> tls(SSL_new(context_.get()), &SSL_free);
+    SSL_set_fd(tls.get(), socket);
+    if (SSL_accept(tls.get()) == 1) {
+        while (answerOneRequest(tls.get())) {
+        }
+    }
+    shutdown(socket, SHUT_RDWR);
+}
+
+bool FaultServer::answerOneRequest(SSL* tls) {
+    auto request = readRequest(tls);
+    if (!request) {
+        return false;
+    }
+    std::optional<Answer> answer;
+    {
+        const std::lock_guard lock(mutex_);
+        requests_.push_back(*std::move(request));
+        if (!script_.empty()) {
+            answer = std::move(script_.front());
+            script_.pop_front();
+        }
+        changed_.notify_all();
+    }
+    if (!answer) {
+        // Silence, until the client goes away.
+        return static_cast<bool>(readRequest(tls));
+    }
+    for (bool first = true; const auto& piece : answer->pieces) {
+        if (!std::exchange(first, false) && answer->gate) {
+            answer->gate->wait();
+        }
+        if (SSL_write(tls, piece.data(), static_cast<int>(piece.size())) <= 0) {
+            return false;
+        }
+    }
+    if (answer->ending == Answer::Ending::close) {
+        SSL_shutdown(tls);
+    }
+    return answer->ending == Answer::Ending::keepOpen;
+}
+
+} // namespace quillet::testing

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Network/Session/URLSessionExchange.hpp"
+
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <memory>
+#include <mutex>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+namespace quillet::testing {
+
+/// Collects the outcomes of calls, in the order in which they come. Copies share what they collect, so that a
+/// call which a failing test left behind still finds it.
+template <typename Outcome>
+class Recorder {
+public:
+    void record(Outcome outcome) {
+        const std::lock_guard lock(state_->mutex);
+        state_->outcomes.push_back(std::move(outcome));
+        state_->threads.push_back(std::this_thread::get_id());
+        state_->changed.notify_all();
+    }
+
+    /// Waits until the outcome at that place is there.
+    [[nodiscard]] Outcome& wait(std::size_t place = 0) {
+        std::unique_lock lock(state_->mutex);
+        if (!state_->changed.wait_for(lock, std::chrono::seconds(30),
+                                      [&] { return state_->outcomes.size() > place; })) {
+            throw std::runtime_error("The call did not complete.");
+        }
+        return state_->outcomes[place];
+    }
+
+    [[nodiscard]] std::size_t count() {
+        const std::lock_guard lock(state_->mutex);
+        return state_->outcomes.size();
+    }
+
+    [[nodiscard]] std::thread::id threadOf(std::size_t place = 0) {
+        const std::lock_guard lock(state_->mutex);
+        return state_->threads.at(place);
+    }
+
+private:
+    struct State {
+        std::mutex mutex;
+        std::condition_variable changed;
+        std::deque<Outcome> outcomes;
+        std::vector<std::thread::id> threads;
+    };
+
+    std::shared_ptr<State> state_ = std::make_shared<State>();
+};
+
+/// Outcomes of a session's calls.
+class CallRecorder : public Recorder<URLSessionOutcome> {
+public:
+    [[nodiscard]] URLSessionDataTaskCompletion completion() {
+        return [recorder = *this](auto data, auto response, auto error) mutable {
+            recorder.record({std::move(data), std::move(response), std::move(error)});
+        };
+    }
+};
+
+} // namespace quillet::testing

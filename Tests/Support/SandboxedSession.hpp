@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Network/Session/URLSessionConfiguration.hpp"
+#include "Support/FaultServer.hpp"
+#include "Support/Recorder.hpp"
+#include "Support/VirtualClock.hpp"
+
+namespace quillet::testing {
+
+inline constexpr auto gatewayHost = "gateway.test";
+
+/// A fault server that stands for `gatewayHost`, and the configuration with which a session reaches it.
+struct SandboxedSession {
+    TestAuthority authority;
+    FaultServer server{authority.serverContext(gatewayHost)};
+    std::shared_ptr<VirtualClock> clock = std::make_shared<VirtualClock>();
+    URLSessionConfiguration configuration{
+        .caBundleFile = authority.bundleFile(),
+        .hostMappings = {{.host = gatewayHost, .address = "127.0.0.1", .port = server.port()}},
+        .clock = clock,
+    };
+};
+
+} // namespace quillet::testing
