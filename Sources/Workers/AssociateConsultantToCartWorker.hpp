@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Network/Services/SellOutCartServiceRequestable.hpp"
+#include "Network/Token/Authorization.hpp"
+#include "Workers/AssociateConsultantToCartWorkerDelegate.hpp"
+#include "Workers/ServiceWorker.hpp"
+
+namespace quillet {
+
+/// Associates the consultant with the customer's cart.
+class AssociateConsultantToCartWorker final
+    : public ServiceWorker<OrderResult, AssociateConsultantToCartWorkerDelegate> {
+public:
+    AssociateConsultantToCartWorker(std::unique_ptr<const SellOutCartServiceRequestable> service,
+                                    std::string cartUUID, std::uint64_t consultantId,
+                                    std::unique_ptr<const DispatchQueuing> dispatchMainQueue);
+
+    /// A worker with the real service, a session of its own, and the process's main queue. `domainUrl` is the
+    /// gateway's bare host name.
+    [[nodiscard]] static std::shared_ptr<AssociateConsultantToCartWorker>
+    factoryMethod(std::string cartUUID, std::uint64_t consultantId, std::string domainUrl,
+                  Authorization authorization);
+
+private:
+    void call(Completion completion) override;
+    [[nodiscard]] bool hasResponse(const OrderResult& result) const override;
+    void deliver(AssociateConsultantToCartWorkerDelegate& delegate, const OrderResult& result) const override;
+
+    std::unique_ptr<const SellOutCartServiceRequestable> service_;
+    std::string cartUUID_;
+    std::uint64_t consultantId_;
+};
+
+} // namespace quillet

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Network/Results/OrderResult.hpp"
+
+namespace quillet {
+
+/// Receives the outcome of associating a consultant with a cart: once for each run, on the main queue, as
+/// long as the worker is there. Held weakly.
+class AssociateConsultantToCartWorkerDelegate {
+public:
+    virtual ~AssociateConsultantToCartWorkerDelegate() = default;
+
+    virtual void didAssociate(const OrderResult& result) = 0;
+};
+
+} // namespace quillet

@@ -1,0 +1,13 @@
+#include "Workers/DispatchMainQueueWrapper.hpp"
+
+#include "Workers/MainQueue.hpp"
+
+#include <utility>
+
+namespace quillet {
+
+void DispatchMainQueueWrapper::async(std::move_only_function<void()> block) const {
+    mainQueue().async(std::move(block));
+}
+
+} // namespace quillet

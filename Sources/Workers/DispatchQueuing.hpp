@@ -1,0 +1,17 @@
+#pragma once
+
+#include <functional>
+
+namespace quillet {
+
+/// Takes work for a queue.
+class DispatchQueuing {
+public:
+    virtual ~DispatchQueuing() = default;
+
+    /// Queues the block and returns at once; it runs later, once, after all blocks queued before it, and is
+    /// freed after it ran. May be called on any thread.
+    virtual void async(std::move_only_function<void()> block) const = 0;
+};
+
+} // namespace quillet

@@ -1,0 +1,25 @@
+#include "Workers/GetOpenOrdersWorker.hpp"
+
+#include <utility>
+
+namespace quillet {
+
+GetOpenOrdersWorker::GetOpenOrdersWorker(
+    std::unique_ptr<const SellOutCartsStatusOpenServiceRequestable> service,
+    std::unique_ptr<const DispatchQueuing> dispatchMainQueue)
+    : ServiceWorker(std::move(dispatchMainQueue)), service_(std::move(service)) {}
+
+void GetOpenOrdersWorker::call(Completion completion) {
+    service_->getOpenOrders(std::move(completion));
+}
+
+bool GetOpenOrdersWorker::hasResponse(const OpenOrdersResult& result) const {
+    return result.response.has_value();
+}
+
+void GetOpenOrdersWorker::deliver(GetOpenOrdersWorkerDelegate& delegate,
+                                  const OpenOrdersResult& result) const {
+    delegate.didGetOpenOrders(result);
+}
+
+} // namespace quillet

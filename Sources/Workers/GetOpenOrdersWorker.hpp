@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Network/Services/SellOutCartsStatusOpenServiceRequestable.hpp"
+#include "Workers/GetOpenOrdersWorkerDelegate.hpp"
+#include "Workers/ServiceWorker.hpp"
+
+namespace quillet {
+
+/// Loads the consultant's open carts.
+class GetOpenOrdersWorker final : public ServiceWorker<OpenOrdersResult, GetOpenOrdersWorkerDelegate> {
+public:
+    GetOpenOrdersWorker(std::unique_ptr<const SellOutCartsStatusOpenServiceRequestable> service,
+                        std::unique_ptr<const DispatchQueuing> dispatchMainQueue);
+
+private:
+    void call(Completion completion) override;
+    [[nodiscard]] bool hasResponse(const OpenOrdersResult& result) const override;
+    void deliver(GetOpenOrdersWorkerDelegate& delegate, const OpenOrdersResult& result) const override;
+
+    std::unique_ptr<const SellOutCartsStatusOpenServiceRequestable> service_;
+};
+
+} // namespace quillet

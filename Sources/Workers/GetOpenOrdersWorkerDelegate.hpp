@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Network/Results/OpenOrdersResult.hpp"
+
+namespace quillet {
+
+/// Receives the open carts: once for each run, on the main queue, as long as the worker is there. Held
+/// weakly.
+class GetOpenOrdersWorkerDelegate {
+public:
+    virtual ~GetOpenOrdersWorkerDelegate() = default;
+
+    virtual void didGetOpenOrders(const OpenOrdersResult& result) = 0;
+};
+
+} // namespace quillet

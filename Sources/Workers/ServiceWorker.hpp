@@ -1,0 +1,68 @@
+#pragma once
+
+#include "Workers/DispatchQueuing.hpp"
+#include "Workers/Executable.hpp"
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <utility>
+
+namespace quillet {
+
+/// What the workers have in common: run one service call, remember whether it brought a response, and take
+/// the outcome to the delegate on the main queue. Held by std::shared_ptr; pending calls and queued blocks
+/// hold it weakly, so a worker that is freed takes its outstanding outcomes with it.
+template <typename Result, typename Delegate>
+class ServiceWorker : public Executable,
+                      public std::enable_shared_from_this<ServiceWorker<Result, Delegate>> {
+public:
+    [[nodiscard]] bool isFinishedSuccessfully() const final {
+        return isFinishedSuccessfully_.load(std::memory_order_acquire);
+    }
+
+    void execute() final {
+        willCall();
+        call([self = this->weak_from_this()](Result result) {
+            if (const auto worker = self.lock()) {
+                worker->didComplete(std::move(result));
+            }
+        });
+    }
+
+    /// Set once by whoever assembles the worker, before the first run.
+    void setDelegate(std::weak_ptr<Delegate> delegate) { delegate_ = std::move(delegate); }
+
+protected:
+    using Completion = std::move_only_function<void(Result)>;
+
+    explicit ServiceWorker(std::unique_ptr<const DispatchQueuing> dispatchMainQueue)
+        : dispatchMainQueue_(std::move(dispatchMainQueue)) {}
+
+    [[nodiscard]] std::shared_ptr<Delegate> delegate() const { return delegate_.lock(); }
+
+private:
+    virtual void willCall() {}
+    virtual void call(Completion completion) = 0;
+    [[nodiscard]] virtual bool hasResponse(const Result& result) const = 0;
+    virtual void deliver(Delegate& delegate, const Result& result) const = 0;
+
+    // Runs wherever the service calls back. Queueing the block after the write makes the flag visible to
+    // whoever is told on the main queue; the flag is atomic for those who ask at other times.
+    void didComplete(Result result) {
+        isFinishedSuccessfully_.store(hasResponse(result), std::memory_order_release);
+        dispatchMainQueue_->async([self = this->weak_from_this(), outcome = std::move(result)] {
+            if (const auto worker = self.lock()) {
+                if (const auto target = worker->delegate()) {
+                    worker->deliver(*target, outcome);
+                }
+            }
+        });
+    }
+
+    std::weak_ptr<Delegate> delegate_;
+    std::atomic<bool> isFinishedSuccessfully_ = false;
+    std::unique_ptr<const DispatchQueuing> dispatchMainQueue_;
+};
+
+} // namespace quillet

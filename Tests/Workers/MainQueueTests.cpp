@@ -1,0 +1,83 @@
+#include "Workers/MainQueue.hpp"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <atomic>
+#include <thread>
+#include <vector>
+
+namespace quillet {
+
+using ::testing::ElementsAre;
+
+TEST(MainQueue, RunsBlocksInOrderAndLeavesLaterOnesForTheNextDrain) {
+    MainQueue queue;
+    std::vector<int> ran;
+    queue.async([&] {
+        ran.push_back(1);
+        queue.async([&] { ran.push_back(3); });
+    });
+    queue.async([&] { ran.push_back(2); });
+    EXPECT_EQ(queue.drain(), 2u);
+    EXPECT_THAT(ran, ElementsAre(1, 2));
+    EXPECT_EQ(queue.drain(), 1u);
+    EXPECT_THAT(ran, ElementsAre(1, 2, 3));
+    EXPECT_EQ(queue.drain(), 0u);
+}
+
+TEST(MainQueue, KeepsTheOrderWhenABlockRunsAnEventLoopOfItsOwn) {
+    MainQueue queue;
+    std::vector<int> ran;
+    queue.async([&] {
+        queue.drain();
+        ran.push_back(3);
+    });
+    queue.async([&] { ran.push_back(1); });
+    queue.async([&] { ran.push_back(2); });
+    queue.drain();
+    EXPECT_THAT(ran, ElementsAre(1, 2, 3));
+}
+
+TEST(MainQueue, WakesTheEventLoopForEveryBlock) {
+    MainQueue queue;
+    int wakeUps = 0;
+    queue.async([] {});
+    queue.setWakeUp([&] { ++wakeUps; });
+    EXPECT_EQ(wakeUps, 1);
+    queue.async([&] { queue.async([] {}); });
+    EXPECT_EQ(wakeUps, 2);
+    queue.drain();
+    EXPECT_EQ(wakeUps, 3);
+    queue.setWakeUp(nullptr);
+    queue.async([] {});
+    EXPECT_EQ(wakeUps, 3);
+}
+
+TEST(MainQueue, LosesNothingThatThreadsQueueWhileItIsDrained) {
+    constexpr int each = 1000;
+    MainQueue queue;
+    std::atomic<int> wakeUps = 0;
+    queue.setWakeUp([&] { ++wakeUps; });
+    std::vector<int> ran[2];
+    {
+        std::vector<std::jthread> threads;
+        for (auto& list : ran) {
+            threads.emplace_back([&] {
+                for (int i = 0; i < each; ++i) {
+                    queue.async([&list, i] { list.push_back(i); });
+                }
+            });
+        }
+        for (std::size_t done = 0; done < 2 * each;) {
+            done += queue.drain();
+        }
+    }
+    EXPECT_EQ(wakeUps, 2 * each);
+    for (const auto& list : ran) {
+        EXPECT_TRUE(std::ranges::is_sorted(list));
+        EXPECT_EQ(list.size(), std::size_t{each});
+    }
+}
+
+} // namespace quillet
