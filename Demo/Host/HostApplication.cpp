@@ -15,10 +15,11 @@ HostApplication::HostApplication(Journal& journal, const QByteArray& orders)
 
 HostApplication::~HostApplication() = default;
 
-bool HostApplication::load(const std::shared_ptr<HostApplication>& self) {
+bool HostApplication::load(const std::shared_ptr<HostApplication>& self, bool compact) {
     self_ = self;
     kel::useDesignSystem(engine_);
-    engine_.setInitialProperties({{QStringLiteral("host"), QVariant::fromValue<QObject*>(this)}});
+    engine_.setInitialProperties({{QStringLiteral("host"), QVariant::fromValue<QObject*>(this)},
+                                  {QStringLiteral("compact"), compact}});
     engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Demo/Main.qml")));
     return window() != nullptr;
 }

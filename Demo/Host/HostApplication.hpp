@@ -23,8 +23,9 @@ public:
     HostApplication(Journal& journal, const QByteArray& orders);
     ~HostApplication() override;
 
-    /// Loads the window. False, with the reason on standard error, if its QML does not load.
-    [[nodiscard]] bool load(const std::shared_ptr<HostApplication>& self);
+    /// Loads the window: the phone-sized screen alone if `compact`, else with the journal where the display has room.
+    /// False, with the reason on standard error, if its QML does not load.
+    [[nodiscard]] bool load(const std::shared_ptr<HostApplication>& self, bool compact);
     [[nodiscard]] QQuickWindow* window() const;
     /// The phone-sized part of the window.
     [[nodiscard]] QQuickItem* phone() const;

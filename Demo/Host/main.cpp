@@ -129,7 +129,7 @@ int main(int argc, char** argv) {
     demo::Journal journal;
     const auto network = demo::configurePlatform(address, journal);
     const auto host = std::make_shared<demo::HostApplication>(journal, orders);
-    if (!host->load(host)) {
+    if (!host->load(host, plays)) {
         return complain(QStringLiteral("the window does not load"), kFailed);
     }
     if (!plays) {

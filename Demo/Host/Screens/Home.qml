@@ -63,15 +63,16 @@ ListView {
                     }
                     KelLabel {
                         width: parent.width
-                        text: order.modelData.title
+                        text: order.modelData.message
                         size: 7
                         lineHeight: 1.2
                         color: KelColors.mediumEmphasis
                         wrapMode: Text.Wrap
                     }
                     KelLabel {
-                        text: order.modelData.consultant + " · " + order.modelData.country + " · "
-                              + String(order.modelData.cart).slice(0, 8)
+                        width: parent.width
+                        text: order.modelData.consultant + " · " + order.modelData.title
+                        wrapMode: Text.Wrap
                         size: 11
                         color: KelColors.mediumEmphasis
                     }

@@ -7,11 +7,13 @@ ApplicationWindow {
     id: window
 
     required property var host
+    // A play looks at the phone alone; a developer's desk has room for the journal beside it.
+    required property bool compact
     readonly property alias stack: stack
     readonly property alias phone: phone
     readonly property bool wide: window.width >= 800
 
-    width: 390
+    width: !window.compact && Screen.desktopAvailableWidth >= 1180 ? 1180 : 390
     height: 844
     visible: true
     title: "Quillet"
