@@ -34,6 +34,10 @@ ScreenItem {
         anchors.fill: parent
         z: 2
         active: screen.onTop && screen.loadingView !== null && screen.loadingView.onScreen
-        sourceComponent: LoadingView {}
+        sourceComponent: LoadingView {
+            loadingView: screen.loadingView
+            screenArea: screen.coverArea ? screen.coverArea.mapFromItem(screen.parent, 0, 0, screen.width, screen.height)
+                                         : Qt.rect(0, 0, 0, 0)
+        }
     }
 }

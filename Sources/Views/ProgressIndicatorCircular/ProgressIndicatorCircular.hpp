@@ -1,0 +1,57 @@
+#pragma once
+
+#include "Views/ProgressIndicatorCircular/ProgressIndicatorCircularAnimating.hpp"
+#include "Views/SemiCircleLayer/SemiCircleLayer.hpp"
+
+#include <QObject>
+#include <QSizeF>
+
+#include <memory>
+
+namespace quillet {
+
+/// The ring that turns while a call runs: a closed circle with an arc that grows, catches up, and turns. It knows what
+/// to draw; a ProgressIndicatorItem draws it. Main thread only.
+class ProgressIndicatorCircular final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(bool visible READ isVisible NOTIFY changed FINAL)
+
+public:
+    enum class Action { showAndStartAnimation, hideAndStopAnimation };
+    enum class Size { standard, semi, medium, large };
+
+    explicit ProgressIndicatorCircular(std::unique_ptr<ProgressIndicatorCircularAnimating> animator);
+
+    /// Hiding takes effect at once and strips the layers; showing does at the next drawing.
+    void configure(Action action, Size size);
+    /// Fills the ring white, or not at all.
+    void configure(bool useBackgroundLayer);
+
+    /// Does what it was configured to do; drawing again adds nothing a second time. `bounds` are the item's.
+    void draw(const QSizeF& bounds);
+
+    [[nodiscard]] bool isVisible() const { return isVisible_; }
+    /// Whether there is anything to draw at the next frame.
+    [[nodiscard]] bool isAnimating() const { return action_ == Action::showAndStartAnimation; }
+    /// Holds the circle layer while the indicator shows, else nothing.
+    [[nodiscard]] const ShapeLayer& layer() const { return layer_; }
+    /// Null until it is first drawn.
+    [[nodiscard]] const SemiCircleLayer* semiCircleLayer() const { return semiCircleLayer_.get(); }
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void hide();
+    void addCircleAndSemiCircle(const QSizeF& bounds);
+
+    std::unique_ptr<ProgressIndicatorCircularAnimating> animator_;
+    Action action_ = Action::hideAndStopAnimation;
+    Size size_ = Size::standard;
+    bool isVisible_ = false;
+    ShapeLayer layer_;
+    std::shared_ptr<ShapeLayer> circleLayer_ = std::make_shared<ShapeLayer>();
+    std::shared_ptr<SemiCircleLayer> semiCircleLayer_;
+};
+
+} // namespace quillet
