@@ -49,6 +49,7 @@ class KelColors : public QObject {
     Q_PROPERTY(QColor hairline READ hairline NOTIFY changed FINAL)
     Q_PROPERTY(QColor dim READ dim CONSTANT FINAL)
     Q_PROPERTY(QColor veil READ veil NOTIFY changed FINAL)
+    Q_PROPERTY(bool hasShadows READ hasShadows NOTIFY changed FINAL)
 
 public:
     explicit KelColors(QObject* parent = nullptr);
@@ -71,6 +72,9 @@ public:
     /// What covers the screen while a call runs. In the dark theme highEmphasis is light and would swallow
     /// the ring.
     [[nodiscard]] static QColor veil();
+
+    /// On a dark ground a shadow cannot be seen: there a lighter surface alone lifts a card.
+    [[nodiscard]] static bool hasShadows() { return KelPalettes::current().theme() == KelTheme::light; }
 
     [[nodiscard]] Q_INVOKABLE static QColor withAlpha(QColor color, double alpha);
     /// The pale ground of a strip or disc in the given colour.

@@ -7,9 +7,9 @@ Rectangle {
     id: bar
 
     required property StackView stack
-    readonly property var screen: bar.stack.currentItem ? bar.stack.currentItem.viewController ?? null : null
-    readonly property string title: bar.screen ? bar.screen.title
-                                               : bar.stack.currentItem ? bar.stack.currentItem.title : ""
+    readonly property var page: bar.stack.currentItem
+    readonly property var screen: bar.page?.viewController ?? null
+    readonly property string title: bar.screen?.title ?? bar.page?.title ?? ""
     readonly property bool hasBack: bar.stack.depth > 1 && !(bar.screen && bar.screen.hidesBackButton)
 
     objectName: "hostBar"

@@ -1,3 +1,6 @@
+// Bound components cannot be made by a view or a loader in Qt 6.4, so the ids of this file are seen from inside them.
+// qmllint disable unqualified
+
 import QtQuick
 import QtQuick.Controls.Basic
 import KelDS
@@ -21,15 +24,13 @@ ListView {
 
         x: KelSpacing.small
         width: ListView.view.width - 2 * KelSpacing.small
-        implicitHeight: card.implicitHeight
+        implicitHeight: implicitContentHeight
         Accessible.role: Accessible.Button
         Accessible.name: order.modelData.customer + ". " + order.modelData.title
         onClicked: home.host.openOrder(order.index)
-        Keys.onReturnPressed: order.click()
+        Keys.onReturnPressed: order.clicked()
 
         contentItem: KelCard {
-            id: card
-
             border.width: order.visualFocus ? 2 : 1
             border.color: order.visualFocus ? KelColors.highEmphasis : KelColors.hairline
             color: order.down ? KelColors.tint(KelColors.primary) : KelColors.surface

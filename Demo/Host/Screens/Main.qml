@@ -1,3 +1,6 @@
+// Bound components cannot be made by a view or a loader in Qt 6.4, so the ids of this file are seen from inside them.
+// qmllint disable unqualified
+
 import QtQuick
 import QtQuick.Controls.Basic
 import KelDS
@@ -62,7 +65,12 @@ ApplicationWindow {
         width: parent.width - x
         height: parent.height
         active: window.wide
-        sourceComponent: Live {
+        sourceComponent: live
+    }
+    Component {
+        id: live
+
+        Live {
             journal: window.host.journal
         }
     }

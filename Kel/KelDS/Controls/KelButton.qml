@@ -9,19 +9,17 @@ AbstractButton {
     property string identifier
 
     objectName: button.identifier
-    implicitWidth: Math.max(KelSizes.large, label.implicitWidth + 2 * KelSpacing.semi)
+    implicitWidth: Math.max(KelSizes.large, button.implicitContentWidth + 2 * KelSpacing.semi)
     implicitHeight: KelSizes.medium
     focusPolicy: Qt.StrongFocus
     hoverEnabled: false
     Accessible.role: Accessible.Button
     Accessible.name: button.text
-    Accessible.onPressAction: button.click()
-    Keys.onReturnPressed: button.click()
-    Keys.onEnterPressed: button.click()
+    Accessible.onPressAction: button.clicked()
+    Keys.onReturnPressed: button.clicked()
+    Keys.onEnterPressed: button.clicked()
 
     contentItem: KelLabel {
-        id: label
-
         text: button.text
         size: 8
         weight: 2

@@ -1,7 +1,8 @@
 import QtQuick
 import KelDS
 
-// Level 1: one white layer on the sand ground. Whatever is declared inside becomes its content, inset by `padding`.
+// Level 1: one white layer on the sand ground, with a soft shadow where the theme has shadows. Whatever is declared
+// inside becomes its content, inset by `padding`. The shadow is a picture, because both renderers draw pictures alike.
 Rectangle {
     id: card
 
@@ -14,6 +15,17 @@ Rectangle {
     border.width: 1
     border.color: KelColors.hairline
 
+    BorderImage {
+        anchors.fill: parent
+        anchors.margins: -28
+        z: -1
+        visible: KelColors.hasShadows
+        source: "Controls/shadow.png"
+        border.left: 44
+        border.top: 44
+        border.right: 44
+        border.bottom: 44
+    }
     Item {
         id: body
 

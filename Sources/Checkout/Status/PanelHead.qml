@@ -17,8 +17,8 @@ AbstractButton {
     Accessible.name: head.title
     Accessible.checkable: true
     Accessible.checked: head.expanded
-    Accessible.onPressAction: head.click()
-    Keys.onReturnPressed: head.click()
+    Accessible.onPressAction: head.clicked()
+    Keys.onReturnPressed: head.clicked()
 
     background: Rectangle {
         color: "transparent"

@@ -1,3 +1,6 @@
+// Bound components cannot be made by a view or a loader in Qt 6.4, so the ids of this file are seen from inside them.
+// qmllint disable unqualified
+
 import QtQuick
 import KelDS
 import Quillet.Checkout

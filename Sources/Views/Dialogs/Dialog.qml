@@ -72,7 +72,8 @@ Item {
                     visible: root.dialog.icon.toString() !== ""
                     width: 2 * KelSizes.semiX
                     height: 2 * KelSizes.semiX
-                    sourceSize: Qt.size(width, height)
+                    sourceSize.width: width
+                    sourceSize.height: height
                     source: root.dialog.icon
                 }
                 Item {

@@ -27,7 +27,8 @@ Rectangle {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: 200
                 height: 200
-                sourceSize: Qt.size(width, height)
+                sourceSize.width: width
+                sourceSize.height: height
                 source: root.tryAgain.icon
             }
             KelLabel {
