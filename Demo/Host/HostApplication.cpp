@@ -2,6 +2,7 @@
 
 #include "KelDS/KelDS.hpp"
 #include "KelDSIcons/KelDSIcons.hpp"
+#include "Sandbox/RefusedOrder.hpp"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -38,8 +39,16 @@ bool HostApplication::open(const Order& order) {
     quillet::QuilletConfiguration::shared().configure(order.environment);
     const auto starter =
         quillet::Starter::create(order.accessToken, order.authorizationProvider, order.cart, self_.lock());
-    auto* stack = window()->property("stack").value<QQuickItem*>();
-    return starter && quillet::present(starter->createRootViewController(), *stack);
+    return starter && show(starter->createRootViewController());
+}
+
+bool HostApplication::openHandmade(const std::string& refusal) {
+    close();
+    return show(refusedOrderScreen(refusal, self_));
+}
+
+bool HostApplication::show(const std::shared_ptr<quillet::QuickViewController>& screen) {
+    return quillet::present(screen, *window()->property("stack").value<QQuickItem*>());
 }
 
 void HostApplication::close() {

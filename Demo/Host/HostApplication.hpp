@@ -38,6 +38,8 @@ public:
     };
     /// Opens the module for an order; false if its token cannot be signed or its screen not shown.
     bool open(const Order& order);
+    /// Shows the first screen as it answers to a refusal with this code of the back end's, without any request.
+    bool openHandmade(const std::string& refusal);
     /// Takes the module away.
     void close();
 
@@ -52,6 +54,7 @@ public:
     [[nodiscard]] QObject* journal() const { return &journal_; }
 
 private:
+    bool show(const std::shared_ptr<quillet::QuickViewController>& screen);
     void showHostPage(const QString& title, const QString& message, int icon);
 
     Journal& journal_;

@@ -1,6 +1,7 @@
 #include "SaleSummary/SaleSummaryFactory.hpp"
 
 #include "KelCommon/KelAnalyticsManager.hpp"
+#include "SaleSummary/SaleSummaryQml.hpp"
 #include "SaleSummary/Screen/SaleSummaryRouter.hpp"
 #include "SaleSummary/Screen/SaleSummaryViewController.hpp"
 #include "SaleSummary/UseCases/SaleSummaryUseCaseFactory.hpp"
@@ -10,11 +11,6 @@
 #include "Workers/GetOpenOrdersWorkerFactory.hpp"
 
 #include <utility>
-
-extern void qml_register_types_Quillet_SaleSummary();
-static void initSaleSummaryResources() {
-    Q_INIT_RESOURCE(qmake_Quillet_SaleSummary);
-}
 
 namespace quillet {
 
@@ -29,8 +25,7 @@ SaleSummaryFactory::SaleSummaryFactory(CartForConsultant cart, Authorization aut
       navigationDelegate_(std::move(navigationDelegate)) {}
 
 std::shared_ptr<QuickViewController> SaleSummaryFactory::createViewController() const {
-    initSaleSummaryResources();
-    qml_register_types_Quillet_SaleSummary();
+    useSaleSummaryQml();
 
     auto associateWorker = AssociateConsultantToCartWorker::factoryMethod(cart_.uuid, cart_.consultantId,
                                                                           domainUrl_, authorization_);

@@ -1,5 +1,7 @@
 #include "Play/PlayRunner.hpp"
 
+#include "KelCommon/KelLocalized.hpp"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -65,12 +67,19 @@ QJsonObject PlayRunner::run(const PlayScript& play) {
             break;
         }
     }
-    const QJsonObject result{{QStringLiteral("name"), play.name},
-                             {QStringLiteral("ok"), ok},
-                             {QStringLiteral("steps"), reports},
-                             {QStringLiteral("requests"), journal_.requestsJson()},
-                             {QStringLiteral("analytics"), journal_.analyticsJson()},
-                             {QStringLiteral("navigation"), journal_.navigationJson()}};
+    // What the last step set off, such as the action of a dialog that still fades, belongs to the play.
+    wait(kPatience, [this] { return settled(); });
+    QJsonObject result{{QStringLiteral("name"), play.name},
+                       {QStringLiteral("ok"), ok},
+                       {QStringLiteral("steps"), reports},
+                       {QStringLiteral("requests"), journal_.requestsJson()},
+                       {QStringLiteral("analytics"), journal_.analyticsJson()},
+                       {QStringLiteral("navigation"), journal_.navigationJson()}};
+    if (std::ranges::any_of(play.lines, [](const PlayLine& line) {
+            return std::holds_alternative<steps::Handmade>(line.step);
+        })) {
+        result[QStringLiteral("handmade")] = true;
+    }
     host_.close();
     wait(kPatience, [this] { return settled(); });
     return result;
@@ -81,7 +90,22 @@ QString PlayRunner::perform(const Step& step) {
 }
 
 QString PlayRunner::perform(const steps::Open& step) {
+    hasOpened_ = true;
     return host_.open(step.order) ? QString() : QStringLiteral("the module did not open");
+}
+
+QString PlayRunner::perform(const steps::Handmade& step) {
+    hasOpened_ = true;
+    return host_.openHandmade(step.code.toStdString()) ? QString()
+                                                       : QStringLiteral("the module did not open");
+}
+
+QString PlayRunner::perform(const steps::Language& step) {
+    if (hasOpened_) {
+        return QStringLiteral("the language is chosen before the first screen");
+    }
+    kel::setLanguage(step.code);
+    return {};
 }
 
 QString PlayRunner::perform(const steps::Close&) {
@@ -225,7 +249,8 @@ QString PlayRunner::title() const {
 
 bool PlayRunner::settled() const {
     const auto* stack = host_.window()->property("stack").value<QQuickItem*>();
-    return stack && !stack->property("busy").toBool();
+    const auto* dialog = reader_.named(QStringLiteral("dialogBackground"));
+    return stack && !stack->property("busy").toBool() && !(dialog && dialog->opacity() < 1);
 }
 
 } // namespace demo

@@ -29,6 +29,8 @@ private:
     /// What is missing for the step to be met; empty if nothing is.
     [[nodiscard]] QString perform(const Step& step);
     [[nodiscard]] QString perform(const steps::Open& step);
+    [[nodiscard]] QString perform(const steps::Handmade& step);
+    [[nodiscard]] QString perform(const steps::Language& step);
     [[nodiscard]] QString perform(const steps::Close& step);
     [[nodiscard]] QString perform(const steps::Tap& step);
     [[nodiscard]] QString perform(const steps::Expect& step);
@@ -47,6 +49,7 @@ private:
     void click(QPointF point);
     void scrollTowards(const QString& name);
     [[nodiscard]] QString title() const;
+    /// Neither a page nor a dialog is on its way in or out.
     [[nodiscard]] bool settled() const;
 
     HostApplication& host_;
@@ -54,6 +57,7 @@ private:
     std::shared_ptr<SwitchableNetworkPath> network_;
     QString shots_;
     ScreenReader reader_;
+    bool hasOpened_ = false;
 };
 
 } // namespace demo

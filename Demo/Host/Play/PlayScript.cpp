@@ -128,16 +128,36 @@ Parsed parseShot(const Words& words) {
                : std::unexpected(QStringLiteral("shot takes a name of letters, digits, points and dashes"));
 }
 
+/// One word out of a few.
+std::optional<QString> choice(const Words& words, const QStringList& known) {
+    return words.size() == 1 && known.contains(words.first()) ? std::optional(words.first()) : std::nullopt;
+}
+
+Parsed parseHandmade(const Words& words) {
+    const auto code = choice(words, {QStringLiteral("ERROR_CART_OTHER_CONSULTANT"),
+                                     QStringLiteral("ERROR_CART_ALREADY_SUBMITTED")});
+    return code ? Parsed(steps::Handmade{*code})
+                : std::unexpected(QStringLiteral("handmade takes ERROR_CART_OTHER_CONSULTANT or "
+                                                 "ERROR_CART_ALREADY_SUBMITTED"));
+}
+
+Parsed parseLanguage(const Words& words) {
+    const auto code = choice(words, {QStringLiteral("es"), QStringLiteral("pt"), QStringLiteral("en")});
+    return code ? Parsed(steps::Language{*code})
+                : std::unexpected(QStringLiteral("language takes es, pt or en"));
+}
+
 Parsed parseNetwork(const Words& words) {
-    const QString state = words.value(0);
-    return words.size() == 1 && (state == QLatin1String("on") || state == QLatin1String("off"))
-               ? Parsed(steps::Network{state == QLatin1String("on")})
-               : std::unexpected(QStringLiteral("network takes on or off"));
+    const auto state = choice(words, {QStringLiteral("on"), QStringLiteral("off")});
+    return state ? Parsed(steps::Network{*state == QLatin1String("on")})
+                 : std::unexpected(QStringLiteral("network takes on or off"));
 }
 
 Parsed parseStep(const QString& line) {
     static const QHash<QString, std::function<Parsed(const Words&)>> parsers{
         {QStringLiteral("open"), parseOpen},
+        {QStringLiteral("handmade"), parseHandmade},
+        {QStringLiteral("language"), parseLanguage},
         {QStringLiteral("close"), parseBare<steps::Close>},
         {QStringLiteral("tap"), parseText<steps::Tap>},
         {QStringLiteral("expect"), parseExpect},

@@ -16,6 +16,14 @@ namespace steps {
 struct Open {
     HostApplication::Order order;
 };
+/// A refusal with one of the back end's codes that no reply can produce, made by hand.
+struct Handmade {
+    QString code;
+};
+/// Before the first screen of the process: texts that were looked up keep their language.
+struct Language {
+    QString code;
+};
 struct Close {};
 /// By shown text, accessible name, or identifier.
 struct Tap {
@@ -43,8 +51,9 @@ struct Network {
 
 } // namespace steps
 
-using Step = std::variant<steps::Open, steps::Close, steps::Tap, steps::Expect, steps::Absent, steps::Title,
-                          steps::Background, steps::CloseIcon, steps::Back, steps::Shot, steps::Network>;
+using Step = std::variant<steps::Open, steps::Handmade, steps::Language, steps::Close, steps::Tap,
+                          steps::Expect, steps::Absent, steps::Title, steps::Background, steps::CloseIcon,
+                          steps::Back, steps::Shot, steps::Network>;
 
 /// A step, and the line that it was written as.
 struct PlayLine {

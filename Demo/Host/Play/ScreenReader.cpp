@@ -10,7 +10,6 @@ namespace demo {
 
 namespace {
 
-constexpr double kInvisible = 0.05;
 /// Elements whose middles are closer than this stand on one line.
 constexpr double kLine = 8;
 
@@ -26,7 +25,7 @@ bool drawn(const QQuickItem& item) {
     for (const QQuickItem* i = &item; i; i = i->parentItem()) {
         opacity *= i->opacity();
     }
-    return item.isVisible() && opacity > kInvisible;
+    return item.isVisible() && opacity > 0;
 }
 
 QRectF sceneRect(const QQuickItem& item) {

@@ -29,8 +29,8 @@ struct LayerAnimationGroup {
     double duration = 0;
     std::vector<BasicLayerAnimation> animations;
 
-    /// The value of a property `time` seconds after the group began; `otherwise` where no animation of the group
-    /// moves it at that moment.
+    /// The value of a property `time` seconds after the group began; `otherwise` where no animation of the
+    /// group moves it at that moment.
     [[nodiscard]] double value(const std::string& keyPath, double time, double otherwise) const;
 
     bool operator==(const LayerAnimationGroup&) const = default;

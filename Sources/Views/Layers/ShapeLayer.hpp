@@ -49,7 +49,9 @@ public:
     double lineWidth = 1;
 
     /// Adds an animation, in place of the one that runs under this key.
-    void addAnimation(LayerAnimationGroup animation, const std::string& key) { animations_[key] = std::move(animation); }
+    void addAnimation(LayerAnimationGroup animation, const std::string& key) {
+        animations_[key] = std::move(animation);
+    }
     void removeAllAnimations() { animations_.clear(); }
     [[nodiscard]] const std::map<std::string, LayerAnimationGroup>& animations() const { return animations_; }
 

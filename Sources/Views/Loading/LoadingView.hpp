@@ -9,8 +9,8 @@
 
 namespace quillet {
 
-/// The full-screen overlay that a screen shows while a call runs, with the progress indicator in its middle. Off screen
-/// it draws nothing and costs no frame.
+/// The full-screen overlay that a screen shows while a call runs, with the progress indicator in its middle.
+/// Off screen it draws nothing and costs no frame.
 class LoadingView final : public QObject, public Loading {
     Q_OBJECT
     Q_PROPERTY(bool onScreen READ isOnScreen NOTIFY onScreenChanged FINAL)

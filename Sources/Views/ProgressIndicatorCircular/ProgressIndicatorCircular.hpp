@@ -10,8 +10,8 @@
 
 namespace quillet {
 
-/// The ring that turns while a call runs: a closed circle with an arc that grows, catches up, and turns. It knows what
-/// to draw; a ProgressIndicatorItem draws it. Main thread only.
+/// The ring that turns while a call runs: a closed circle with an arc that grows, catches up, and turns. It
+/// knows what to draw; a ProgressIndicatorItem draws it. Main thread only.
 class ProgressIndicatorCircular final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool visible READ isVisible NOTIFY changed FINAL)

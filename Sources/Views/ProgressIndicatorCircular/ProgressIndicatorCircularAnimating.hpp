@@ -12,8 +12,8 @@ public:
     virtual void addSpringAnimation(ShapeLayer& layer) const = 0;
 };
 
-/// One turn every four seconds; and in rounds of a second and a half, an arc whose head runs around the ring in the
-/// first second while its tail creeps to 15 %, and whose tail then catches up.
+/// One turn every four seconds; and in rounds of a second and a half, an arc whose head runs around the ring
+/// in the first second while its tail creeps to 15 %, and whose tail then catches up.
 class ProgressIndicatorCircularAnimator final : public ProgressIndicatorCircularAnimating {
 public:
     void addRotationAnimation(ShapeLayer& layer) const override;

@@ -4,7 +4,8 @@
 
 namespace quillet {
 
-/// The moving arc of the progress indicator: a circle around the middle of its parent, stroked and not filled.
+/// The moving arc of the progress indicator: a circle around the middle of its parent, stroked and not
+/// filled.
 class SemiCircleLayer final : public ShapeLayer {
 public:
     SemiCircleLayer(double diameter, const QRectF& parentLayerBounds);
