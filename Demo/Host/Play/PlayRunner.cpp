@@ -17,6 +17,8 @@ namespace {
 
 /// How often a waiting step looks again.
 constexpr std::chrono::milliseconds kGlance{20};
+/// The same for one that scrolls through a long list meanwhile.
+constexpr std::chrono::milliseconds kScrollGlance{1};
 
 void letTimePass(std::chrono::milliseconds time) {
     QEventLoop loop;
@@ -115,13 +117,16 @@ QString PlayRunner::perform(const steps::Close&) {
 }
 
 QString PlayRunner::perform(const steps::Tap& step) {
-    const bool tapped = wait(kPatience, [&] {
-        if (tapHere(step.name)) {
-            return true;
-        }
-        scrollTowards(step.name);
-        return false;
-    });
+    const bool tapped = wait(
+        kPatience,
+        [&] {
+            if (tapHere(step.name)) {
+                return true;
+            }
+            scrollTowards(step.name);
+            return false;
+        },
+        kScrollGlance);
     return tapped ? QString() : QStringLiteral("nothing to tap is called \"%1\"").arg(step.name);
 }
 
@@ -178,14 +183,15 @@ QString PlayRunner::perform(const steps::Network& step) {
     return {};
 }
 
-bool PlayRunner::wait(std::chrono::milliseconds patience, const std::function<bool()>& done) {
+bool PlayRunner::wait(std::chrono::milliseconds patience, const std::function<bool()>& done,
+                      std::chrono::milliseconds glance) {
     QElapsedTimer timer;
     timer.start();
     while (!done()) {
         if (std::chrono::milliseconds(timer.elapsed()) > patience) {
             return false;
         }
-        letTimePass(kGlance);
+        letTimePass(glance);
     }
     return true;
 }

@@ -42,8 +42,9 @@ private:
     [[nodiscard]] QString perform(const steps::Shot& step);
     [[nodiscard]] QString perform(const steps::Network& step);
 
-    /// Lets time pass until `done`, at the most `patience`; whether it came to that.
-    bool wait(std::chrono::milliseconds patience, const std::function<bool()>& done);
+    /// Lets time pass until `done`, at the most `patience`, looking every `glance`; whether it came to that.
+    bool wait(std::chrono::milliseconds patience, const std::function<bool()>& done,
+              std::chrono::milliseconds glance = std::chrono::milliseconds(20));
     bool tapNamed(const QString& objectName, std::function<QPointF(const QQuickItem&)> where);
     bool tapHere(const QString& name);
     void click(QPointF point);

@@ -12,6 +12,9 @@ Item {
     required property bool hasReason
     required property bool first
 
+    // A number of twenty digits leaves no room beside its badge: the texts then go below.
+    readonly property bool crowded: badge.width + pointsLabel.width > product.width / 2
+
     implicitHeight: Math.max(tile.y + tile.height, texts.y + texts.height) + KelSpacing.small
 
     KelDivider {
@@ -39,7 +42,7 @@ Item {
 
         x: tile.x + tile.width + KelSpacing.tiny
         y: tile.y
-        width: Math.max(KelSizes.standard, quantityLabel.implicitWidth + KelSpacing.tiny)
+        width: Math.max(KelSizes.standard, quantityLabel.implicitWidth + 12)
         height: KelSizes.standard
         radius: KelRadius.small
         color: KelColors.primary
@@ -57,9 +60,9 @@ Item {
     Column {
         id: texts
 
-        x: badge.x + badge.width + 12
-        y: tile.y
-        width: pointsLabel.x - x - 12
+        x: product.crowded ? badge.x : badge.x + badge.width + 12
+        y: product.crowded ? pointsLabel.y + Math.max(badge.height, pointsLabel.height) + KelSpacing.tiny : tile.y
+        width: (product.crowded ? product.width - KelSpacing.small : pointsLabel.x - 12) - x
         spacing: KelSpacing.micro
 
         KelLabel {

@@ -12,13 +12,16 @@ ListView {
     id: list
 
     required property var status
-    property bool scrolled: false
+
+    function beginAtHeader() {
+        if (list.contentY - list.originY < list.headerItem.height) {
+            list.positionViewAtBeginning()
+        }
+    }
 
     boundsBehavior: Flickable.StopAtBounds
-    // The header takes its final height only when the page has its width, which is after the first layout: until
-    // somebody scrolls, the list stays at its beginning.
-    onOriginYChanged: if (!list.scrolled) list.contentY = list.originY
-    onMovementStarted: list.scrolled = true
+    // Rows that are being made ahead of time must not be taken away meanwhile, as closing a section does.
+    cacheBuffer: 0
     model: list.status.products
     delegate: ProductsRow {
         width: ListView.view.width
@@ -27,6 +30,9 @@ ListView {
     header: ProductsHeaderView {
         width: ListView.view.width
         status: list.status
+        // It takes its final height in the course of the first layout, and the list would then begin in the middle of
+        // it. A list must not be moved while it lays itself out.
+        onHeightChanged: Qt.callLater(list.beginAtHeader)
     }
     footer: Item {
         id: end

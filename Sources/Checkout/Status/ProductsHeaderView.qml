@@ -71,14 +71,20 @@ Item {
                         required property var modelData
 
                         width: parent.width
-                        height: KelSizes.semiX
+                        height: Math.max(KelSizes.semiX, text.implicitHeight + KelSpacing.tiny)
 
                         KelLabel {
+                            id: text
+
+                            width: tag.x - KelSpacing.tiny
                             height: parent.height
                             text: counter.modelData.leftText
                             size: 7
+                            wrapMode: Text.Wrap
                         }
                         KelTag {
+                            id: tag
+
                             anchors.right: parent.right
                             anchors.verticalCenter: parent.verticalCenter
                             text: counter.modelData.tagText

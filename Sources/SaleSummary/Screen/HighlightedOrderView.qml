@@ -57,19 +57,25 @@ KelCard {
             width: parent.width
         }
         KelValueLabel {
-            height: KelSizes.mediumX
+            width: parent.width
+            height: Math.max(KelSizes.mediumX, implicitHeight + KelSpacing.small)
             caption: card.summary.totalOfProducts.caption
             value: card.summary.totalOfProducts.value
+            wrapMode: Text.Wrap
         }
         Rectangle {
             width: parent.width
-            height: KelSizes.mediumX
+            height: Math.max(KelSizes.mediumX, orderPoints.implicitHeight + KelSpacing.small)
             radius: KelRadius.medium
             color: KelColors.tint(KelColors.success)
 
             KelValueLabel {
+                id: orderPoints
+
                 x: KelSpacing.small
+                width: parent.width - 2 * KelSpacing.small
                 height: parent.height
+                wrapMode: Text.Wrap
                 caption: card.summary.orderPoints.caption
                 value: card.summary.orderPoints.value
                 size: 6
