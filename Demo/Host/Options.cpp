@@ -73,7 +73,8 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
                                      QStringLiteral("The gateway to start."), QStringLiteral("FILE"));
     const QCommandLineOption language(QStringLiteral("language"), QStringLiteral("es, pt or en (es)."),
                                       QStringLiteral("CODE"), QStringLiteral("es"));
-    parser.addOptions({help, tour, play, out, gateway, ca, port, reset, data, program, language});
+    const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Use the dark theme."));
+    parser.addOptions({help, tour, play, out, gateway, ca, port, reset, data, program, language, dark});
 
     if (!parser.parse(arguments)) {
         return std::unexpected(parser.errorText());
@@ -91,6 +92,7 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
     options.gatewayProgram = parser.value(program);
     options.reset = parser.isSet(reset);
     options.language = parser.value(language);
+    options.dark = parser.isSet(dark);
     if (!QStringList{QStringLiteral("es"), QStringLiteral("pt"), QStringLiteral("en")}.contains(
             options.language)) {
         return std::unexpected(QStringLiteral("--language is es, pt or en, not ") + options.language);

@@ -26,6 +26,7 @@ struct Options {
     quint16 port = 0;
     bool reset = false;
     QString language;
+    bool dark = false;
 };
 
 /// Reads the arguments. The error is one line for a person; an empty one means that help was asked for and

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Views/Tokens/HexColor.hpp"
+
 #include <QColor>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -15,8 +17,8 @@ class PanelColors : public QObject {
     Q_PROPERTY(QColor notSent READ notSent CONSTANT FINAL)
 
 public:
-    [[nodiscard]] static QColor sent() { return QColor(0x66, 0x98, 0x42); }
-    [[nodiscard]] static QColor notSent() { return QColor(0xD5, 0x53, 0x36); }
+    [[nodiscard]] static QColor sent() { return hexColor("#669842", 1).value_or(Qt::transparent); }
+    [[nodiscard]] static QColor notSent() { return hexColor("#D55336", 1).value_or(Qt::transparent); }
 };
 
 } // namespace quillet

@@ -5,6 +5,17 @@ Item {
     id: root
 
     required property var dialog
+    // How far the dialog has come in; it goes out by its own alpha.
+    property real appeared: 0
+
+    NumberAnimation on appeared {
+        to: 1
+        duration: 200
+        easing.type: Easing.OutCubic
+    }
+    focus: true
+    Component.onCompleted: root.forceActiveFocus()
+    Keys.onEscapePressed: root.dialog.touchCloseIcon()
 
     Accessible.role: Accessible.Dialog
     Accessible.name: root.dialog.title
@@ -15,7 +26,7 @@ Item {
         objectName: "dialogBackground"
         anchors.fill: parent
         color: KelColors.dim
-        opacity: root.dialog.alpha
+        opacity: root.dialog.alpha * root.appeared
 
         MouseArea {
             anchors.fill: parent
@@ -32,7 +43,8 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         radius: KelRadius.large
         color: KelColors.surface
-        opacity: root.dialog.alpha
+        scale: 0.96 + 0.04 * root.appeared
+        opacity: root.dialog.alpha * root.appeared
 
         MouseArea {
             anchors.fill: parent
