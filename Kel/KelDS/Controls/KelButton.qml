@@ -7,6 +7,11 @@ AbstractButton {
 
     property bool outlined: false
     property string identifier
+    // Whether touching down is enough; else the finger has to leave the button on it.
+    property bool actsOnPress: false
+
+    // The button was used, be it by touch, by key or by a screen reader.
+    signal activated
 
     objectName: button.identifier
     implicitWidth: Math.max(KelSizes.large, button.implicitContentWidth + 2 * KelSpacing.semi)
@@ -15,9 +20,11 @@ AbstractButton {
     hoverEnabled: false
     Accessible.role: Accessible.Button
     Accessible.name: button.text
-    Accessible.onPressAction: button.clicked()
-    Keys.onReturnPressed: button.clicked()
-    Keys.onEnterPressed: button.clicked()
+    Accessible.onPressAction: button.activated()
+    Keys.onReturnPressed: button.activated()
+    Keys.onEnterPressed: button.activated()
+    onPressed: if (button.actsOnPress) button.activated()
+    onClicked: if (!button.actsOnPress) button.activated()
 
     contentItem: KelLabel {
         text: button.text

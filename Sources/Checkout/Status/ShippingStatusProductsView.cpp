@@ -64,10 +64,17 @@ QVariant ShippingStatusProductsView::data(const QModelIndex& index, int role) co
 }
 
 QVariant ShippingStatusProductsView::headData(const Section& section, int role) {
-    if (role == TitleRole) {
+    switch (role) {
+    case TitleRole:
         return section.sent ? QStringLiteral("Productos enviados") : QStringLiteral("Productos no enviados");
+    case HasReasonRole: return false;
+    // A row of the list has a place for every text, whether it is a head or a product.
+    case QuantityRole:
+    case DescriptionRole:
+    case CodeRole:
+    case PointsRole: return QString();
+    default: return {};
     }
-    return role == HasReasonRole ? QVariant(false) : QVariant(QString());
 }
 
 QVariant ShippingStatusProductsView::productData(const Section& section, const Product& product, int role) {

@@ -109,7 +109,8 @@ Item {
                     outlined: true
                     text: root.dialog.actionText
                     // The dialog answers to the press itself, so that dragging away does not take the answer back.
-                    onPressed: root.dialog.touchButton()
+                    actsOnPress: true
+                    onActivated: root.dialog.touchButton()
                 }
             }
         }

@@ -36,7 +36,7 @@ Rectangle {
             width: parent.width
             text: footer.buttonText
             identifier: footer.buttonIdentifier
-            onClicked: footer.tapped()
+            onActivated: footer.tapped()
         }
     }
 }

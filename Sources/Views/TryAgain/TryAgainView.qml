@@ -51,6 +51,6 @@ Rectangle {
         anchors.bottomMargin: KelSpacing.semi
         text: root.tryAgain.buttonText
         identifier: root.tryAgain.buttonAccessibilityText
-        onClicked: root.tryAgain.tap()
+        onActivated: root.tryAgain.tap()
     }
 }
