@@ -1,0 +1,161 @@
+#include "Checkout/Inputs/TotalAddedProductPointsPresenter.hpp"
+#include "Checkout/Screen/CheckoutRouter.hpp"
+#include "KelCommon/KelAnalyticsManager.hpp"
+#include "Support/FakeHost.hpp"
+#include "Views/Screen/ViewController.hpp"
+
+#include <gmock/gmock.h>
+
+#include <limits>
+
+namespace quillet::testing {
+
+namespace {
+
+using ::testing::ElementsAre;
+constexpr auto kLargest = std::numeric_limits<std::uint64_t>::max();
+
+/// Keeps the input that the router makes and what the real factory makes of it.
+template <typename Input>
+class Spy final : public ResultViewCreating<Input> {
+public:
+    explicit Spy(std::shared_ptr<std::unique_ptr<ScrollableView>> made) : made_(std::move(made)) {}
+    [[nodiscard]] std::unique_ptr<ScrollableView>
+    view(const Input& input, ProductsCheckoutStatusViewController& screen) const override {
+        *made_ = ResultViewFactory<Input>({}).view(input, screen);
+        return {};
+    }
+    [[nodiscard]] std::weak_ptr<QuilletNavigationDelegate> navigationDelegate() const override { return {}; }
+
+private:
+    std::shared_ptr<std::unique_ptr<ScrollableView>> made_;
+};
+
+Product product(std::uint64_t code, ProductErrorStatus status) {
+    Product result;
+    result.productCode = code;
+    result.status = status;
+    return result;
+}
+
+/// A response whose counters disagree with its products on purpose.
+CheckoutResponse response(std::optional<Cycle> cycle) {
+    CheckoutResponse result;
+    result.consultant.cycle = cycle;
+    result.summary = {.addedPoints = 120, .addedProducts = kLargest, .errorProducts = 9};
+    result.products = {product(5, ProductErrorStatus::notFound), product(3, ProductErrorStatus::none),
+                       product(4, ProductErrorStatus::unavailable), product(1, ProductErrorStatus::none),
+                       product(2, ProductErrorStatus::quantityError)};
+    return result;
+}
+
+/// The lists as they are shown: each section's title, then its products' codes.
+QStringList rows(const ScrollableView& view) {
+    const QAbstractItemModel& model = *view.contentView()->products();
+    QStringList lines;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const QModelIndex index = model.index(row, 0);
+        const bool head = index.data(ShippingStatusProductsView::IsHeadRole).toBool();
+        lines << index
+                     .data(head ? ShippingStatusProductsView::TitleRole
+                                : ShippingStatusProductsView::CodeRole)
+                     .toString();
+    }
+    return lines;
+}
+
+struct CheckoutResults : ::testing::Test {
+    using Route = void (CheckoutRoutering::*)(const ViewController&, const CheckoutResponse&);
+
+    std::unique_ptr<ScrollableView> show(Route route, const CheckoutResponse& answer) {
+        (router.*route)(ViewControllerWrapper({}), answer);
+        return std::move(*made);
+    }
+
+    std::shared_ptr<std::unique_ptr<ScrollableView>> made =
+        std::make_shared<std::unique_ptr<ScrollableView>>();
+    CheckoutRouter router{std::make_unique<Spy<AllProductsAddedFactoryInput>>(made),
+                          std::make_unique<Spy<ProductsPartiallyAddedFactoryInput>>(made),
+                          std::make_unique<Spy<NoProductAddedFactoryInput>>(made)};
+};
+
+} // namespace
+
+TEST_F(CheckoutResults, ShowTheSummarysCountersAndSplitTheProductsInOrder) {
+    const TextWithTagView sent{"Productos enviados con éxito:", "18446744073709551615", TagColor::success};
+    const TextWithTagView sentWithoutColon{"Productos enviados con éxito", sent.tagText, TagColor::success};
+    const TextWithTagView notSent{"Productos no enviados:", "9", TagColor::alert};
+    const QStringList sentRows{"Productos enviados", "Code: 3", "Code: 1"};
+    const QStringList notSentRows{"Productos no enviados", "Code: 5", "Code: 4", "Code: 2"};
+    const struct {
+        Route route;
+        IconStatus icon;
+        QString points;
+        QString message;
+        QList<TextWithTagView> counters;
+        QStringList products;
+    } cases[] = {
+        {&CheckoutRoutering::showAllProductsAdded,
+         IconStatus::productsSuccess,
+         "120 puntos enviados en total",
+         "Vea los productos que fueron enviados al carrito.",
+         {sentWithoutColon},
+         sentRows},
+        {&CheckoutRoutering::showProductsPartiallyAdded,
+         IconStatus::productsFailure,
+         "120 puntos enviados en total",
+         "Algunos productos no fueron enviados al carrito. ¡Vea!",
+         {notSent, sent},
+         sentRows + notSentRows},
+        {&CheckoutRoutering::showNoProductAdded,
+         IconStatus::warning,
+         "",
+         "Infelizmente niguno de los productos fue enviado al carrito.",
+         {notSent},
+         notSentRows},
+    };
+    for (const auto& [route, icon, points, message, counters, products] : cases) {
+        SCOPED_TRACE(message.toStdString());
+        const auto view = show(route, response(Cycle{202305, {}, {}}));
+        const ProductsCheckoutStatusView& status = *view->contentView();
+        EXPECT_EQ(status.cycle().text(), "Ciclo actual: 05");
+        EXPECT_EQ(status.totalAddedProductPoints(), points);
+        EXPECT_EQ(status.icon(), static_cast<int>(icon));
+        EXPECT_EQ(status.mainMessage(), message);
+        EXPECT_EQ(status.counters(), counters);
+        EXPECT_EQ(rows(*view), products);
+    }
+}
+
+TEST_F(CheckoutResults, HaveAnEmptyCycleWithoutOneAndEmptySectionsWithoutProducts) {
+    auto answer = response(std::nullopt);
+    answer.products = {product(1, ProductErrorStatus::none)};
+    const auto partial = show(&CheckoutRoutering::showProductsPartiallyAdded, answer);
+    EXPECT_EQ(partial->contentView()->cycle().value, "");
+    EXPECT_EQ(rows(*partial), (QStringList{"Productos enviados", "Code: 1", "Productos no enviados"}));
+    EXPECT_EQ(rows(*show(&CheckoutRoutering::showNoProductAdded, answer)),
+              (QStringList{"Productos no enviados"}));
+}
+
+TEST_F(CheckoutResults, TrackTheResultScreenAlsoWhereItIsNeverShown) {
+    const auto log = makeLog();
+    kel::KelAnalyticsManager::shared()->setSink(std::make_shared<FakeAnalytics>(log));
+    static_cast<void>(show(&CheckoutRoutering::showAllProductsAdded, response({})));
+    kel::KelAnalyticsManager::shared()->setSink(nullptr);
+    EXPECT_THAT(taken(log), ElementsAre("screen Feedback de produtos"));
+}
+
+TEST(TotalAddedProductPoints, AreWrittenInFullAndInTheRightNumber) {
+    const std::pair<std::uint64_t, QString> cases[] = {
+        {0, ""},
+        {1, "1 punto enviado en total"},
+        {2, "2 puntos enviados en total"},
+        {1500, "1500 puntos enviados en total"},
+        {kLargest, "18446744073709551615 puntos enviados en total"},
+    };
+    for (const auto& [points, text] : cases) {
+        EXPECT_EQ(TotalAddedProductPointsPresenter(points).pointsText(), text);
+    }
+}
+
+} // namespace quillet::testing

@@ -1,0 +1,74 @@
+#include "Options.hpp"
+
+#include <QTemporaryFile>
+
+#include <gtest/gtest.h>
+
+namespace demo::testing {
+
+namespace {
+
+QString fileWith(QTemporaryFile& file, const QByteArray& content) {
+    EXPECT_TRUE(file.open());
+    file.write(content);
+    file.close();
+    return file.fileName();
+}
+
+} // namespace
+
+TEST(Options, RefuseEachWrongCombinationInOneLine) {
+    QTemporaryFile noCertificate;
+    const QString ca = fileWith(noCertificate, "not a certificate");
+    const std::pair<QStringList, QString> cases[] = {
+        {{"--play", "a.play"}, "--play needs --out DIR"},
+        {{"--tour", ""}, "--tour needs a folder"},
+        {{"--tour"}, "Missing value"},
+        {{"--tour", "d", "--play", "a"}, "--tour and --play do not go together"},
+        {{"--out", "d"}, "--out goes with --play"},
+        {{"--tour", "d", "--out", "e"}, "--out goes with --play"},
+        {{"--play", "a", "--out", "d", "--gateway", "h:1"}, "--gateway and --ca go together"},
+        {{"--play", "a", "--out", "d", "--ca", ca}, "--gateway and --ca go together"},
+        {{"--gateway", "h:1", "--ca", ca}, "--gateway and --ca go together, and with --play"},
+        {{"--tour", "d", "--gateway", "h:1", "--ca", ca}, "--gateway and --ca go together, and with --play"},
+        {{"--play", "a", "--out", "d", "--gateway", "h", "--ca", ca}, "--gateway is HOST:PORT, not h"},
+        {{"--play", "a", "--out", "d", "--gateway", ":1", "--ca", ca}, "--gateway is HOST:PORT, not :1"},
+        {{"--play", "a", "--out", "d", "--gateway", "h:0", "--ca", ca}, "--gateway is HOST:PORT"},
+        {{"--play", "a", "--out", "d", "--gateway", "h:65536", "--ca", ca}, "--gateway is HOST:PORT"},
+        {{"--play", "a", "--out", "d", "--gateway", "h:1", "--ca", "/nowhere/ca"}, "cannot read the CA file"},
+        {{"--play", "a", "--out", "d", "--gateway", "h:1", "--ca", "/"}, "cannot read the CA file /"},
+        {{"--play", "a", "--out", "d", "--gateway", "h:1", "--ca", ca}, "no certificate in the CA file"},
+        {{"--port", "http"}, "not a port: http"},
+        {{"--port", "65536"}, "not a port: 65536"},
+        {{"--language", "fi"}, "--language is es, pt or en, not fi"},
+        {{"--fast"}, "Unknown option 'fast'"},
+        {{"stray"}, "not understood: stray"},
+    };
+    for (const auto& [arguments, complaint] : cases) {
+        SCOPED_TRACE(arguments.join(' ').toStdString());
+        const auto options = parseOptions(QStringList{"quillet-host"} + arguments);
+        ASSERT_FALSE(options);
+        EXPECT_TRUE(options.error().startsWith(complaint)) << options.error().toStdString();
+        EXPECT_FALSE(options.error().trimmed().contains('\n'));
+    }
+}
+
+TEST(Options, TakeAServerByNameOrAddress) {
+    QTemporaryFile certificate;
+    const QString ca = fileWith(certificate, "-----BEGIN CERTIFICATE-----\n");
+    const std::pair<QString, QString> servers[] = {
+        {"127.0.0.1:8443", "127.0.0.1"}, {"[::1]:8443", "::1"}, {"gateway.test:8443", "gateway.test"}};
+    for (const auto& [typed, host] : servers) {
+        const auto options =
+            parseOptions({"quillet-host", "--play", "a", "--out", "d", "--gateway", typed, "--ca", ca});
+        ASSERT_TRUE(options) << options.error().toStdString();
+        EXPECT_EQ(options->mode, Options::Mode::play);
+        EXPECT_EQ(options->gatewayHost, host);
+        EXPECT_EQ(options->gatewayPort, 8443);
+        EXPECT_EQ(options->caFile, ca);
+    }
+    EXPECT_EQ(parseOptions({"quillet-host"})->mode, Options::Mode::window);
+    EXPECT_EQ(parseOptions({"quillet-host", "--tour", "d"})->outFolder, "d");
+}
+
+} // namespace demo::testing

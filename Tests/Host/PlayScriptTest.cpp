@@ -1,0 +1,113 @@
+#include "Play/PlayScript.hpp"
+
+#include <gtest/gtest.h>
+
+namespace demo::testing {
+
+namespace {
+
+/// A step in one line, all that was read of it.
+QString told(const Step& step) {
+    struct Teller {
+        QString operator()(const steps::Open& s) const {
+            const auto& [cart, token, provider, environment] = s.order;
+            return QStringLiteral("open %1 %2 %3 %4 %5 %6")
+                .arg(QString::fromStdString(cart.uuid), QString::number(cart.consultantId),
+                     QString::fromStdString(cart.country), QString::fromStdString(token),
+                     QString::fromStdString(provider), QString::number(int(environment)));
+        }
+        QString operator()(const steps::Handmade& s) const { return "handmade " + s.code; }
+        QString operator()(const steps::Language& s) const { return "language " + s.code; }
+        QString operator()(const steps::Close&) const { return "close"; }
+        QString operator()(const steps::Tap& s) const { return "tap " + s.name; }
+        QString operator()(const steps::Expect& s) const {
+            return QStringLiteral("expect %1 %2").arg(s.text).arg(s.within.count());
+        }
+        QString operator()(const steps::Absent& s) const { return "absent " + s.text; }
+        QString operator()(const steps::Title& s) const { return "title " + s.text; }
+        QString operator()(const steps::Background&) const { return "background"; }
+        QString operator()(const steps::CloseIcon&) const { return "close-icon"; }
+        QString operator()(const steps::Back&) const { return "back"; }
+        QString operator()(const steps::Shot& s) const { return "shot " + s.name; }
+        QString operator()(const steps::Network& s) const { return s.on ? "network on" : "network off"; }
+    };
+    return std::visit(Teller(), step);
+}
+
+} // namespace
+
+TEST(PlayScript, ReadsEachKindOfStep) {
+    const std::pair<QString, QString> lines[] = {
+        {"open cart=a consultant=18446744073709551615 country=CL",
+         "open a 18446744073709551615 CL sample-access-token sample-idp 0"},
+        {R"(open country=CL cart="a b" consultant=1 token="" provider=p environment=prd)",
+         "open a b 1 CL  p 2"},
+        {R"(open cart="" consultant=0 country="" environment=hml)",
+         "open  0  sample-access-token sample-idp 1"},
+        {"open cart=a=b consultant=1 country=CL", "open a=b 1 CL sample-access-token sample-idp 0"},
+        {"handmade ERROR_CART_ALREADY_SUBMITTED", "handmade ERROR_CART_ALREADY_SUBMITTED"},
+        {"language pt", "language pt"},
+        {"close", "close"},
+        {R"(tap "Ver Pedidos")", "tap Ver Pedidos"},
+        {"tap Actualizar", "tap Actualizar"},
+        {R"(tap "say \"yes\" \\ no")", R"(tap say "yes" \ no)"},
+        {R"(expect "# 1")", "expect # 1 10000"},
+        {R"(expect "a" within=0.5)", "expect a 500"},
+        {R"(expect "" within=75)", "expect  75000"},
+        {"absent x", "absent x"},
+        {R"(title "")", "title "},
+        {"background", "background"},
+        {"  close-icon\t", "close-icon"},
+        {"back\r", "back"},
+        {"shot 01-a.b_c", "shot 01-a.b_c"},
+        {"network off", "network off"},
+    };
+    for (const auto& [line, expected] : lines) {
+        SCOPED_TRACE(line.toStdString());
+        const auto play = parsePlay("p", "# a comment\n\n" + line + "\n");
+        ASSERT_TRUE(play) << play.error().toStdString();
+        ASSERT_EQ(play->lines.size(), 1u);
+        EXPECT_EQ(told(play->lines[0].step), expected);
+        EXPECT_EQ(play->lines[0].text, line.trimmed());
+    }
+}
+
+TEST(PlayScript, NamesTheLineAndWhatIsWrongWithIt) {
+    const std::pair<QString, QString> lines[] = {
+        {"dance", "unknown step \"dance\""},
+        {"Tap x", "unknown step \"Tap\""},
+        {"tap", "this step takes one text"},
+        {"tap Ver Pedidos", "this step takes one text"},
+        {R"(tap "Ver Pedidos)", "a quotation mark is left open"},
+        {"expect", "expect takes a text"},
+        {"expect a b", "expect takes a text"},
+        {"expect a within=soon", "within takes seconds"},
+        {"expect a within=-1", "within takes seconds"},
+        {"expect a within=nan", "within takes seconds"},
+        {"expect a within=1 within=2", "expect takes a text"},
+        {"title a b", "this step takes one text"},
+        {"back now", "this step takes nothing"},
+        {"shot ../a", "shot takes a name"},
+        {"shot", "shot takes a name"},
+        {"network maybe", "network takes on or off"},
+        {"handmade 422", "handmade takes "},
+        {"language fi", "language takes "},
+        {"open", "open takes cart=UUID"},
+        {"open cart=a consultant=1", "open takes cart=UUID"},
+        {"open cart=a consultant=1 country=CL colour=red", "open takes cart=UUID"},
+        {"open cart=a cart=b consultant=1 country=CL", "open takes cart=UUID"},
+        {"open cart=a consultant=-1 country=CL", "not a consultant's number: -1"},
+        {"open cart=a consultant=18446744073709551616 country=CL", "not a consultant's number"},
+        {"open cart=a consultant=1 country=CL environment=test", "environment is dev, hml or prd, not test"},
+    };
+    for (const auto& [line, complaint] : lines) {
+        SCOPED_TRACE(line.toStdString());
+        const auto play = parsePlay("p", "close\n" + line);
+        ASSERT_FALSE(play);
+        EXPECT_TRUE(play.error().startsWith("p, line 2: " + complaint)) << play.error().toStdString();
+        EXPECT_FALSE(play.error().contains('\n'));
+    }
+    EXPECT_EQ(parsePlay("p", "# nothing but a comment\n").error(), "p has no steps");
+}
+
+} // namespace demo::testing

@@ -1,0 +1,152 @@
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace demo::testing {
+
+namespace {
+
+struct Program : ::testing::Test {
+    /// Runs the host on a play with this text and returns its exit status.
+    int play(const QByteArray& steps, const QStringList& more = {}) {
+        QFile file(folder.filePath("p.play"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(steps);
+        file.close();
+        return run(QStringList{"--play", file.fileName(), "--out", folder.filePath("out")} + more);
+    }
+
+    int run(const QStringList& arguments) {
+        QProcess host;
+        // Qt remarks on its absence, which a person's session does not have.
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_RUNTIME_DIR", runtime.path());
+        host.setProcessEnvironment(environment);
+        host.start(QUILLET_HOST_PROGRAM, arguments);
+        EXPECT_TRUE(host.waitForFinished(50'000));
+        complaint = QString::fromUtf8(host.readAllStandardError());
+        return host.exitStatus() == QProcess::NormalExit ? host.exitCode() : -1;
+    }
+
+    QJsonObject report() {
+        QFile file(folder.filePath("out/tour.json"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return QJsonDocument::fromJson(file.readAll())["plays"][0].toObject();
+    }
+
+    QTemporaryDir folder;
+    QTemporaryDir runtime;
+    QString complaint;
+};
+
+constexpr auto kNoneAdded = R"(# The outcome that takes the fewest taps.
+open cart=41053a00-52e1-4d0b-9c77-1f0a6b2e8453 consultant=41053 country=CL environment=hml
+close-icon
+tap "Enviar productos a mi carrito"
+expect "Productos no enviados:"
+shot result
+tap "Ir al carrito"
+)";
+
+} // namespace
+
+TEST_F(Program, ReportsAPlayWithItsTrafficAnalyticsAndNavigation) {
+    ASSERT_EQ(play(kNoneAdded), 0) << complaint.toStdString();
+    EXPECT_EQ(complaint.toStdString(), "");
+    const QJsonObject told = report();
+    EXPECT_EQ(told["name"], "p");
+    EXPECT_EQ(told["ok"], true);
+    ASSERT_EQ(told["steps"].toArray().size(), 6);
+    const QJsonValue shot = told["steps"][4];
+    EXPECT_EQ(shot["title"], "Comentarios sobre los envíos");
+    EXPECT_EQ(shot["shot"], "result.png");
+    EXPECT_TRUE(QFile::exists(folder.filePath("out/result.png")));
+    EXPECT_TRUE(shot["texts"].toArray().contains("Productos no enviados:"));
+
+    QStringList requests;
+    for (const QJsonValue request : told["requests"].toArray()) {
+        requests << request["method"].toString() + ' ' + QString::number(request["status"].toInt());
+        EXPECT_TRUE(request["url"].toString().startsWith("https://" QUILLET_GATEWAY_HOST_HML "/"));
+        bool isLength = false;
+        EXPECT_GT(request["headers"]["Consultant-Token"].toString().toInt(&isLength), 100);
+        EXPECT_TRUE(isLength);
+    }
+    EXPECT_EQ(requests, (QStringList{"PATCH 200", "GET 200", "POST 422"}))
+        << requests.join(", ").toStdString();
+
+    QStringList analytics;
+    for (const QJsonValue entry : told["analytics"].toArray()) {
+        analytics << entry["screen"].toString() + entry["label"].toString();
+    }
+    EXPECT_EQ(analytics, (QStringList{"Pedidos de mis clientes", "Deep Linking", "Close",
+                                      "Send Orders to Cart - Click", "Feedback de produtos", "Go to Cart"}));
+    EXPECT_EQ(told["navigation"].toArray(), QJsonArray{"navigateToCart"});
+}
+
+TEST_F(Program, FailsAtTheFirstStepThatIsNotMet) {
+    EXPECT_EQ(play("network off\n"
+                   "open cart=a consultant=1 country=CL\n"
+                   "expect \"Lo sentimos, tu dispositivo está sin conexión a internet\"\n"
+                   "expect \"Something else\" within=0\n"
+                   "tap \"Actualizar\"\n"),
+              1);
+    const QJsonObject told = report();
+    EXPECT_EQ(told["ok"], false);
+    ASSERT_EQ(told["steps"].toArray().size(), 4);
+    EXPECT_EQ(told["steps"][2]["ok"], true);
+    EXPECT_EQ(told["steps"][3]["ok"], false);
+}
+
+TEST_F(Program, EndsWithOneLineWhereItCannotStart) {
+    const int taken = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t length = sizeof address;
+    ASSERT_EQ(::bind(taken, reinterpret_cast<sockaddr*>(&address), length), 0);
+    ASSERT_EQ(::listen(taken, 1), 0);
+    ::getsockname(taken, reinterpret_cast<sockaddr*>(&address), &length);
+
+    const auto out = folder.filePath("out");
+    const std::pair<std::function<int()>, QString> cases[] = {
+        {[&] {
+             return run({"--play", folder.filePath("none.play"), "--out", out});
+         },
+         "cannot read the play"},
+        {[&] {
+             return run({"--play", folder.path(), "--out", out});
+         },
+         "cannot read the play"},
+        {[&] { return play("dance\n"); }, "p, line 1: unknown step \"dance\""},
+        {[&] {
+             return play("close\n", {"--gateway", "127.0.0.1:1", "--ca", "/nowhere"});
+         },
+         "cannot read the CA file /nowhere"},
+        {[&] {
+             return play("close\n", {"--port", QString::number(ntohs(address.sin_port))});
+         },
+         ""},
+        {[&] {
+             return play("close\n", {"--gateway-program", "/nowhere"});
+         },
+         "cannot start the gateway"},
+    };
+    for (const auto& [start, reason] : cases) {
+        SCOPED_TRACE(reason.toStdString());
+        EXPECT_GT(start(), 0);
+        EXPECT_TRUE(complaint.startsWith("quillet-host: " + reason)) << complaint.toStdString();
+        EXPECT_EQ(complaint.count('\n'), 1) << complaint.toStdString();
+    }
+    ::close(taken);
+}
+
+} // namespace demo::testing

@@ -1,0 +1,137 @@
+#include "Models/FatalErrorWrapper.hpp"
+#include "SaleSummary/Fakes.hpp"
+#include "SaleSummary/UseCases/SaleSummarySuccessUseCase.hpp"
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <limits>
+
+namespace quillet::testing {
+
+namespace {
+
+constexpr auto kLargest = std::numeric_limits<std::uint64_t>::max();
+
+Order orderOf(std::uint64_t points) {
+    Order order;
+    order.totalPoints = points;
+    return order;
+}
+
+Cycle cycleOf(std::uint64_t code) {
+    return {code, *iso8601Full("2023-03-01T00:00:00.000+0000"), *iso8601Full("2023-03-21T23:59:59.000+0000")};
+}
+
+OpenOrdersResult openOrders(std::vector<Order> orders, std::optional<Cycle> cycle = {}) {
+    return {
+        .response = OpenOrdersResponse{{1, cycle}, std::move(orders)}, .error = {}, .httpStatusCode = 200};
+}
+
+SaleSummaryPresenter present(const OrderResponse& response, std::optional<OpenOrdersResult> open) {
+    return SaleSummarySuccessUseCase({}, OrderResult{response, {}, 200}, std::move(open),
+                                     std::make_shared<FakeAnalytics>(makeLog()))
+        .createPresenter(response.order);
+}
+
+/// The time zone of the device, for as long as this lives.
+class DeviceZone {
+public:
+    explicit DeviceZone(const char* zone) {
+        ::setenv("TZ", zone, 1);
+        ::tzset();
+    }
+    ~DeviceZone() {
+        ::unsetenv("TZ");
+        ::tzset();
+    }
+};
+
+} // namespace
+
+TEST(SaleSummaryPresenters, CountRegularLinesAndAddThePointsOfAllOpenOrders) {
+    OrderResponse response;
+    response.order = orderOf(kLargest);
+    response.order.regularItems.resize(3);
+    response.order.benefitItems.resize(2);
+    response.order.totalItems = 9;
+    const struct {
+        std::optional<OpenOrdersResult> open;
+        QString points;
+    } cases[] = {
+        {openOrders({orderOf(1000), orderOf(500)}), "Puntos en curso: 1500"},
+        {openOrders({orderOf(kLargest - 1), orderOf(1)}), "Puntos en curso: 18446744073709551615"},
+        {openOrders({}), "Puntos en curso: 0"},
+        {OpenOrdersResult{{}, HttpStatusCodeError{500}, 500}, "Puntos en curso: 0"},
+        {std::nullopt, "Puntos en curso: 0"},
+    };
+    for (const auto& [open, points] : cases) {
+        SCOPED_TRACE(points.toStdString());
+        const SaleSummaryView view(present(response, open));
+        EXPECT_EQ(view.pointsInProgress().text(), points);
+        EXPECT_EQ(view.orderPoints().text(), "Puntos del pedido: 18446744073709551615");
+        EXPECT_EQ(view.totalOfProducts().text(), "Total de productos: 3");
+    }
+}
+
+TEST(SaleSummaryPresenters, HandPointsBeyondAllNumbersToTheFatalHook) {
+    int calls = 0;
+    const auto previous = std::exchange(FatalErrorWrapper::fatalErrorClosure,
+                                        [&](std::string_view, const char*, unsigned) { ++calls; });
+    const auto shown = present({}, openOrders({orderOf(kLargest), orderOf(1), orderOf(1)}));
+    FatalErrorWrapper::fatalErrorClosure = previous;
+    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(shown.headerPresenter.pointsInProgressPresenter.points, kLargest);
+}
+
+TEST(SaleSummaryPresenters, PreferTheCycleOfTheAssociation) {
+    const struct {
+        std::optional<Cycle> associated;
+        std::optional<Cycle> open;
+        QString header;
+        QString order;
+    } cases[] = {
+        {cycleOf(202305), cycleOf(202314), "Ciclo actual: 05", "Ciclo del pedido: 05"},
+        {std::nullopt, cycleOf(202314), "Ciclo actual: 14", "Ciclo del pedido: 14"},
+        {cycleOf(202305), std::nullopt, "Ciclo actual: 05", "Ciclo del pedido: 05"},
+        {std::nullopt, std::nullopt, "", ""},
+    };
+    for (const auto& [associated, open, header, order] : cases) {
+        OrderResponse response;
+        response.consultant.cycle = associated;
+        const SaleSummaryView view(present(response, openOrders({}, open)));
+        EXPECT_EQ(view.cycle().text(), header);
+        EXPECT_EQ(view.orderCycle().text(), order);
+        EXPECT_EQ(view.cycleStart().isEmpty(), header.isEmpty());
+        EXPECT_EQ(view.cycleEnd().isEmpty(), header.isEmpty());
+    }
+}
+
+// Santiago is four hours behind in winter and three in summer; spelled out, so that no zone data is needed.
+TEST(SaleSummaryPresenters, ShowTheCyclesDaysInUtcAndTheOrdersInTheDevicesZone) {
+    const struct {
+        const char* zone;
+        const char* created;
+        QString day;
+    } cases[] = {
+        {"<-04>4<-03>,M9.1.6/24,M4.1.6/24", "2023-07-01T03:30:00.000+0000", "30/06/2023"},
+        {"<-04>4<-03>,M9.1.6/24,M4.1.6/24", "2023-01-01T03:30:00.000+0000", "01/01/2023"},
+        {"<-04>4<-03>,M9.1.6/24,M4.1.6/24", "2023-01-01T02:59:59.999+0000", "31/12/2022"},
+        {"<+14>-14", "2023-06-30T23:30:00.000+0000", "01/07/2023"},
+        {"UTC0", "2023-06-30T23:30:00.000+0000", "30/06/2023"},
+    };
+    for (const auto& [zone, created, day] : cases) {
+        SCOPED_TRACE(std::string(zone) + " " + created);
+        const DeviceZone device(zone);
+        OrderResponse response;
+        response.consultant.cycle = cycleOf(202305);
+        response.order.createdAt = *iso8601Full(created);
+        const SaleSummaryView view(present(response, std::nullopt));
+        EXPECT_EQ(view.orderDate(), day);
+        EXPECT_EQ(view.cycleStart(), "Inicio: 01/03/2023");
+        EXPECT_EQ(view.cycleEnd(), "Cierre: 21/03/2023");
+    }
+}
+
+} // namespace quillet::testing

@@ -1,0 +1,78 @@
+#include "SaleSummary/Fakes.hpp"
+#include "SaleSummary/Screen/SaleSummaryViewController.hpp"
+
+#include <QVariant>
+
+#include <gmock/gmock.h>
+
+namespace quillet::testing {
+
+namespace {
+
+using ::testing::ElementsAre;
+
+class FakeRouter final : public SaleSummaryRoutering {
+public:
+    FakeRouter(Log log, std::shared_ptr<QuickViewController>& origin)
+        : log_(std::move(log)), origin_(origin) {}
+    void showCheckout(const ViewController* from) override {
+        log_->push_back("showCheckout");
+        origin_ = from->originViewController();
+    }
+
+private:
+    Log log_;
+    std::shared_ptr<QuickViewController>& origin_;
+};
+
+struct SaleSummaryViewControllerTest : ::testing::Test {
+    Log log = makeLog();
+    std::shared_ptr<QuickViewController> origin;
+    std::shared_ptr<SaleSummaryViewController> screen = std::make_shared<SaleSummaryViewController>(
+        std::make_shared<FakeSaleSummaryViewModel>(log), std::make_unique<Colors>(),
+        std::make_unique<FakeRouter>(log, origin), std::make_unique<ViewControllerWrapperFactory>(),
+        std::make_unique<SaleSummaryViewFactory>(), std::weak_ptr<QuilletNavigationDelegate>(),
+        std::make_unique<DialogFactory>(), std::make_unique<TryAgainFactory>());
+};
+
+} // namespace
+
+TEST_F(SaleSummaryViewControllerTest, TracksItsScreenBeforeTheFirstRequest) {
+    screen->viewDidLoad();
+    EXPECT_THAT(taken(log), ElementsAre("trackAnalyticsScreen", "doRequests"));
+}
+
+TEST_F(SaleSummaryViewControllerTest, StartsACheckoutFromItselfForEachTapOnTheSummary) {
+    SaleSummaryView view({{PointsInProgressPresenter(0), {}}, {OrderPointsPresenter(0), {}, {}, 0}});
+    view.setDelegate(screen->viewDelegate());
+    view.tapSendProducts();
+    view.tapSendProducts();
+    EXPECT_THAT(taken(log), ElementsAre("trackSendOrdersToCart", "showCheckout", "trackSendOrdersToCart",
+                                        "showCheckout"));
+    EXPECT_EQ(std::exchange(origin, nullptr), screen);
+    screen.reset();
+    view.tapSendProducts();
+    EXPECT_THAT(taken(log), ElementsAre());
+}
+
+TEST_F(SaleSummaryViewControllerTest, ShowsTheNewestViewOfEachSlot) {
+    screen->addContentView();
+    screen->addTryAgainView();
+    EXPECT_EQ(screen->shownContentView(), nullptr);
+    EXPECT_EQ(screen->shownTryAgainView(), nullptr);
+
+    for (const char* message : {"first", "second"}) {
+        screen->setTryAgainView(screen->tryAgainFactory().create({{}, message, {}, {}}, [] {}));
+        screen->addTryAgainView();
+        EXPECT_EQ(screen->shownTryAgainView()->property("message").toString(), message);
+    }
+    screen->removeTryAgainView();
+    EXPECT_EQ(screen->shownTryAgainView(), nullptr);
+
+    for (const char* title : {"first", "second"}) {
+        screen->showDialog(DialogPresenter{title, {}, {}}, {});
+        EXPECT_EQ(screen->dialogMessage()->property("title").toString(), title);
+    }
+}
+
+} // namespace quillet::testing

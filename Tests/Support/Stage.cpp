@@ -1,0 +1,154 @@
+#include "Support/Stage.hpp"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QQmlComponent>
+#include <QTimer>
+
+#include <stdexcept>
+
+namespace quillet::testing {
+
+namespace {
+
+constexpr auto kHost = R"(
+    import QtQuick
+    import QtQuick.Controls.Basic
+    ApplicationWindow {
+        width: 390; height: 844; visible: true
+        property alias stack: stack
+        property alias bar: bar
+        function back() { stack.pop() }
+        function clear() { stack.pop(null, StackView.Immediate) }
+        Rectangle {
+            id: bar
+            property int clicks: 0
+            width: parent.width; height: 64
+            MouseArea { anchors.fill: parent; onClicked: bar.clicks++ }
+        }
+        StackView {
+            id: stack
+            anchors.fill: parent; anchors.topMargin: bar.height
+            initialItem: Item {}
+        }
+    })";
+
+std::vector<std::string>& collected() {
+    static std::vector<std::string> lines;
+    return lines;
+}
+
+QtMessageHandler previousHandler = nullptr;
+
+void collect(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (message.contains(QLatin1String("qrc:")) || message.contains(QLatin1String("QML")) ||
+        QLatin1String(context.category).startsWith(QLatin1String("quillet"))) {
+        collected().push_back(message.toStdString());
+    }
+    previousHandler(type, context, message);
+}
+
+QQuickItem* find(QQuickItem& root, const QString& name) {
+    if (!root.isVisible()) {
+        return nullptr;
+    }
+    if (root.objectName() == name || root.property("text").toString() == name) {
+        return &root;
+    }
+    for (QQuickItem* child : root.childItems()) {
+        if (QQuickItem* found = find(*child, name)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+bool turnUntil(const std::function<bool()>& condition) {
+    const QDeadlineTimer deadline(std::chrono::seconds(30));
+    QTimer glance;
+    glance.start(10);
+    while (!condition()) {
+        if (deadline.hasExpired()) {
+            return false;
+        }
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    return true;
+}
+
+Stage::Stage() : engine_(std::make_unique<QQmlEngine>()) {
+    collected().clear();
+    previousHandler = qInstallMessageHandler(collect);
+    QQmlComponent component(engine_.get());
+    component.setData(kHost, QUrl());
+    window_.reset(qobject_cast<QQuickWindow*>(component.create()));
+    if (!window_) {
+        throw std::runtime_error(component.errorString().toStdString());
+    }
+}
+
+Stage::~Stage() {
+    window_.reset();
+    engine_.reset();
+    qInstallMessageHandler(previousHandler);
+}
+
+QQuickItem& Stage::stack() const {
+    return *window_->property("stack").value<QQuickItem*>();
+}
+
+QQuickItem& Stage::bar() const {
+    return *window_->property("bar").value<QQuickItem*>();
+}
+
+void Stage::pop() {
+    QMetaObject::invokeMethod(window_.get(), "back");
+}
+
+void Stage::popAll() {
+    QMetaObject::invokeMethod(window_.get(), "clear");
+}
+
+QQuickItem* Stage::item(const QString& textOrName) const {
+    return find(*window_->contentItem(), textOrName);
+}
+
+void Stage::press(const QString& textOrName) {
+    mouse(QEvent::MouseButtonPress, middle(textOrName));
+}
+
+void Stage::click(const QString& textOrName) {
+    clickAt(middle(textOrName));
+}
+
+void Stage::clickBar() {
+    clickAt(QPointF(bar().width() / 2, bar().height() / 2));
+}
+
+void Stage::clickAt(QPointF point) {
+    mouse(QEvent::MouseButtonPress, point);
+    mouse(QEvent::MouseButtonRelease, point);
+}
+
+std::vector<std::string> Stage::complaints() {
+    return collected();
+}
+
+QPointF Stage::middle(const QString& textOrName) const {
+    const QQuickItem* found = item(textOrName);
+    if (!found) {
+        throw std::runtime_error("not on the stage: " + textOrName.toStdString());
+    }
+    return found->mapToScene(QPointF(found->width() / 2, found->height() / 2));
+}
+
+void Stage::mouse(QEvent::Type type, QPointF point) {
+    const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    QMouseEvent event(type, point, point, window_->mapToGlobal(point), Qt::LeftButton, held, {});
+    QCoreApplication::sendEvent(window_.get(), &event);
+}
+
+} // namespace quillet::testing

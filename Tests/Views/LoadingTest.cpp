@@ -1,0 +1,109 @@
+#include "Views/Loading/LoadingView.hpp"
+
+#include <QImage>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+
+namespace quillet {
+namespace {
+
+constexpr double kTurn = 2 * std::numbers::pi;
+
+/// The cubic Bézier (0.42, 0, 0.58, 1) by bisection: not how the module works it out.
+double eased(double progress) {
+    double low = 0;
+    double high = 1;
+    for (int i = 0; i < 60; ++i) {
+        const double s = (low + high) / 2;
+        const double x = 3 * 0.42 * s * (1 - s) * (1 - s) + 3 * 0.58 * s * s * (1 - s) + s * s * s;
+        (x < progress ? low : high) = s;
+    }
+    return 3 * low * low * (1 - low) + low * low * low;
+}
+
+struct Moment {
+    double time;
+    double start;
+    double end;
+};
+
+/// The arc at moments of the first round, and where the second begins.
+const Moment kMoments[] = {
+    {0, 0, 0},
+    {0.25, 0.15 * eased(0.25), eased(0.25)},
+    {0.5, 0.15 * eased(0.5), eased(0.5)},
+    {0.75, 0.15 * eased(0.75), eased(0.75)},
+    {1.0, 0.15, 1},
+    {1.25, 0.15 + 0.85 * eased(0.5), 1},
+    {1.5, 0, 0},
+    {1.75, 0.15 * eased(0.25), eased(0.25)},
+};
+
+constexpr QSizeF kItem(56, 56);
+
+TEST(ProgressIndicator, MovesItsArcByTheFormula) {
+    LoadingView loading;
+    loading.startLoading();
+    loading.progressIndicator()->draw(kItem);
+    const SemiCircleLayer& arc = *loading.progressIndicator()->semiCircleLayer();
+    for (const auto& [time, start, end] : kMoments) {
+        SCOPED_TRACE(time);
+        const LayerMoment moment = arc.at(time);
+        EXPECT_NEAR(moment.strokeStart, start, 1e-3);
+        EXPECT_NEAR(moment.strokeEnd, end, 1e-3);
+        EXPECT_NEAR(moment.rotation, kTurn * time / 4, 1e-9);
+    }
+}
+
+TEST(ProgressIndicator, DrawsTheArcWhereTheFormulaHasIt) {
+    LoadingView loading;
+    loading.startLoading();
+    loading.progressIndicator()->draw(kItem);
+    for (const auto& [time, start, end] : kMoments) {
+        SCOPED_TRACE(time);
+        QImage image(kItem.toSize() * 4, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.scale(4, 4);
+        loading.progressIndicator()->layer().draw(painter, time);
+        painter.end();
+        for (int step = 0; step < 72; ++step) {
+            const double part = (step + 0.5) / 72;
+            // Near its ends an arc of a few pixels says nothing.
+            if (std::abs(part - start) < 0.01 || std::abs(part - end) < 0.01) {
+                continue;
+            }
+            const double angle = kTurn * part + kTurn * time / 4;
+            const QPoint ring(int(4 * (28 + 24 * std::cos(angle))), int(4 * (28 + 24 * std::sin(angle))));
+            EXPECT_EQ(qAlpha(image.pixel(ring)) > 128, part > start && part < end) << part;
+        }
+    }
+}
+
+TEST(ProgressIndicator, AddsItsRingsOnceAndTakesThemAwayAtOnce) {
+    LoadingView loading;
+    ProgressIndicatorCircular& indicator = *loading.progressIndicator();
+    loading.stopLoading();
+    EXPECT_FALSE(indicator.isVisible());
+    for (int round = 0; round < 2; ++round) {
+        loading.startLoading();
+        loading.startLoading();
+        EXPECT_TRUE(indicator.layer().sublayers().empty()) << "shown before it was drawn";
+        indicator.draw(kItem);
+        indicator.draw(kItem);
+        ASSERT_EQ(indicator.layer().sublayers().size(), 1u);
+        EXPECT_EQ(indicator.layer().sublayers().front()->sublayers().size(), 1u);
+        EXPECT_EQ(indicator.semiCircleLayer()->animations().size(), 2u);
+        loading.stopLoading();
+        EXPECT_FALSE(indicator.isVisible());
+        EXPECT_TRUE(indicator.layer().sublayers().empty());
+        EXPECT_TRUE(indicator.semiCircleLayer()->animations().empty());
+    }
+}
+
+} // namespace
+} // namespace quillet

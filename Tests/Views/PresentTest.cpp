@@ -1,0 +1,235 @@
+#include "Checkout/CheckoutFactory.hpp"
+#include "Entry/MainQueuePump.hpp"
+#include "Entry/Quillet.hpp"
+#include "KelCommon/KelAnalyticsManager.hpp"
+#include "Support/FakeHost.hpp"
+#include "Support/Stage.hpp"
+#include "Views/Screen/NavigationController.hpp"
+#include "Workers/CheckoutWorkerFactory.hpp"
+
+#include <QAccessible>
+#include <QQuickItem>
+
+#include <gmock/gmock.h>
+
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace quillet::testing {
+
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class NoNetwork final : public NetworkPathMonitoring {
+public:
+    [[nodiscard]] bool isSatisfied(const std::string&, bool) const override { return false; }
+};
+
+class AnyNetwork final : public NetworkPathMonitoring {
+public:
+    [[nodiscard]] bool isSatisfied(const std::string&, bool) const override { return true; }
+};
+
+/// A port on which connections come about and nothing is ever said.
+class SilentPort {
+public:
+    SilentPort() : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t length = sizeof address;
+        ::bind(socket_, reinterpret_cast<sockaddr*>(&address), length);
+        ::listen(socket_, 8);
+        ::getsockname(socket_, reinterpret_cast<sockaddr*>(&address), &length);
+        port_ = ntohs(address.sin_port);
+    }
+    ~SilentPort() { ::close(socket_); }
+    SilentPort(const SilentPort&) = delete;
+    SilentPort& operator=(const SilentPort&) = delete;
+    [[nodiscard]] std::uint16_t port() const { return port_; }
+
+private:
+    int socket_;
+    std::uint16_t port_ = 0;
+};
+
+struct PresentTest : ::testing::Test {
+    PresentTest() { kel::KelAnalyticsManager::shared()->setSink(std::make_shared<FakeAnalytics>(log)); }
+    ~PresentTest() override {
+        kel::KelAnalyticsManager::shared()->setSink(nullptr);
+        URLSessionConfiguration::setDefaultConfiguration({});
+        EXPECT_THAT(Stage::complaints(), IsEmpty());
+    }
+
+    /// Lets all sessions made from now on use this; it lives as long as the last of them and their calls.
+    std::weak_ptr<const NetworkPathMonitoring> use(std::shared_ptr<const NetworkPathMonitoring> network,
+                                                   std::vector<HostMapping> mappings = {}) {
+        URLSessionConfiguration::setDefaultConfiguration(
+            {.hostMappings = std::move(mappings), .networkPath = network});
+        return network;
+    }
+
+    [[nodiscard]] static std::string gateway() { return Starter::create("", "", {}, nullptr)->domainUrl(); }
+
+    /// Opens the module; nobody but the stack holds the screen afterwards.
+    std::weak_ptr<QuickViewController> open() {
+        const auto starter = Starter::create("token", "idp", {"cart-1", 41051, "CL"}, host);
+        const auto screen = starter->createRootViewController();
+        EXPECT_TRUE(present(screen, stage->stack()));
+        return screen;
+    }
+
+    std::weak_ptr<QuickViewController> openCheckout() {
+        pumpMainQueue();
+        const auto screen = CheckoutFactory(std::make_unique<CheckoutWorkerFactory>(
+                                                "CL", 41051, Authorization{"jwt", "idp"}, "gateway.test"),
+                                            std::make_unique<CheckoutConfigurator>(), host)
+                                .create();
+        EXPECT_TRUE(present(screen, stage->stack()));
+        EXPECT_TRUE(turnUntil([&] { return stage->shows("Actualizar") && settled(); }));
+        return screen;
+    }
+
+    [[nodiscard]] bool settled() const { return !stage->stack().property("busy").toBool(); }
+
+    Log log = makeLog();
+    std::shared_ptr<FakeNavigation> host = std::make_shared<FakeNavigation>(log);
+    std::unique_ptr<Stage> stage = std::make_unique<Stage>();
+};
+
+} // namespace
+
+TEST_F(PresentTest, CoversTheBarWhileItLoadsAndSaysThatThereIsNoConnection) {
+    use(std::make_shared<NoNetwork>());
+    const auto screen = open();
+    EXPECT_EQ(screen.lock()->title(), "Resumen de venta");
+    EXPECT_THAT(taken(log), ElementsAre("screen Pedidos de mis clientes"));
+    stage->clickBar();
+    EXPECT_EQ(stage->barClicks(), 0);
+
+    ASSERT_TRUE(turnUntil([&] {
+        return stage->shows("Lo sentimos, tu dispositivo está sin conexión a internet") && settled();
+    }));
+    EXPECT_THAT(taken(log), ElementsAre("screen Error"));
+    stage->clickBar();
+    EXPECT_EQ(stage->barClicks(), 1);
+
+    stage->click("Actualizar");
+    EXPECT_FALSE(stage->shows("Actualizar"));
+    ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar"); }));
+    EXPECT_THAT(*log, Contains("screen Error"));
+}
+
+TEST_F(PresentTest, ShowsItsTitleOnlyWhileItIsOnTopAndLoadsOnce) {
+    use(std::make_shared<NoNetwork>());
+    const auto first = open();
+    ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar") && settled(); }));
+    log->clear();
+    const auto second = open();
+    EXPECT_EQ(first.lock()->title(), "");
+    EXPECT_EQ(second.lock()->title(), "Resumen de venta");
+    EXPECT_FALSE(second.lock()->hidesBackButton());
+    ASSERT_TRUE(turnUntil([&] { return settled(); }));
+    stage->pop();
+    ASSERT_TRUE(turnUntil([&] { return stage->depth() == 2 && settled() && second.expired(); }));
+    EXPECT_EQ(first.lock()->title(), "Resumen de venta");
+    EXPECT_EQ(std::ranges::count(*log, "screen Pedidos de mis clientes"), 1);
+}
+
+TEST_F(PresentTest, FreesEverythingWhenTheHostTakesTheScreenAway) {
+    const auto network = use(std::make_shared<NoNetwork>());
+    const auto screen = open();
+    ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar"); }));
+    URLSessionConfiguration::setDefaultConfiguration({});
+    EXPECT_FALSE(network.expired());
+    stage->popAll();
+    EXPECT_TRUE(turnUntil([&] { return screen.expired() && network.expired(); }));
+    EXPECT_EQ(stage->depth(), 1);
+}
+
+TEST_F(PresentTest, FreesEverythingWithTheHostsWindow) {
+    const auto network = use(std::make_shared<NoNetwork>());
+    const auto screen = open();
+    ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar"); }));
+    URLSessionConfiguration::setDefaultConfiguration({});
+    stage.reset();
+    EXPECT_TRUE(turnUntil([&] { return screen.expired() && network.expired(); }));
+}
+
+TEST_F(PresentTest, DropsTheAnswerOfACallThatOutlivesItsScreen) {
+    auto silence = std::make_unique<SilentPort>();
+    const auto network = use(std::make_shared<AnyNetwork>(), {{gateway(), "127.0.0.1", silence->port()}});
+    const auto screen = open();
+    URLSessionConfiguration::setDefaultConfiguration({});
+    log->clear();
+    stage->popAll();
+    ASSERT_TRUE(turnUntil([&] { return screen.expired(); }));
+    EXPECT_FALSE(network.expired());
+    // The system resets the connections of a port that closes, which ends the call.
+    silence.reset();
+    EXPECT_TRUE(turnUntil([&] { return network.expired(); }));
+    EXPECT_THAT(*log, IsEmpty());
+}
+
+// What there is to see is that the process ends in good order, with the call still on.
+TEST_F(PresentTest, LetsTheProcessEndInTheMiddleOfACall) {
+    static const SilentPort silence;
+    use(std::make_shared<AnyNetwork>(), {{gateway(), "127.0.0.1", silence.port()}});
+    const auto screen = open();
+    stage.reset();
+    EXPECT_TRUE(screen.expired());
+}
+
+TEST_F(PresentTest, RetriesTheCheckoutOnTouchDownThoughTheFingerSlidesAway) {
+    use(std::make_shared<NoNetwork>());
+    const auto screen = openCheckout();
+    EXPECT_EQ(screen.lock()->title(), "Envío al carrito");
+    EXPECT_TRUE(screen.lock()->hidesBackButton());
+    EXPECT_THAT(taken(log), ElementsAre("screen Error"));
+    stage->press("Actualizar");
+    stage->releaseAt({5, 5});
+    ASSERT_TRUE(turnUntil([&] { return !log->empty(); }));
+    EXPECT_THAT(taken(log), ElementsAre("screen Error"));
+}
+
+TEST_F(PresentTest, LeavesForTheHomeScreenFromBesideTheDialogAndFromItsCloseIcon) {
+    use(std::make_shared<NoNetwork>());
+    for (const bool background : {true, false}) {
+        openCheckout();
+        log->clear();
+        // The background reaches up over the bar.
+        background ? stage->clickAt({5, 5}) : stage->click("dialogCloseIcon");
+        ASSERT_TRUE(turnUntil([&] { return !log->empty(); }));
+        EXPECT_THAT(taken(log), ElementsAre("navigateToHome"));
+        EXPECT_FALSE(stage->shows("Actualizar"));
+        EXPECT_EQ(stage->barClicks(), 0);
+        stage->popAll();
+    }
+}
+
+TEST_F(PresentTest, AnswersAScreenReaderThatPressesTheDialogsButton) {
+    use(std::make_shared<NoNetwork>());
+    openCheckout();
+    log->clear();
+    auto* button = QAccessible::queryAccessibleInterface(stage->item("Actualizar"));
+    ASSERT_TRUE(button && button->actionInterface());
+    button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(turnUntil([&] { return !log->empty(); }));
+}
+
+TEST_F(PresentTest, ReportsAScreenWhoseViewDoesNotLoad) {
+    class Blank final : public QuickViewController {
+    public:
+        [[nodiscard]] QUrl viewUrl() const override { return QUrl("qrc:/no/such/file.qml"); }
+    };
+    EXPECT_FALSE(present(std::make_shared<Blank>(), stage->stack()));
+    EXPECT_EQ(stage->depth(), 1);
+    EXPECT_EQ(Stage::complaints().size(), 1);
+    stage = std::make_unique<Stage>();
+}
+
+} // namespace quillet::testing
