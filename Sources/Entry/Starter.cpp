@@ -52,13 +52,13 @@ Starter::Starter(Authorization authorization, CartForConsultant cart, std::strin
       navigationDelegate_(std::move(navigationDelegate)) {}
 
 std::shared_ptr<QuickViewController> Starter::createRootViewController() const {
-    pumpMainQueue();
     return SaleSummaryFactory(cart_, authorization_, domainUrl_, std::make_unique<SaleSummaryConfigurator>(),
                               navigationDelegate_)
         .createViewController();
 }
 
 bool present(const std::shared_ptr<QuickViewController>& screen, QQuickItem& stackView) {
+    pumpMainQueue();
     if (QQmlEngine* engine = qmlEngine(&stackView)) {
         useQuilletViews(*engine);
     }

@@ -1,5 +1,4 @@
 #include "Checkout/CheckoutFactory.hpp"
-#include "Entry/MainQueuePump.hpp"
 #include "Entry/Quillet.hpp"
 #include "KelCommon/KelAnalyticsManager.hpp"
 #include "Support/FakeHost.hpp"
@@ -84,7 +83,6 @@ struct PresentTest : ::testing::Test {
     }
 
     std::weak_ptr<QuickViewController> openCheckout() {
-        pumpMainQueue();
         const auto screen = CheckoutFactory(std::make_unique<CheckoutWorkerFactory>(
                                                 "CL", 41051, Authorization{"jwt", "idp"}, "gateway.test"),
                                             std::make_unique<CheckoutConfigurator>(), host)

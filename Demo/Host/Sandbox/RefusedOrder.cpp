@@ -1,6 +1,5 @@
 #include "Sandbox/RefusedOrder.hpp"
 
-#include "Entry/MainQueuePump.hpp"
 #include "KelCommon/KelAnalyticsManager.hpp"
 #include "SaleSummary/SaleSummaryQml.hpp"
 #include "SaleSummary/Screen/SaleSummaryViewController.hpp"
@@ -41,7 +40,6 @@ quillet::OrderResult refusal(const std::string& code) {
 std::shared_ptr<quillet::QuickViewController>
 refusedOrderScreen(const std::string& code,
                    const std::weak_ptr<quillet::QuilletNavigationDelegate>& navigation) {
-    quillet::pumpMainQueue();
     quillet::useSaleSummaryQml();
     const auto receiver = std::make_shared<std::weak_ptr<quillet::SaleSummaryViewModel>>();
     const auto answer = [receiver](auto deliver) {
