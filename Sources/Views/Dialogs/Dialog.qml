@@ -6,7 +6,7 @@ Item {
 
     required property var dialog
     // How far the dialog has come in; it goes out by its own alpha.
-    property real appeared: 0
+    property real appeared
 
     NumberAnimation on appeared {
         to: 1
