@@ -1,6 +1,6 @@
 #include "HostApplication.hpp"
 #include "KelCommon/KelLocalized.hpp"
-#include "KelDS/KelColors.hpp"
+#include "KelDS/KelAppearance.hpp"
 #include "Options.hpp"
 #include "Play/PlayRunner.hpp"
 #include "Sandbox/Platform.hpp"
@@ -104,7 +104,7 @@ int main(int argc, char** argv) {
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("quillet-host"));
     kel::setLanguage(options->language);
-    kel::KelPalettes::current().setTheme(options->dark ? kel::KelTheme::dark : kel::KelTheme::light);
+    kel::KelAppearance::current().setTheme(options->dark ? kel::KelTheme::dark : kel::KelTheme::light);
 
     QTemporaryDir freshData;
     demo::GatewayProcess gateway;
