@@ -144,6 +144,20 @@ TEST_F(Sections, MoveOnlyTheRowsThatAreInView) {
     EXPECT_EQ(list.reveal(), 1);
 }
 
+TEST_F(Sections, ShowWhatIsAboveTheCutWhileTheyMove) {
+    auto& list = show(sent(3), notSent(1));
+    EXPECT_EQ(list.shownHeight(1, 80, 0.1), 80);
+    list.toggle(0, 3);
+    // Rows ask from the top; the first time round those further down are not known yet.
+    EXPECT_EQ(list.shownHeight(1, 80, 1), 80);
+    EXPECT_EQ(list.shownHeight(2, 100, 1), 100);
+    EXPECT_EQ(list.shownHeight(3, 120, 1), 120);
+    EXPECT_DOUBLE_EQ(list.shownHeight(1, 80, 0.5), 80);
+    EXPECT_DOUBLE_EQ(list.shownHeight(2, 100, 0.5), 70);
+    EXPECT_DOUBLE_EQ(list.shownHeight(3, 120, 0.5), 0);
+    EXPECT_DOUBLE_EQ(list.shownHeight(1, 80, 0), 0);
+}
+
 TEST_F(Sections, AnswerATapInTheMiddleOfAMoveAndLetTheOvertakenOneRunOut) {
     auto& list = show(sent(3), notSent(2));
     list.toggle(0, 2);

@@ -31,7 +31,7 @@ ListView {
     delegate: ProductsRow {
         width: ListView.view.width
         sideSpacing: list.status.sideSpacing
-        reveal: list.status.products.reveal
+        products: list.status.products
         onHeadTapped: list.status.products.toggle(index, list.roomBelow(this))
     }
     header: ProductsHeaderView {

@@ -6,7 +6,7 @@ import KelDS
 import Quillet.Checkout
 
 // One row of the product list, with its slice of the section's outline. While its section opens or closes, the row shows
-// the upper part of itself.
+// what of it the section has come to.
 Item {
     id: row
 
@@ -27,8 +27,10 @@ Item {
     required property bool hasReason
     required property string reasonTag
 
-    property int sideSpacing
-    property real reveal: 1
+    required property var products
+    required property int sideSpacing
+    readonly property real shownHeight: row.moving
+        ? row.products.shownHeight(row.index, content.height, row.products.reveal) : content.height
 
     signal headTapped
 
@@ -39,11 +41,11 @@ Item {
 
         x: row.sideSpacing
         width: parent.width - 2 * row.sideSpacing
-        height: Math.round(content.height * (row.moving ? row.reveal : 1))
+        height: Math.round(row.shownHeight)
         stroke: row.stroke
         fill: row.fill
         isTop: row.isHead
-        isBottom: row.last
+        isBottom: row.last || row.shownHeight < content.height
 
         Loader {
             id: content

@@ -152,6 +152,7 @@ void ShippingStatusProductsView::toggle(int row, int rowsInView) {
     const int inView = std::clamp(rowsInView, 0, section.products());
     if (moves) {
         moving_ = &section;
+        panelReveal_.begin();
         setReveal(expands ? 0 : 1);
         setShown(section, inView);
     } else {
@@ -164,6 +165,10 @@ void ShippingStatusProductsView::toggle(int row, int rowsInView) {
     if (moves) {
         move(section);
     }
+}
+
+double ShippingStatusProductsView::shownHeight(int row, double height, double share) {
+    return moving_ ? panelReveal_.shown(row - headOf(*moving_) - 1, height, share) : height;
 }
 
 void ShippingStatusProductsView::setShown(Section& section, int shown) {

@@ -4,6 +4,7 @@
 // everything else.
 #include <QAbstractListModel>
 
+#include "Checkout/Status/PanelReveal.hpp"
 #include "Checkout/Status/ProductsViewFactory.hpp"
 #include "Views/Dialogs/ViewAnimating.hpp"
 
@@ -32,7 +33,7 @@ public:
 /// open or closed at once. Main thread only.
 class ShippingStatusProductsView final : public QAbstractListModel {
     Q_OBJECT
-    /// How much of their height the moving rows show, from 0 to 1.
+    /// How much of the moving section shows, from 0 to 1.
     Q_PROPERTY(double reveal READ reveal NOTIFY revealChanged FINAL)
 
 public:
@@ -76,6 +77,9 @@ public:
     /// rows below the head there is room for on the screen.
     Q_INVOKABLE void toggle(int row, int rowsInView);
 
+    /// How much of a moving row, `height` high, shows at that share of its section.
+    [[nodiscard]] Q_INVOKABLE double shownHeight(int row, double height, double share);
+
 Q_SIGNALS:
     void revealChanged();
 
@@ -110,6 +114,7 @@ private:
     Section* moving_ = nullptr;
     /// Tells the animation in force from those that were overtaken.
     int moves_ = 0;
+    PanelReveal panelReveal_;
     double reveal_ = 1;
 };
 
