@@ -27,7 +27,7 @@ QString currentLanguage() {
     return system.language() == QLocale::C ? QString::fromLatin1(kFallbackLanguage) : system.name().left(2);
 }
 
-const QTranslator& table(const KelBundle& bundle) {
+std::shared_ptr<const QTranslator> table(const KelBundle& bundle) {
     static QHash<QString, std::shared_ptr<QTranslator>> tables;
     const QString language = currentLanguage();
     auto& translator = tables[bundle.folder + u'/' + bundle.table + u'/' + language];
@@ -39,7 +39,7 @@ const QTranslator& table(const KelBundle& bundle) {
             }
         }
     }
-    return *translator;
+    return translator;
 }
 
 } // namespace
@@ -49,17 +49,19 @@ void setLanguage(const QString& language) {
 }
 
 QString localized(const char* key, const KelBundle& bundle) {
-    const QString text = table(bundle).translate("", key);
+    const QString text = table(bundle)->translate("", key);
     return text.isEmpty() ? QString::fromUtf8(key) : text;
 }
 
-QString localized(const char* key, const KelBundle& bundle, quint64 count) {
-    const int form = static_cast<int>(std::min<quint64>(count, std::numeric_limits<int>::max()));
-    QString text = table(bundle).translate("", key, nullptr, form);
-    if (text.isEmpty()) {
-        text = QString::fromUtf8(key);
-    }
-    return text.replace(QLatin1String("%n"), QString::number(count));
+std::function<QString(quint64)> localizedCount(const char* key, const KelBundle& bundle) {
+    return [key, words = table(bundle)](quint64 count) {
+        const int form = static_cast<int>(std::min<quint64>(count, std::numeric_limits<int>::max()));
+        QString text = words->translate("", key, nullptr, form);
+        if (text.isEmpty()) {
+            text = QString::fromUtf8(key);
+        }
+        return text.replace(QLatin1String("%n"), QString::number(count));
+    };
 }
 
 } // namespace kel

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace kel {
 
 /// Where a library keeps its string tables: Qt Linguist tables called "<table>_<language>.qm" in a resource
@@ -19,8 +21,9 @@ void setLanguage(const QString& language);
 /// without an entry, the key itself. Main thread only.
 [[nodiscard]] QString localized(const char* key, const KelBundle& bundle);
 
-/// The same for a text whose form depends on a count. The plural form is chosen by the count clamped to
-/// `int`, the digits put in place of "%n" come from all 64 bits.
-[[nodiscard]] QString localized(const char* key, const KelBundle& bundle, quint64 count);
+/// The same for a text whose form depends on a count: the words in the language of this moment, to be kept
+/// and called with counts. The plural form is chosen by the count clamped to `int`, the digits put in place
+/// of "%n" come from all 64 bits.
+[[nodiscard]] std::function<QString(quint64 count)> localizedCount(const char* key, const KelBundle& bundle);
 
 } // namespace kel

@@ -22,14 +22,10 @@ KelDialogController::KelDialogController(QString title, QString body)
 KelDialogController::~KelDialogController() = default;
 
 QPointer<KelDialogController> KelDialogController::present(std::unique_ptr<KelDialogController> controller,
-                                                           QQuickItem& over, bool animated) {
-    QQmlEngine* engine = qmlEngine(&over);
-    if (!engine) {
-        qCWarning(lcDialog) << "no engine to make a dialog with";
-        return nullptr;
-    }
-    useDesignSystem(*engine);
-    QQmlComponent component(engine, QUrl(QStringLiteral("qrc:/qt/qml/KelDS/KelDialog.qml")));
+                                                           QQmlEngine& engine, QQuickItem& over,
+                                                           bool animated) {
+    useDesignSystem(engine);
+    QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/qt/qml/KelDS/KelDialog.qml")));
     auto* dialog = qobject_cast<QQuickItem*>(
         component.createWithInitialProperties({{"title", controller->title_},
                                                {"message", controller->body_},

@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class QQmlEngine;
+
 namespace kel {
 
 /// Presents a message of two texts over a screen, with a close icon as the way out. For screens that have
@@ -17,11 +19,10 @@ public:
     KelDialogController(QString title, QString body);
     ~KelDialogController() override;
 
-    /// Shows the dialog above everything in `over`, which has to be in a window. From here on the dialog owns
-    /// the controller, and both go once it is dismissed, or with `over`. Returns null, having shown nothing,
-    /// where there is no QML engine to make it with. `animated` is about its coming and its going.
+    /// Shows the dialog above everything in `over`. From here on the dialog owns the controller, and both go
+    /// once it is dismissed, or with `over`. `engine` is the screen's. `animated` is about coming and going.
     static QPointer<KelDialogController> present(std::unique_ptr<KelDialogController> controller,
-                                                 QQuickItem& over, bool animated);
+                                                 QQmlEngine& engine, QQuickItem& over, bool animated);
 
 public Q_SLOTS:
     /// Fades out, or goes at once if it came so.

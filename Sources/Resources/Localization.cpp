@@ -42,12 +42,13 @@ QUILLET_TEXT(shareMagazine, "Share Magazine")
 #undef QUILLET_TEXT
 
 QString Localization::code(quint64 productCode) {
-    return kel::localized("Code: ", moduleBundle())
-        .replace(QLatin1String("%n"), QString::number(productCode));
+    static const QString form = kel::localized("Code: ", moduleBundle());
+    return QString(form).replace(QLatin1String("%n"), QString::number(productCode));
 }
 
 QString Localization::pointsCount(quint64 points) {
-    return kel::localized("points count", moduleBundle(), points);
+    static const auto words = kel::localizedCount("points count", moduleBundle());
+    return words(points);
 }
 
 } // namespace quillet

@@ -1,5 +1,10 @@
 #include "SaleSummary/Fakes.hpp"
 #include "SaleSummary/Screen/SaleSummaryViewController.hpp"
+#include "SaleSummary/UseCases/SaleSummaryUseCaseFactory.hpp"
+#include "SaleSummary/ViewModel/SaleSummaryViewModel.hpp"
+#include "Support/FakeWorkerCollaborators.hpp"
+#include "Workers/AssociateConsultantToCartWorker.hpp"
+#include "Workers/GetOpenOrdersWorker.hpp"
 
 #include <QVariant>
 
@@ -75,6 +80,49 @@ TEST_F(SaleSummaryViewControllerTest, ShowsTheNewestViewOfEachSlot) {
         screen->showDialog(DialogPresenter{title, {}, {}}, {});
         EXPECT_EQ(screen->dialogMessage()->property("title").toString(), title);
     }
+}
+
+// The screen is held by the page that draws it, and by nobody else.
+TEST_F(SaleSummaryViewControllerTest, TakesEverythingBehindItAlongInTheMiddleOfItsCalls) {
+    const auto queue = std::make_shared<MainQueue>();
+    const auto association = std::make_shared<Conversation<OrderResult>>();
+    const auto openOrders = std::make_shared<Conversation<OpenOrdersResult>>();
+    auto associateWorker =
+        std::make_shared<AssociateConsultantToCartWorker>(std::make_unique<FakeAssociateService>(association),
+                                                          "cart", 1, std::make_unique<DrainedQueue>(queue));
+    auto openOrdersWorker = std::make_shared<GetOpenOrdersWorker>(
+        std::make_unique<FakeOpenOrdersService>(openOrders), std::make_unique<DrainedQueue>(queue));
+    auto viewModel = std::make_shared<SaleSummaryViewModel>(std::make_shared<FakeAnalytics>(log),
+                                                            associateWorker, openOrdersWorker,
+                                                            std::make_unique<SaleSummaryUseCaseFactory>());
+    associateWorker->setDelegate(viewModel);
+    openOrdersWorker->setDelegate(viewModel);
+    auto whole = std::make_shared<SaleSummaryViewController>(
+        viewModel, std::make_unique<Colors>(), std::make_unique<FakeRouter>(log, origin),
+        std::make_unique<ViewControllerWrapperFactory>(), std::make_unique<SaleSummaryViewFactory>(),
+        std::weak_ptr<QuilletNavigationDelegate>(), std::make_unique<DialogFactory>(),
+        std::make_unique<TryAgainFactory>());
+    viewModel->setDelegate(whole);
+    const std::tuple<std::weak_ptr<void>, std::weak_ptr<void>, std::weak_ptr<void>> parts{
+        std::exchange(viewModel, nullptr), std::exchange(associateWorker, nullptr),
+        std::exchange(openOrdersWorker, nullptr)};
+    const auto living = [&] {
+        return std::apply([](const auto&... part) { return (int(!part.expired()) + ...); }, parts) +
+               int(association.use_count() > 1) + int(openOrders.use_count() > 1);
+    };
+
+    whole->viewDidLoad();
+    association->pending[0]({.response = {}, .error = HttpStatusCodeError{500}, .httpStatusCode = 500});
+    queue->drain();
+    ASSERT_EQ(openOrders->pending.size(), 1u);
+    // View model, two workers and their two services.
+    EXPECT_EQ(living(), 5);
+    log->clear();
+    whole.reset();
+    EXPECT_EQ(living(), 0);
+    openOrders->pending[0]({.response = {}, .error = HttpStatusCodeError{500}, .httpStatusCode = 500});
+    queue->drain();
+    EXPECT_THAT(*log, ElementsAre());
 }
 
 } // namespace quillet::testing

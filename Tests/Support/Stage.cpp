@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QQmlComponent>
+#include <QTest>
 #include <QTimer>
 
 #include <stdexcept>
@@ -131,6 +132,21 @@ void Stage::clickBar() {
 void Stage::clickAt(QPointF point) {
     mouse(QEvent::MouseButtonPress, point);
     mouse(QEvent::MouseButtonRelease, point);
+}
+
+void Stage::touchAt(QPointF point) {
+    static QPointingDevice* const finger = QTest::createTouchDevice();
+    QTest::touchEvent(window_.get(), finger).press(0, point.toPoint());
+    QTest::touchEvent(window_.get(), finger).release(0, point.toPoint());
+}
+
+void Stage::key(Qt::Key key) {
+    QTest::keyClick(window_.get(), key);
+}
+
+void Stage::repeatKey(Qt::Key key) {
+    QKeyEvent event(QEvent::KeyPress, key, {}, {}, true);
+    QCoreApplication::sendEvent(window_.get(), &event);
 }
 
 std::vector<std::string> Stage::complaints() {

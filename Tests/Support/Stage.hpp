@@ -43,6 +43,15 @@ public:
     [[nodiscard]] QQuickItem* item(const QString& textOrName) const;
     void releaseAt(QPointF point) { mouse(QEvent::MouseButtonRelease, point); }
     void clickAt(QPointF point);
+    /// The same with a finger: down and up again.
+    void touch(const QString& textOrName) { touchAt(middle(textOrName)); }
+    void touchAt(QPointF point);
+    /// A key of whatever has the focus: down and up again.
+    void key(Qt::Key key);
+    /// The key goes down once more without having been up, as it does while it is held.
+    void repeatKey(Qt::Key key);
+    /// What the keys go to.
+    [[nodiscard]] QQuickItem* focus() const { return window_->activeFocusItem(); }
 
     /// What went to the message handler from QML or from the module's navigation.
     [[nodiscard]] static std::vector<std::string> complaints();

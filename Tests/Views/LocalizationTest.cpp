@@ -14,25 +14,47 @@ TEST(Localization, ChoosesThePluralByTheCountAndWritesAllItsDigits) {
     constexpr auto largest = std::numeric_limits<quint64>::max();
     const struct {
         quint64 count;
-        QString points;
-        QString code;
+        QString es, pt, en;
     } cases[] = {
-        {0, "0 puntos", "Code: 0"},
-        {1, "1 punto", "Code: 1"},
-        {2, "2 puntos", "Code: 2"},
-        {(quint64{1} << 32) + 1, "4294967297 puntos", "Code: 4294967297"},
-        {largest, "18446744073709551615 puntos", "Code: 18446744073709551615"},
+        {0, "0 puntos", "0 ponto", "0 points"},
+        {1, "1 punto", "1 ponto", "1 point"},
+        {2, "2 puntos", "2 pontos", "2 points"},
+        {(quint64{1} << 32) + 1, "4294967297 puntos", "4294967297 pontos", "4294967297 points"},
+        {largest, "18446744073709551615 puntos", "18446744073709551615 pontos",
+         "18446744073709551615 points"},
     };
-    for (const auto& [count, points, code] : cases) {
-        EXPECT_EQ(Localization::pointsCount(count), points);
-        EXPECT_EQ(Localization::code(count), code);
+    const auto in = [](const char* language) {
+        kel::setLanguage(language);
+        return kel::localizedCount("points count", moduleBundle());
+    };
+    const auto es = in("es");
+    const auto pt = in("pt");
+    const auto en = in("en");
+    kel::setLanguage("es");
+    for (const auto& expected : cases) {
+        EXPECT_EQ(es(expected.count), expected.es);
+        EXPECT_EQ(pt(expected.count), expected.pt);
+        EXPECT_EQ(en(expected.count), expected.en);
     }
+    EXPECT_EQ(Localization::code(largest), "Code: 18446744073709551615");
+}
+
+TEST(Localization, KeepsTheLanguageOfTheFirstLook) {
+    ASSERT_EQ(Localization::update(), "Actualizar");
+    ASSERT_EQ(Localization::pointsCount(1), "1 punto");
+    kel::setLanguage("pt");
+    EXPECT_EQ(Localization::update(), "Actualizar");
+    EXPECT_EQ(Localization::pointsCount(2), "2 puntos");
+    kel::setLanguage("es");
 }
 
 TEST(Localization, FallsBackToSpanishAndThenToTheKey) {
     kel::setLanguage("fi");
     EXPECT_EQ(kel::localized("Update", moduleBundle()), "Actualizar");
     EXPECT_EQ(kel::localized("no such key", moduleBundle()), "no such key");
+    const kel::KelBundle missing{":/no/such/folder", "none"};
+    EXPECT_EQ(kel::localized("Update", missing), "Update");
+    EXPECT_EQ(kel::localizedCount("points count", missing)(2), "points count");
     kel::setLanguage("es");
 }
 

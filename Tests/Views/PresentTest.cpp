@@ -3,7 +3,9 @@
 #include "KelCommon/KelAnalyticsManager.hpp"
 #include "Support/FakeHost.hpp"
 #include "Support/Stage.hpp"
+#include "Views/Dialogs/AlertDialog.hpp"
 #include "Views/Screen/NavigationController.hpp"
+#include "Views/Screen/ViewController.hpp"
 #include "Workers/CheckoutWorkerFactory.hpp"
 
 #include <QAccessible>
@@ -20,6 +22,7 @@ namespace quillet::testing {
 namespace {
 
 using ::testing::Contains;
+using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -182,41 +185,101 @@ TEST_F(PresentTest, LetsTheProcessEndInTheMiddleOfACall) {
     EXPECT_TRUE(screen.expired());
 }
 
-TEST_F(PresentTest, RetriesTheCheckoutOnTouchDownThoughTheFingerSlidesAway) {
+TEST_F(PresentTest, AnswersEveryWayOfUsingADialogOnce) {
     use(std::make_shared<NoNetwork>());
-    const auto screen = openCheckout();
-    EXPECT_EQ(screen.lock()->title(), "Envío al carrito");
-    EXPECT_TRUE(screen.lock()->hidesBackButton());
-    EXPECT_THAT(taken(log), ElementsAre("screen Error"));
-    stage->press("Actualizar");
-    stage->releaseAt({5, 5});
-    ASSERT_TRUE(turnUntil([&] { return !log->empty(); }));
-    EXPECT_THAT(taken(log), ElementsAre("screen Error"));
-}
-
-TEST_F(PresentTest, LeavesForTheHomeScreenFromBesideTheDialogAndFromItsCloseIcon) {
-    use(std::make_shared<NoNetwork>());
-    for (const bool background : {true, false}) {
-        openCheckout();
-        log->clear();
+    const auto pressFor = [&](const char* name) {
+        QAccessible::queryAccessibleInterface(stage->item(name))
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::pressAction());
+    };
+    const std::string retried = "screen Error";
+    const std::string left = "navigateToHome";
+    const struct {
+        const char* way;
+        std::function<void()> use;
+        std::string outcome;
+    } cases[] = {
+        // The button acts on touching down, so sliding off it takes nothing back.
+        {"button by mouse",
+         [&] {
+             stage->press("Actualizar"), stage->releaseAt({5, 5});
+         },
+         retried},
+        {"button by touch", [&] { stage->touch("Actualizar"); }, retried},
+        {"button by key", [&] { stage->key(Qt::Key_Return), stage->repeatKey(Qt::Key_Return); }, retried},
+        {"button by space", [&] { stage->key(Qt::Key_Space), stage->repeatKey(Qt::Key_Space); }, retried},
+        {"button by screen reader", [&] { pressFor("Actualizar"); }, retried},
         // The background reaches up over the bar.
-        background ? stage->clickAt({5, 5}) : stage->click("dialogCloseIcon");
-        ASSERT_TRUE(turnUntil([&] { return !log->empty(); }));
-        EXPECT_THAT(taken(log), ElementsAre("navigateToHome"));
-        EXPECT_FALSE(stage->shows("Actualizar"));
+        {"background by mouse",
+         [&] {
+             stage->clickAt({5, 5});
+         },
+         left},
+        {"background by touch",
+         [&] {
+             stage->touchAt({5, 5});
+         },
+         left},
+        {"close icon by mouse", [&] { stage->click("dialogCloseIcon"); }, left},
+        {"close icon by touch", [&] { stage->touch("dialogCloseIcon"); }, left},
+        {"close icon by key", [&] { stage->key(Qt::Key_Tab), stage->key(Qt::Key_Return); }, left},
+        {"close icon by escape", [&] { stage->key(Qt::Key_Escape); }, left},
+        {"close icon by screen reader", [&] { pressFor("Cerrar"); }, left},
+    };
+    for (const auto& [way, use, outcome] : cases) {
+        SCOPED_TRACE(way);
+        const auto screen = openCheckout();
+        EXPECT_EQ(screen.lock()->title(), "Envío al carrito");
+        EXPECT_THAT(taken(log), ElementsAre("screen Error"));
+        use();
+        ASSERT_TRUE(turnUntil([&] { return !log->empty() && settled(); }));
+        EXPECT_THAT(taken(log), ElementsAre(outcome));
         EXPECT_EQ(stage->barClicks(), 0);
         stage->popAll();
     }
 }
 
-TEST_F(PresentTest, AnswersAScreenReaderThatPressesTheDialogsButton) {
+TEST_F(PresentTest, RetriesByMouseTouchAndKey) {
     use(std::make_shared<NoNetwork>());
-    openCheckout();
+    const std::function<void()> ways[] = {
+        [&] { stage->click("Actualizar"); }, [&] { stage->touch("Actualizar"); },
+        [&] { stage->item("Actualizar")->forceActiveFocus(Qt::TabFocusReason), stage->key(Qt::Key_Return); }};
+    for (const auto& way : ways) {
+        const auto screen = open();
+        ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar") && settled(); }));
+        log->clear();
+        way();
+        EXPECT_FALSE(stage->shows("Actualizar"));
+        ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar"); }));
+        // Both calls were repeated, and the open orders once more behind the association, so a second outcome
+        // may follow.
+        EXPECT_THAT(taken(log), Each("screen Error"));
+        stage->popAll();
+    }
+}
+
+TEST_F(PresentTest, KeepsTheKeysInTheDialogAndGivesThemBack) {
+    use(std::make_shared<NoNetwork>());
+    const auto screen = open();
+    ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar") && settled(); }));
+    QQuickItem* behind = stage->item("Actualizar");
+    behind->forceActiveFocus(Qt::TabFocusReason);
     log->clear();
-    auto* button = QAccessible::queryAccessibleInterface(stage->item("Actualizar"));
-    ASSERT_TRUE(button && button->actionInterface());
-    button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_TRUE(turnUntil([&] { return !log->empty(); }));
+    AlertDialog().show("Title", "Body", ViewControllerWrapper(screen), true);
+    ASSERT_TRUE(stage->shows("Title") && stage->shows("Body"));
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Down}) {
+        stage->key(key);
+        EXPECT_EQ(stage->focus()->objectName(), "dialogCloseIcon");
+    }
+    stage->key(Qt::Key_Escape);
+    EXPECT_TRUE(turnUntil([&] { return !stage->shows("Title"); }));
+    EXPECT_TRUE(turnUntil([&] { return stage->focus() == behind; }));
+    EXPECT_THAT(*log, IsEmpty());
+
+    stage->popAll();
+    ASSERT_TRUE(turnUntil([&] { return screen.expired(); }));
+    AlertDialog().show("Title", "Body", ViewControllerWrapper(screen), false);
+    EXPECT_FALSE(stage->shows("Title"));
 }
 
 TEST_F(PresentTest, ReportsAScreenWhoseViewDoesNotLoad) {

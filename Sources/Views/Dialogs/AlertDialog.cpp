@@ -10,9 +10,9 @@ void AlertDialog::show(const QString& title, const QString& body, const ViewCont
                        bool animated) const {
     const auto screen = viewController.originViewController();
     const auto* navigation = screen ? screen->navigationController() : nullptr;
-    if (QQuickItem* cover = navigation ? navigation->coverArea() : nullptr) {
-        kel::KelDialogController::present(std::make_unique<kel::KelDialogController>(title, body), *cover,
-                                          animated);
+    if (QQmlEngine* engine = navigation ? navigation->engine() : nullptr) {
+        kel::KelDialogController::present(std::make_unique<kel::KelDialogController>(title, body), *engine,
+                                          *navigation->coverArea(), animated);
     }
 }
 

@@ -20,12 +20,16 @@ NavigationController& NavigationController::of(QQuickItem& stackView) {
     return existing ? *existing : *new NavigationController(stackView);
 }
 
+QQmlEngine* NavigationController::engine() const {
+    return stackView_ ? qmlEngine(stackView_) : nullptr;
+}
+
 QQuickItem* NavigationController::coverArea() const {
     return stackView_ && stackView_->parentItem() ? stackView_->parentItem() : stackView_.data();
 }
 
 bool NavigationController::push(const std::shared_ptr<QuickViewController>& screen) {
-    QQmlEngine* engine = stackView_ ? qmlEngine(stackView_) : nullptr;
+    QQmlEngine* const engine = this->engine();
     if (!engine) {
         qCWarning(lcNavigation) << "no StackView to push on";
         return false;

@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class QQmlEngine;
+
 namespace quillet {
 
 class QuickViewController;
@@ -24,6 +26,8 @@ public:
     /// is logged.
     bool push(const std::shared_ptr<QuickViewController>& screen);
 
+    /// The engine that the host's stack was made with; null once the stack is gone.
+    [[nodiscard]] QQmlEngine* engine() const;
     /// What an overlay covers: the item in which the host keeps the StackView together with its bar.
     [[nodiscard]] QQuickItem* coverArea() const;
 

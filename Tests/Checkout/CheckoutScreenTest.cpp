@@ -1,0 +1,112 @@
+#include "Checkout/CheckoutFactory.hpp"
+#include "KelCommon/KelAnalyticsManager.hpp"
+#include "Support/FakeHost.hpp"
+#include "Support/FakeWorkerCollaborators.hpp"
+#include "Support/Stage.hpp"
+#include "Views/QuilletViews.hpp"
+#include "Views/Screen/NavigationController.hpp"
+#include "Workers/CheckoutWorker.hpp"
+
+#include <gmock/gmock.h>
+
+namespace quillet::testing {
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+/// Makes real workers whose service and main queue are the test's.
+class WorkerFactory final : public CheckoutWorkerCreating {
+public:
+    WorkerFactory(std::shared_ptr<Conversation<CheckoutResult>> talk, std::shared_ptr<MainQueue> queue,
+                  std::vector<std::weak_ptr<CheckoutWorker>>& made)
+        : talk_(std::move(talk)), queue_(std::move(queue)), made_(made) {}
+    [[nodiscard]] std::shared_ptr<CheckoutWorker> create() const override {
+        auto worker = std::make_shared<CheckoutWorker>(std::make_unique<FakeCheckoutService>(talk_),
+                                                       std::make_unique<DrainedQueue>(queue_));
+        made_.push_back(worker);
+        return worker;
+    }
+
+private:
+    std::shared_ptr<Conversation<CheckoutResult>> talk_;
+    std::shared_ptr<MainQueue> queue_;
+    std::vector<std::weak_ptr<CheckoutWorker>>& made_;
+};
+
+struct CheckoutScreen : ::testing::Test {
+    CheckoutScreen() {
+        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<FakeAnalytics>(log));
+        useQuilletViews(*qmlEngine(&stage.stack()));
+    }
+    ~CheckoutScreen() override {
+        kel::KelAnalyticsManager::shared()->setSink(nullptr);
+        EXPECT_THAT(stage.complaints(), IsEmpty());
+    }
+
+    std::weak_ptr<QuickViewController> open() {
+        const auto screen = CheckoutFactory(std::make_unique<WorkerFactory>(talk, queue, workers),
+                                            std::make_unique<CheckoutConfigurator>(), host)
+                                .create();
+        EXPECT_TRUE(NavigationController::of(stage.stack()).push(screen));
+        return screen;
+    }
+
+    void answer(CheckoutResult result) {
+        std::exchange(talk->pending.back(), nullptr)(std::move(result));
+        talk->pending.pop_back();
+        queue->drain();
+    }
+
+    static CheckoutResult success() {
+        CheckoutResponse response;
+        response.message = CheckoutResponseMessage::cartSubmittedSuccess;
+        return {.checkoutResponse = response, .error = {}, .httpStatusCode = 200};
+    }
+
+    [[nodiscard]] bool settled() const { return !stage.stack().property("busy").toBool(); }
+
+    Log log = makeLog();
+    std::shared_ptr<FakeNavigation> host = std::make_shared<FakeNavigation>(log);
+    std::shared_ptr<MainQueue> queue = std::make_shared<MainQueue>();
+    std::shared_ptr<Conversation<CheckoutResult>> talk = std::make_shared<Conversation<CheckoutResult>>();
+    std::vector<std::weak_ptr<CheckoutWorker>> workers;
+    Stage stage;
+};
+
+} // namespace
+
+TEST_F(CheckoutScreen, TakesEverythingAlongWhenItIsClosedBeforeTheAnswer) {
+    const auto screen = open();
+    ASSERT_EQ(talk->pending.size(), 1u);
+    EXPECT_FALSE(workers[0].expired());
+    stage.popAll();
+    ASSERT_TRUE(turnUntil([&] { return screen.expired(); }));
+    EXPECT_TRUE(workers[0].expired());
+    // The service held the other end.
+    EXPECT_EQ(talk.use_count(), 1);
+    answer({.checkoutResponse = {}, .error = HttpStatusCodeError{500}, .httpStatusCode = 500});
+    EXPECT_EQ(stage.depth(), 1);
+    EXPECT_THAT(*log, IsEmpty());
+}
+
+TEST_F(CheckoutScreen, SetsItsTitleOnEachAppearanceAndChecksOutOnce) {
+    const auto screen = open();
+    EXPECT_EQ(screen.lock()->title(), "Envío al carrito");
+    EXPECT_TRUE(screen.lock()->hidesBackButton());
+    answer(success());
+    ASSERT_TRUE(turnUntil([&] { return stage.depth() == 3 && settled(); }));
+    const auto* result = stage.stack().property("currentItem").value<QQuickItem*>();
+    const auto* shown = result->property("viewController").value<QObject*>();
+    EXPECT_EQ(shown->property("title").toString(), "Comentarios sobre los envíos");
+    EXPECT_TRUE(shown->property("hidesBackButton").toBool());
+    screen.lock()->setTitle({});
+    stage.pop();
+    ASSERT_TRUE(turnUntil([&] { return stage.depth() == 2 && settled(); }));
+    EXPECT_EQ(screen.lock()->title(), "Envío al carrito");
+    EXPECT_EQ(talk->log.size(), 1u);
+    EXPECT_THAT(taken(log), ElementsAre("screen Feedback de produtos"));
+}
+
+} // namespace quillet::testing
