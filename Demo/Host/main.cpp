@@ -3,6 +3,7 @@
 #include "KelDS/KelColors.hpp"
 #include "Options.hpp"
 #include "Play/PlayRunner.hpp"
+#include "Play/WarningCounter.hpp"
 #include "Sandbox/Platform.hpp"
 
 #include <QDir>
@@ -54,6 +55,7 @@ int perform(const std::vector<demo::PlayScript>& plays, demo::PlayRunner& runner
     QJsonArray reports;
     bool ok = true;
     for (const demo::PlayScript& play : plays) {
+        const int warned = demo::WarningCounter::count();
         const QJsonObject report = runner.run(play);
         const bool met = report[QStringLiteral("ok")].toBool();
         ok = ok && met;
@@ -62,6 +64,9 @@ int perform(const std::vector<demo::PlayScript>& plays, demo::PlayRunner& runner
             const QJsonObject step = report[QStringLiteral("steps")].toArray().last().toObject();
             std::printf("        %s\n        %s\n", qUtf8Printable(step[QStringLiteral("step")].toString()),
                         qUtf8Printable(step[QStringLiteral("missing")].toString()));
+        }
+        if (demo::WarningCounter::count() > warned) {
+            std::printf("        warnings, on standard error: %d\n", demo::WarningCounter::count() - warned);
         }
         std::fflush(stdout);
         reports.append(report);
@@ -72,6 +77,50 @@ int perform(const std::vector<demo::PlayScript>& plays, demo::PlayRunner& runner
         return complain(QStringLiteral("cannot write ") + file.fileName(), kFailed);
     }
     return ok ? 0 : kFailed;
+}
+
+/// Sets the gateway and the host up and does what was asked for. All that it made is gone when it returns.
+int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& plays) {
+    const bool inWindow = options.mode == demo::Options::Mode::window;
+    QTemporaryDir freshData;
+    demo::GatewayProcess gateway;
+    demo::GatewayProcess::Settings settings{
+        .program = options.gatewayProgram.isEmpty()
+                       ? QCoreApplication::applicationDirPath() + QStringLiteral("/quillet-gateway")
+                       : options.gatewayProgram,
+        .dataFolder = !inWindow || options.dataFolder.isEmpty() ? freshData.path() : options.dataFolder,
+        .port = options.port,
+        .reset = !inWindow || options.reset};
+    demo::GatewayAddress address{options.gatewayHost.value_or(QString()), options.gatewayPort,
+                                 options.caFile};
+    QByteArray orders;
+    if (!options.gatewayHost) {
+        QDir().mkpath(settings.dataFolder);
+        const auto started = gateway.start(settings);
+        if (!started) {
+            return complain(started.error(), kFailed);
+        }
+        address = *started;
+        orders = demo::GatewayProcess::seededOrders(settings);
+    }
+
+    demo::Journal journal;
+    const auto network = demo::configurePlatform(address, journal);
+    const auto host = std::make_shared<demo::HostApplication>(journal, orders);
+    if (!host->load(host, !inWindow)) {
+        return complain(QStringLiteral("the window does not load"), kFailed);
+    }
+    if (inWindow) {
+        return QGuiApplication::exec();
+    }
+    demo::PlayRunner runner(*host, journal, network, options.outFolder);
+    const int status = perform(plays, runner, options.outFolder);
+    if (!options.gatewayHost) {
+        const QString log = options.outFolder + QStringLiteral("/gateway.log");
+        QFile::remove(log);
+        QFile::copy(settings.dataFolder + QStringLiteral("/gateway.log"), log);
+    }
+    return status;
 }
 
 } // namespace
@@ -85,14 +134,14 @@ int main(int argc, char** argv) {
     if (!options) {
         return options.error().isEmpty() ? 0 : complain(options.error(), kUsage);
     }
-    const bool plays = options->mode != demo::Options::Mode::window;
-    std::vector<demo::PlayScript> scripts;
-    if (plays) {
+    const bool inWindow = options->mode == demo::Options::Mode::window;
+    std::vector<demo::PlayScript> plays;
+    if (!inWindow) {
         auto read = readPlays(*options);
         if (!read) {
             return complain(read.error(), kUsage);
         }
-        scripts = std::move(*read);
+        plays = std::move(*read);
         if (!QDir().mkpath(options->outFolder)) {
             return complain(QStringLiteral("cannot make the folder ") + options->outFolder, kFailed);
         }
@@ -101,48 +150,16 @@ int main(int argc, char** argv) {
         qputenv("QT_SCALE_FACTOR", "2");
     }
 
-    QGuiApplication application(argc, argv);
+    const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("quillet-host"));
     kel::setLanguage(options->language);
     kel::KelPalettes::current().setTheme(options->dark ? kel::KelTheme::dark : kel::KelTheme::light);
 
-    QTemporaryDir freshData;
-    demo::GatewayProcess gateway;
-    demo::GatewayProcess::Settings settings{
-        .program = options->gatewayProgram.isEmpty()
-                       ? QCoreApplication::applicationDirPath() + QStringLiteral("/quillet-gateway")
-                       : options->gatewayProgram,
-        .dataFolder = plays || options->dataFolder.isEmpty() ? freshData.path() : options->dataFolder,
-        .port = options->port,
-        .reset = plays || options->reset};
-    demo::GatewayAddress address{options->gatewayHost.value_or(QString()), options->gatewayPort,
-                                 options->caFile};
-    QByteArray orders;
-    if (!options->gatewayHost) {
-        QDir().mkpath(settings.dataFolder);
-        const auto started = gateway.start(settings);
-        if (!started) {
-            return complain(started.error(), kFailed);
-        }
-        address = *started;
-        orders = demo::GatewayProcess::seededOrders(settings);
+    const demo::WarningCounter warnings;
+    const int status = runHost(*options, plays);
+    if (inWindow || demo::WarningCounter::count() == 0) {
+        return status;
     }
-
-    demo::Journal journal;
-    const auto network = demo::configurePlatform(address, journal);
-    const auto host = std::make_shared<demo::HostApplication>(journal, orders);
-    if (!host->load(host, plays)) {
-        return complain(QStringLiteral("the window does not load"), kFailed);
-    }
-    if (!plays) {
-        return QGuiApplication::exec();
-    }
-    demo::PlayRunner runner(*host, journal, network, options->outFolder);
-    const int status = perform(scripts, runner, options->outFolder);
-    if (!options->gatewayHost) {
-        const QString log = options->outFolder + QStringLiteral("/gateway.log");
-        QFile::remove(log);
-        QFile::copy(settings.dataFolder + QStringLiteral("/gateway.log"), log);
-    }
-    return status;
+    std::printf("FAILED  warnings of Qt or QML, on standard error: %d\n", demo::WarningCounter::count());
+    return kFailed;
 }
