@@ -162,13 +162,14 @@ QString PlayRunner::perform(const steps::CloseIcon& step) {
 
 QString PlayRunner::perform(const steps::Scroll& step) {
     // Rows that come into view on the way change where the end is, so it counts once it has stayed the same.
+    // Where all of a page is in view there is nowhere to go.
     int stays = 0;
     const bool arrived = wait(kPatience, [&] {
-        QQuickItem* page = settled() ? reader_.scrollable() : nullptr;
-        stays = page && Scroller(*page).toEdge(step.toEnd) ? stays + 1 : 0;
+        QQuickItem* page = reader_.scrollable();
+        stays = settled() && (!page || Scroller(*page).toEdge(step.toEnd)) ? stays + 1 : 0;
         return stays > 2;
     });
-    return arrived ? QString() : QStringLiteral("there is nothing to scroll");
+    return arrived ? QString() : QStringLiteral("the screen does not come to rest");
 }
 
 QString PlayRunner::perform(const steps::Back&) {
