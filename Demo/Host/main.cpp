@@ -91,10 +91,13 @@ int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& p
         .dataFolder = !inWindow || options.dataFolder.isEmpty() ? freshData.path() : options.dataFolder,
         .port = options.port,
         .reset = !inWindow || options.reset};
+    demo::LiveStatus status;
     demo::GatewayAddress address{options.gatewayHost.value_or(QString()), options.gatewayPort,
                                  options.caFile};
     QByteArray orders;
-    if (!options.gatewayHost) {
+    if (options.gatewayHost) {
+        status.gatewayElsewhere(address);
+    } else {
         QDir().mkpath(settings.dataFolder);
         const auto started = gateway.start(settings);
         if (!started) {
@@ -102,11 +105,13 @@ int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& p
         }
         address = *started;
         orders = demo::GatewayProcess::seededOrders(settings);
+        status.gatewayStarted();
+        gateway.whenEnded(status, [&status] { status.gatewayEnded(); });
     }
 
     demo::Journal journal;
     const auto network = demo::configurePlatform(address, journal);
-    const auto host = std::make_shared<demo::HostApplication>(journal, orders);
+    const auto host = std::make_shared<demo::HostApplication>(journal, status, orders);
     if (!host->load(host, !inWindow)) {
         return complain(QStringLiteral("the window does not load"), kFailed);
     }
@@ -114,13 +119,13 @@ int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& p
         return QGuiApplication::exec();
     }
     demo::PlayRunner runner(*host, journal, network, options.outFolder);
-    const int status = perform(plays, runner, options.outFolder);
+    const int result = perform(plays, runner, options.outFolder);
     if (!options.gatewayHost) {
         const QString log = options.outFolder + QStringLiteral("/gateway.log");
         QFile::remove(log);
         QFile::copy(settings.dataFolder + QStringLiteral("/gateway.log"), log);
     }
-    return status;
+    return result;
 }
 
 } // namespace

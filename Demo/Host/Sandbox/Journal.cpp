@@ -78,8 +78,9 @@ void Journal::eventTracked(const kel::KelAnalyticsEventType& event) {
     Q_EMIT analyticsChanged();
 }
 
-void Journal::navigated(const QString& operation) {
+void Journal::navigated(const QString& operation, kel::KelIconNumber icon) {
     navigation_.append(QVariantMap{{QStringLiteral("operation"), operation},
+                                   {QStringLiteral("icon"), int(icon)},
                                    {QStringLiteral("time"), timeStamp(QStringLiteral("HH:mm:ss"))}});
     Q_EMIT navigationChanged();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "KelCommon/KelAnalytics.hpp"
+#include "KelDSIcons/KelDSIcons.hpp"
 #include "Network/Session/URLSessionObserving.hpp"
 
 #include <QJsonArray>
@@ -23,7 +24,8 @@ public:
                       const quillet::URLSessionExchangeEnd& end);
     void screenTracked(const QString& name);
     void eventTracked(const kel::KelAnalyticsEventType& event);
-    void navigated(const QString& operation);
+    /// The icon is what the journal shows beside the operation.
+    void navigated(const QString& operation, kel::KelIconNumber icon);
     void clear();
 
     [[nodiscard]] QVariantList requests() const { return requests_; }
