@@ -1,3 +1,4 @@
+#include "ControlsSheet.hpp"
 #include "HostApplication.hpp"
 #include "KelCommon/KelLocalized.hpp"
 #include "KelDS/KelColors.hpp"
@@ -79,6 +80,11 @@ int perform(const std::vector<demo::PlayScript>& plays, demo::PlayRunner& runner
     return ok ? 0 : kFailed;
 }
 
+int drawSheet(const QString& file) {
+    const auto drawn = demo::drawControls(file);
+    return drawn ? 0 : complain(drawn.error(), kFailed);
+}
+
 /// Sets the gateway and the host up and does what was asked for. All that it made is gone when it returns.
 int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& plays) {
     const bool inWindow = options.mode == demo::Options::Mode::window;
@@ -140,8 +146,9 @@ int main(int argc, char** argv) {
         return options.error().isEmpty() ? 0 : complain(options.error(), kUsage);
     }
     const bool inWindow = options->mode == demo::Options::Mode::window;
+    const bool onSheet = options->mode == demo::Options::Mode::controls;
     std::vector<demo::PlayScript> plays;
-    if (!inWindow) {
+    if (!inWindow && !onSheet) {
         auto read = readPlays(*options);
         if (!read) {
             return complain(read.error(), kUsage);
@@ -150,7 +157,9 @@ int main(int argc, char** argv) {
         if (!QDir().mkpath(options->outFolder)) {
             return complain(QStringLiteral("cannot make the folder ") + options->outFolder, kFailed);
         }
-        // A play needs no display, and its pictures are as fine as a phone's.
+    }
+    if (!inWindow) {
+        // These modes need no display, and their pictures are as fine as a phone's.
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qputenv("QT_SCALE_FACTOR", "2");
     }
@@ -161,7 +170,7 @@ int main(int argc, char** argv) {
     kel::KelPalettes::current().setTheme(options->dark ? kel::KelTheme::dark : kel::KelTheme::light);
 
     const demo::WarningCounter warnings;
-    const int status = runHost(*options, plays);
+    const int status = onSheet ? drawSheet(options->controlsFile) : runHost(*options, plays);
     if (inWindow || demo::WarningCounter::count() == 0) {
         return status;
     }

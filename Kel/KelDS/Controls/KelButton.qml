@@ -9,6 +9,7 @@ AbstractButton {
     property string identifier
     // Whether touching down is enough; else the finger has to leave the button on it.
     property bool actsOnPress: false
+    property bool showsFocus: button.visualFocus
 
     // The button was used, be it by touch, by key or by a screen reader.
     signal activated
@@ -55,7 +56,7 @@ AbstractButton {
         Rectangle {
             anchors.fill: parent
             anchors.margins: -5
-            visible: button.visualFocus
+            visible: button.showsFocus
             radius: parent.radius + 5
             color: "transparent"
             border.width: 2
