@@ -1,7 +1,7 @@
 #include "ControlsSheet.hpp"
 #include "HostApplication.hpp"
 #include "KelCommon/KelLocalized.hpp"
-#include "KelDS/KelColors.hpp"
+#include "KelDS/KelAppearance.hpp"
 #include "Options.hpp"
 #include "Play/PlayRunner.hpp"
 #include "Play/WarningCounter.hpp"
@@ -167,7 +167,7 @@ int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("quillet-host"));
     kel::setLanguage(options->language);
-    kel::KelPalettes::current().setTheme(options->dark ? kel::KelTheme::dark : kel::KelTheme::light);
+    kel::KelAppearance::current().setTheme(options->dark ? kel::KelTheme::dark : kel::KelTheme::light);
 
     const demo::WarningCounter warnings;
     const int status = onSheet ? drawSheet(options->controlsFile) : runHost(*options, plays);

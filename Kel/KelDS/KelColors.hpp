@@ -1,32 +1,12 @@
 #pragma once
 
-#include "KelDS/KelTokens.hpp"
+#include "KelDS/KelAppearance.hpp"
 
 #include <QColor>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
 namespace kel {
-
-/// The theme of the process and its palette. Main thread only.
-class KelPalettes : public QObject {
-    Q_OBJECT
-    QML_ANONYMOUS
-
-public:
-    [[nodiscard]] static KelPalettes& current();
-    [[nodiscard]] KelTheme theme() const { return theme_; }
-    [[nodiscard]] const KelPalette& palette() const {
-        return theme_ == KelTheme::light ? kLightPalette : kDarkPalette;
-    }
-    void setTheme(KelTheme theme);
-
-Q_SIGNALS:
-    void changed();
-
-private:
-    KelTheme theme_ = KelTheme::light;
-};
 
 /// Colour tokens for QML, of the theme in force.
 class KelColors : public QObject {
@@ -48,7 +28,6 @@ class KelColors : public QObject {
     Q_PROPERTY(QColor link READ link NOTIFY changed FINAL)
     Q_PROPERTY(QColor hairline READ hairline NOTIFY changed FINAL)
     Q_PROPERTY(QColor dim READ dim CONSTANT FINAL)
-    Q_PROPERTY(QColor veil READ veil NOTIFY changed FINAL)
     Q_PROPERTY(bool hasShadows READ hasShadows NOTIFY changed FINAL)
 
 public:
@@ -69,12 +48,11 @@ public:
     [[nodiscard]] static QColor hairline() { return withAlpha(highEmphasis(), palette().hairline); }
     /// What dims the screen behind a dialog: black in either theme.
     [[nodiscard]] static QColor dim() { return withAlpha(Qt::black, opacity::mediumHigh); }
-    /// What covers the screen while a call runs. In the dark theme highEmphasis is light and would swallow
-    /// the ring.
+    /// What a veil over a whole screen is dyed with: the darkest ink of the theme.
     [[nodiscard]] static QColor veil();
 
     /// On a dark ground a shadow cannot be seen: there a lighter surface alone lifts a card.
-    [[nodiscard]] static bool hasShadows() { return KelPalettes::current().theme() == KelTheme::light; }
+    [[nodiscard]] static bool hasShadows() { return KelAppearance::current().theme() == KelTheme::light; }
 
     [[nodiscard]] Q_INVOKABLE static QColor withAlpha(QColor color, double alpha);
     /// The pale ground of a strip or disc in the given colour.
@@ -86,7 +64,7 @@ Q_SIGNALS:
     void changed();
 
 private:
-    [[nodiscard]] static const KelPalette& palette() { return KelPalettes::current().palette(); }
+    [[nodiscard]] static const KelPalette& palette() { return KelAppearance::current().palette(); }
 };
 
 } // namespace kel

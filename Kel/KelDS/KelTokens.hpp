@@ -5,8 +5,8 @@
 #include <array>
 
 /// The design system's values, each in one place. Lengths are in device-independent pixels. QML reads them
-/// through the singletons KelColors, KelFonts, KelSpacing, KelSizes, KelRadius and KelOpacity; C++ reads them
-/// here.
+/// through the singletons KelColors, KelFonts, KelSpacing, KelSizes, KelRadius, KelOpacity and KelMotion; C++
+/// reads them here.
 namespace kel {
 
 enum class KelTheme { light, dark };
@@ -28,13 +28,18 @@ inline constexpr KelPalette kDarkPalette{0xffF4AB34, 0xff1F1B14, 0xff141210, 0xf
                                          0xffB8B0A5, 0xff57514A, 0xff9DCC78, 0xffFF9C80, 0xffF2C46B,
                                          0xff93C3FF, 0xff1F1B14, 0.12,       0.16};
 
+/// The colours of tags, by index.
+enum class KelTagColor { primary, success, warning, alert, link };
+
 namespace spacing {
 inline constexpr int micro = 4, tiny = 8, small = 16, semi = 24, standard = 32;
 }
 namespace sizes {
 inline constexpr int micro = 4, tiny = 8, small = 16, standard = 24, semi = 32, semiX = 40, medium = 48,
                      mediumX = 56, large = 64;
-}
+/// The least that a finger hits without fail.
+inline constexpr int touch = 44;
+} // namespace sizes
 namespace radius {
 inline constexpr int small = 4, medium = 8, large = 16;
 /// Buttons sit between two steps of the scale.
@@ -43,6 +48,10 @@ inline constexpr int button = 12;
 namespace opacity {
 inline constexpr double disabled = 0.12, low = 0.16, mediumLow = 0.32, medium = 0.56, mediumHigh = 0.80,
                         high = 0.92;
+}
+/// How long things take to move, in milliseconds.
+namespace motion {
+inline constexpr int press = 80, panel = 200, dialogIn = 200, dialogOut = 700, page = 300;
 }
 
 /// Pixel sizes by font size index.

@@ -21,8 +21,8 @@ class Spy final : public ResultViewCreating<Input> {
 public:
     explicit Spy(std::shared_ptr<std::unique_ptr<ScrollableView>> made) : made_(std::move(made)) {}
     [[nodiscard]] std::unique_ptr<ScrollableView>
-    view(const Input& input, ProductsCheckoutStatusViewController& screen) const override {
-        *made_ = ResultViewFactory<Input>({}).view(input, screen);
+    view(Input input, ProductsCheckoutStatusViewController& screen) const override {
+        *made_ = ResultViewFactory<Input>({}).view(std::move(input), screen);
         return {};
     }
     [[nodiscard]] std::weak_ptr<QuilletNavigationDelegate> navigationDelegate() const override { return {}; }
@@ -89,40 +89,42 @@ TEST_F(CheckoutResults, ShowTheSummarysCountersAndSplitTheProductsInOrder) {
     const QStringList notSentRows{"Productos no enviados", "Code: 5", "Code: 4", "Code: 2"};
     const struct {
         Route route;
-        IconStatus icon;
+        kel::KelIconNumber mark;
         QString points;
         QString message;
         QList<TextWithTagView> counters;
         QStringList products;
     } cases[] = {
         {&CheckoutRoutering::showAllProductsAdded,
-         IconStatus::productsSuccess,
+         kel::KelIconNumber::checkCircle,
          "120 puntos enviados en total",
          "Vea los productos que fueron enviados al carrito.",
          {sentWithoutColon},
          sentRows},
         {&CheckoutRoutering::showProductsPartiallyAdded,
-         IconStatus::productsFailure,
+         kel::KelIconNumber::error,
          "120 puntos enviados en total",
          "Algunos productos no fueron enviados al carrito. ¡Vea!",
          {notSent, sent},
          sentRows + notSentRows},
         {&CheckoutRoutering::showNoProductAdded,
-         IconStatus::warning,
+         {},
          "",
          "Infelizmente niguno de los productos fue enviado al carrito.",
          {notSent},
          notSentRows},
     };
-    for (const auto& [route, icon, points, message, counters, products] : cases) {
+    for (const auto& [route, mark, points, message, counters, products] : cases) {
         SCOPED_TRACE(message.toStdString());
         const auto view = show(route, response(Cycle{202305, {}, {}}));
         const ProductsCheckoutStatusView& status = *view->contentView();
-        EXPECT_EQ(status.cycle().text(), "Ciclo actual: 05");
-        EXPECT_EQ(status.totalAddedProductPoints(), points);
-        EXPECT_EQ(status.icon(), static_cast<int>(icon));
-        EXPECT_EQ(status.mainMessage(), message);
-        EXPECT_EQ(status.counters(), counters);
+        EXPECT_EQ(status.cycleLabel()->text(), "Ciclo actual: 05");
+        const auto* total = status.totalAddedProductPointsLabel();
+        EXPECT_EQ(total ? total->text() : QString(), points);
+        EXPECT_EQ(status.headerView()->iconView()->hasMark(), mark != kel::KelIconNumber{});
+        EXPECT_EQ(status.headerView()->iconView()->markNumber(), int(mark));
+        EXPECT_EQ(status.headerView()->mainMessage(), message);
+        EXPECT_EQ(status.headerView()->textWithTagViews(), counters);
         EXPECT_EQ(rows(*view), products);
     }
 }
@@ -131,7 +133,7 @@ TEST_F(CheckoutResults, HaveAnEmptyCycleWithoutOneAndEmptySectionsWithoutProduct
     auto answer = response(std::nullopt);
     answer.products = {product(1, ProductErrorStatus::none)};
     const auto partial = show(&CheckoutRoutering::showProductsPartiallyAdded, answer);
-    EXPECT_EQ(partial->contentView()->cycle().value, "");
+    EXPECT_EQ(partial->contentView()->cycleLabel()->text(), "Ciclo actual: ");
     EXPECT_EQ(rows(*partial), (QStringList{"Productos enviados", "Code: 1", "Productos no enviados"}));
     EXPECT_EQ(rows(*show(&CheckoutRoutering::showNoProductAdded, answer)),
               (QStringList{"Productos no enviados"}));

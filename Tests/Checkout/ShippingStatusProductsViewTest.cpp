@@ -1,6 +1,8 @@
 #include "Checkout/Status/ShippingStatusProductsView.hpp"
 
+#include "KelDS/KelAppearance.hpp"
 #include "Support/FakeHost.hpp"
+#include "Support/HandDrivenAnimating.hpp"
 
 #include <QAbstractItemModelTester>
 
@@ -36,14 +38,23 @@ std::vector<Product> products(std::size_t count) {
     return result;
 }
 
-/// The list as it stands, a letter a row: head open (O) or closed (C), product (p); in capitals where the
-/// row ends its section, which is when a head has nothing below it.
+std::optional<ExpansionPanel> sent(std::size_t count) {
+    return ProductsViewFactory::shippedProductsView(products(count));
+}
+
+std::optional<ExpansionPanel> notSent(std::size_t count) {
+    return ProductsViewFactory::unshippedProductsView(products(count));
+}
+
+/// The list as it stands, a letter a row: head open (o) or closed (c), product (p) or a product that is
+/// moving (m); in capitals where the row ends its section, which is when a head has nothing below it.
 std::string shape(const ShippingStatusProductsView& view) {
     std::string rows;
     for (int row = 0; row < view.rowCount(); ++row) {
         const QModelIndex index = view.index(row);
         const bool last = index.data(Role::LastRole).toBool();
-        const char letter = !index.data(Role::IsHeadRole).toBool()    ? 'p'
+        const char letter = index.data(Role::MovingRole).toBool()     ? 'm'
+                            : !index.data(Role::IsHeadRole).toBool()  ? 'p'
                             : index.data(Role::ExpandedRole).toBool() ? 'o'
                                                                       : 'c';
         rows += last ? static_cast<char>(std::toupper(letter)) : letter;
@@ -51,59 +62,124 @@ std::string shape(const ShippingStatusProductsView& view) {
     return rows;
 }
 
+struct Sections : ::testing::Test {
+    ~Sections() override { kel::KelAppearance::current().setReducedMotion(false); }
+
+    /// A list of such sections, with a tester that ends the program at the first signal that does not fit the
+    /// rows.
+    ShippingStatusProductsView& show(std::optional<ExpansionPanel> shipped,
+                                     std::optional<ExpansionPanel> unshipped) {
+        tester.reset();
+        view =
+            std::make_unique<ShippingStatusProductsView>(std::move(shipped), std::move(unshipped), animating);
+        view->setDelegate(delegate);
+        tester = std::make_unique<QAbstractItemModelTester>(
+            view.get(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+        view->setup();
+        return *view;
+    }
+
+    static constexpr int kRoom = 100;
+    Log log = makeLog();
+    std::shared_ptr<FakeDelegate> delegate = std::make_shared<FakeDelegate>(log);
+    std::shared_ptr<HandDrivenAnimating> animating = std::make_shared<HandDrivenAnimating>();
+    std::unique_ptr<ShippingStatusProductsView> view;
+    std::unique_ptr<QAbstractItemModelTester> tester;
+};
+
 } // namespace
 
-// The tester ends the program at the first signal that does not fit the rows.
-TEST(ShippingStatusProductsView, OpensAndClosesItsSectionsAndTellsOncePerTap) {
+TEST_F(Sections, OpenAndCloseAtOnceWithReducedMotionAndTellOncePerTap) {
+    kel::KelAppearance::current().setReducedMotion(true);
     const struct {
-        std::optional<std::vector<Product>> sent;
-        std::optional<std::vector<Product>> notSent;
+        std::optional<ExpansionPanel> sent;
+        std::optional<ExpansionPanel> notSent;
         std::string atFirst;
         std::vector<std::tuple<int, std::string, std::string>> taps;
     } cases[] = {
-        {products(2),
-         products(1),
+        {sent(2),
+         notSent(1),
          "opPoP",
          {{0, "sent hidden", "CoP"},
           {1, "not sent hidden", "CC"},
           {0, "sent expanded", "opPC"},
           {3, "not sent expanded", "opPoP"}}},
-        {products(0), products(0), "OO", {{1, "not sent hidden", "OC"}, {0, "sent hidden", "CC"}}},
-        {std::nullopt, products(1), "oP", {{0, "not sent hidden", "C"}, {0, "not sent expanded", "oP"}}},
-        {products(1), std::nullopt, "oP", {{0, "sent hidden", "C"}}},
+        {sent(0), notSent(0), "OO", {{1, "not sent hidden", "OC"}, {0, "sent hidden", "CC"}}},
+        {std::nullopt, notSent(1), "oP", {{0, "not sent hidden", "C"}, {0, "not sent expanded", "oP"}}},
+        {sent(1), std::nullopt, "oP", {{0, "sent hidden", "C"}}},
         {std::nullopt, std::nullopt, "", {}},
     };
-    for (const auto& [sent, notSent, atFirst, taps] : cases) {
-        const auto log = makeLog();
-        const auto delegate = std::make_shared<FakeDelegate>(log);
-        ShippingStatusProductsView view(sent, notSent);
-        const QAbstractItemModelTester tester(&view, QAbstractItemModelTester::FailureReportingMode::Fatal);
-        view.setDelegate(delegate);
-        EXPECT_EQ(shape(view), atFirst);
+    for (const auto& [sentPanel, notSentPanel, atFirst, taps] : cases) {
+        auto& list = show(sentPanel, notSentPanel);
+        EXPECT_EQ(shape(list), atFirst);
         for (const auto& [row, notice, afterwards] : taps) {
-            view.toggle(row);
+            list.toggle(row, kRoom);
             EXPECT_THAT(taken(log), ElementsAre(notice));
-            EXPECT_EQ(shape(view), afterwards);
+            EXPECT_EQ(shape(list), afterwards);
         }
+        EXPECT_TRUE(animating->running.empty());
     }
 }
 
-TEST(ShippingStatusProductsView, IgnoresTapsBesideTheHeadsAndADelegateThatHasGone) {
-    const auto log = makeLog();
-    auto delegate = std::make_shared<FakeDelegate>(log);
-    ShippingStatusProductsView view(products(2), products(1));
-    view.setDelegate(delegate);
+TEST_F(Sections, MoveOnlyTheRowsThatAreInView) {
+    auto& list = show(sent(5), notSent(1));
+    list.toggle(0, 2);
+    EXPECT_EQ(shape(list), "cmMoP");
+    EXPECT_THAT(taken(log), ElementsAre("sent hidden"));
+    ASSERT_EQ(animating->running.size(), 1u);
+    EXPECT_EQ(animating->running[0].duration, std::chrono::milliseconds(200));
+    EXPECT_EQ(list.reveal(), 1);
+    animating->running[0].step(0.5);
+    EXPECT_DOUBLE_EQ(list.reveal(), 0.125);
+    animating->running[0].finish();
+    EXPECT_EQ(shape(list), "CoP");
+
+    list.toggle(0, 3);
+    EXPECT_EQ(shape(list), "ommMoP");
+    EXPECT_EQ(list.reveal(), 0);
+    animating->running[1].step(0.5);
+    EXPECT_DOUBLE_EQ(list.reveal(), 0.875);
+    animating->running[1].finish();
+    EXPECT_EQ(shape(list), "oppppPoP");
+    EXPECT_EQ(list.reveal(), 1);
+}
+
+TEST_F(Sections, AnswerATapInTheMiddleOfAMoveAndLetTheOvertakenOneRunOut) {
+    auto& list = show(sent(3), notSent(2));
+    list.toggle(0, 2);
+    animating->running[0].step(0.5);
+    EXPECT_EQ(shape(list), "cmMopP");
+    // The head of the lower section, as the list counts its rows at this moment.
+    list.toggle(3, 1);
+    EXPECT_EQ(shape(list), "CcM");
+    animating->running[0].finish();
+    EXPECT_EQ(shape(list), "CcM");
+    list.toggle(1, 2);
+    EXPECT_EQ(shape(list), "ComM");
+    animating->running[1].finish();
+    animating->running[2].finish();
+    EXPECT_EQ(shape(list), "CopP");
+    EXPECT_THAT(taken(log), ElementsAre("sent hidden", "not sent hidden", "not sent expanded"));
+    list.toggle(0, 2);
+    view.reset();
+    tester.reset();
+    animating->running[3].finish();
+}
+
+TEST_F(Sections, IgnoreTapsBesideTheHeadsAndADelegateThatHasGone) {
+    auto& list = show(sent(2), notSent(1));
     for (const int row : {-1, 1, 2, 4, 5, std::numeric_limits<int>::max()}) {
-        view.toggle(row);
+        list.toggle(row, kRoom);
     }
-    EXPECT_EQ(shape(view), "opPoP");
+    EXPECT_EQ(shape(list), "opPoP");
     delegate.reset();
-    view.toggle(0);
-    EXPECT_EQ(shape(view), "CoP");
+    list.toggle(0, -1);
+    animating->running[0].finish();
+    EXPECT_EQ(shape(list), "CoP");
     EXPECT_THAT(taken(log), IsEmpty());
 }
 
-TEST(ShippingStatusProductsView, WritesNumbersOfAllSixtyFourBits) {
+TEST_F(Sections, WriteNumbersOfAllSixtyFourBits) {
     constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
     Product one;
     one.productCode = one.quantity = largest;
@@ -111,15 +187,16 @@ TEST(ShippingStatusProductsView, WritesNumbersOfAllSixtyFourBits) {
     one.totalPoints = 1;
     Product many;
     many.totalPoints = largest;
-    const ShippingStatusProductsView view({{one}}, {{many}});
-    const auto text = [&](int row, Role role) { return view.index(row).data(role).toString(); };
+    auto& list = show(ProductsViewFactory::shippedProductsView({one}),
+                      ProductsViewFactory::unshippedProductsView({many}));
+    const auto text = [&](int row, Role role) { return list.index(row).data(role).toString(); };
     EXPECT_EQ(text(1, Role::CodeRole), "Code: 18446744073709551615");
     EXPECT_EQ(text(1, Role::QuantityRole), "18446744073709551615");
     EXPECT_EQ(text(1, Role::DescriptionRole), "Champú");
     EXPECT_EQ(text(1, Role::PointsRole), "1 punto");
     EXPECT_EQ(text(3, Role::PointsRole), "18446744073709551615 puntos");
-    EXPECT_FALSE(view.index(1).data(Role::HasReasonRole).toBool());
-    EXPECT_TRUE(view.index(3).data(Role::HasReasonRole).toBool());
+    EXPECT_FALSE(list.index(1).data(Role::HasReasonRole).toBool());
+    EXPECT_TRUE(list.index(3).data(Role::HasReasonRole).toBool());
 }
 
 } // namespace quillet::testing

@@ -43,7 +43,9 @@ TEST_F(SaleSummaryViewControllerTest, TracksItsScreenBeforeTheFirstRequest) {
 }
 
 TEST_F(SaleSummaryViewControllerTest, StartsACheckoutFromItselfForEachTapOnTheSummary) {
-    SaleSummaryView view({{PointsInProgressPresenter(0), {}}, {OrderPointsPresenter(0), {}, {}, 0}});
+    const auto content = SaleSummaryViewFactory().create(
+        {{PointsInProgressPresenter(0), {}}, {OrderPointsPresenter(0), {}, {}, 0}});
+    auto& view = dynamic_cast<SaleSummaryView&>(*content);
     view.setDelegate(screen->viewDelegate());
     view.tapSendProducts();
     view.tapSendProducts();

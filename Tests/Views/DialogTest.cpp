@@ -1,5 +1,6 @@
 #include "Views/Dialogs/Dialog.hpp"
 #include "Support/FakeHost.hpp"
+#include "Support/HandDrivenAnimating.hpp"
 #include "Support/Stage.hpp"
 
 #include <gmock/gmock.h>
@@ -10,28 +11,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-/// Animations that go on when the test says so.
-class HandDrivenAnimating final : public ViewAnimating {
-public:
-    struct Animation {
-        std::chrono::milliseconds duration;
-        std::function<void(double)> step;
-        std::function<void()> completion;
-
-        void finish() const {
-            step(1);
-            completion();
-        }
-    };
-
-    void animate(std::chrono::milliseconds duration, std::function<void(double)> step,
-                 std::function<void()> completion) override {
-        running.push_back({duration, std::move(step), std::move(completion)});
-    }
-
-    std::vector<Animation> running;
-};
 
 struct DialogTest : ::testing::Test {
     /// An action that tells whether the dialog was still on screen when it ran.

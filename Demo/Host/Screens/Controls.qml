@@ -34,6 +34,9 @@ Rectangle {
                 width: (parent.width - parent.spacing) / 2
             }
         }
+        ControlsPanels {
+            width: parent.width
+        }
         ControlsIcons {
             width: parent.width
         }

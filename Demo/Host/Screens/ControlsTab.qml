@@ -4,9 +4,9 @@ import KelDS
 ControlsSection {
     title: "Tab"
 
-    KelTab {
+    KelTabs {
         width: parent.width
-        text: "En Curso"
+        titles: ["En Curso"]
     }
     ControlsNote {
         text: KelSizes.medium + " high, indicator 3"

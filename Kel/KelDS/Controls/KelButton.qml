@@ -1,31 +1,16 @@
 import QtQuick
-import QtQuick.Controls.Basic
 import KelDS
 
-AbstractButton {
+// Contained: filled with amber. Outlined: a clear button with an amber edge.
+KelPressable {
     id: button
 
     property bool outlined: false
     property string identifier
-    // Whether touching down is enough; else the finger has to leave the button on it.
-    property bool actsOnPress: false
-    property bool showsFocus: button.visualFocus
-
-    // The button was used, be it by touch, by key or by a screen reader.
-    signal activated
 
     objectName: button.identifier
     implicitWidth: Math.max(KelSizes.large, button.implicitContentWidth + 2 * KelSpacing.semi)
-    implicitHeight: KelSizes.medium
-    focusPolicy: Qt.StrongFocus
-    hoverEnabled: false
-    Accessible.role: Accessible.Button
-    Accessible.name: button.text
-    Accessible.onPressAction: button.activated()
-    Keys.onReturnPressed: button.activated()
-    Keys.onEnterPressed: button.activated()
-    onPressed: if (button.actsOnPress) button.activated()
-    onClicked: if (!button.actsOnPress) button.activated()
+    implicitHeight: Math.max(KelSizes.medium, button.implicitContentHeight + KelSpacing.small)
 
     contentItem: KelLabel {
         text: button.text
@@ -40,7 +25,7 @@ AbstractButton {
     }
     background: Rectangle {
         radius: KelRadius.button
-        color: button.outlined ? (button.down ? KelColors.withAlpha(KelColors.primary, KelOpacity.low) : "transparent")
+        color: button.outlined ? "transparent"
              : button.enabled ? KelColors.primary
                               : KelColors.withAlpha(KelColors.highEmphasis, KelOpacity.disabled)
         border.width: button.outlined ? 1.5 : 0
@@ -49,18 +34,18 @@ AbstractButton {
 
         Rectangle {
             anchors.fill: parent
-            visible: button.down && !button.outlined
+            opacity: button.down ? 1 : 0
             radius: parent.radius
-            color: KelColors.withAlpha(KelColors.inkOnPrimary, KelOpacity.low)
+            color: KelColors.withAlpha(button.outlined ? KelColors.primary : KelColors.inkOnPrimary, KelOpacity.low)
+
+            Behavior on opacity {
+                NumberAnimation {
+                    duration: KelMotion.press
+                }
+            }
         }
-        Rectangle {
-            anchors.fill: parent
-            anchors.margins: -5
+        KelFocusRing {
             visible: button.showsFocus
-            radius: parent.radius + 5
-            color: "transparent"
-            border.width: 2
-            border.color: KelColors.highEmphasis
         }
     }
 }

@@ -2,9 +2,14 @@
 
 #include "Checkout/Inputs/TotalAddedProductPointsPresenter.hpp"
 
+#include <utility>
+
 namespace quillet {
 
 namespace {
+
+/// An index of the font sizes.
+constexpr int kPointsSize = 6;
 
 TextWithTagView sentRow(const QString& text, std::uint64_t quantity) {
     return {text, QString::number(quantity), TagColor::success};
@@ -14,17 +19,22 @@ TextWithTagView notSentRow(std::uint64_t quantity) {
     return {QStringLiteral("Productos no enviados:"), QString::number(quantity), TagColor::alert};
 }
 
+std::unique_ptr<PointsLabel> pointsLabel(std::uint64_t points) {
+    return std::make_unique<PointsLabel>(TotalAddedProductPointsPresenter(points), kPointsSize);
+}
+
 std::unique_ptr<ScrollableView> compose(ProductsCheckoutStatusViewController& screen, const QString& cycle,
-                                        std::optional<std::uint64_t> totalPoints, ProductsHeaderView header,
-                                        std::optional<std::vector<Product>> shipped,
-                                        std::optional<std::vector<Product>> unshipped) {
+                                        std::unique_ptr<PointsLabel> points,
+                                        std::unique_ptr<ProductsHeaderView> header,
+                                        std::optional<ExpansionPanel> shipped,
+                                        std::optional<ExpansionPanel> unshipped) {
     auto lists = std::make_unique<ShippingStatusProductsView>(std::move(shipped), std::move(unshipped));
+    lists->setup();
     lists->setDelegate(screen.weakSelf());
     auto status = std::make_unique<ProductsCheckoutStatusView>(
-        cycleLabel(cycle),
-        totalPoints ? std::optional(TotalAddedProductPointsPresenter(*totalPoints).pointsText())
-                    : std::nullopt,
-        std::move(header), std::move(lists));
+        std::make_unique<CycleLabel>(cycle), std::move(points), std::move(header), std::move(lists),
+        std::make_unique<Colors>(), std::make_unique<ButtonFactory>(), std::make_unique<Spacer>(),
+        std::make_unique<Sizer>());
     status->setDelegate(screen.weakSelf());
     auto root = std::make_unique<ScrollableView>();
     root->setContentView(std::move(status));
@@ -35,37 +45,43 @@ std::unique_ptr<ScrollableView> compose(ProductsCheckoutStatusViewController& sc
 
 template <>
 std::unique_ptr<ScrollableView>
-AllProductsAddedFactory::view(const AllProductsAddedFactoryInput& input,
+AllProductsAddedFactory::view(AllProductsAddedFactoryInput input,
                               ProductsCheckoutStatusViewController& viewController) const {
     // This one text carries no colon; that of the partial result does.
-    return compose(viewController, input.cycle, input.totalAddedProductsPoints,
-                   {IconStatus::productsSuccess,
-                    QStringLiteral("Vea los productos que fueron enviados al carrito."),
-                    {sentRow(QStringLiteral("Productos enviados con éxito"), input.addedProductsQuantity)}},
-                   input.products, std::nullopt);
+    return compose(
+        viewController, input.cycle, pointsLabel(input.totalAddedProductsPoints),
+        std::make_unique<ProductsHeaderView>(
+            std::make_unique<IconProductsSuccessView>(),
+            QStringLiteral("Vea los productos que fueron enviados al carrito."),
+            QList{sentRow(QStringLiteral("Productos enviados con éxito"), input.addedProductsQuantity)}),
+        ProductsViewFactory::shippedProductsView(std::move(input.products)), std::nullopt);
 }
 
 template <>
 std::unique_ptr<ScrollableView>
-ProductsPartiallyAddedFactory::view(const ProductsPartiallyAddedFactoryInput& input,
+ProductsPartiallyAddedFactory::view(ProductsPartiallyAddedFactoryInput input,
                                     ProductsCheckoutStatusViewController& viewController) const {
-    return compose(viewController, input.cycle, input.totalAddedProductPoints,
-                   {IconStatus::productsFailure,
-                    QStringLiteral("Algunos productos no fueron enviados al carrito. ¡Vea!"),
-                    {notSentRow(input.notAddedProductsQuantity),
-                     sentRow(QStringLiteral("Productos enviados con éxito:"), input.addedProductsQuantity)}},
-                   input.addedProducts, input.notAddedProducts);
+    return compose(
+        viewController, input.cycle, pointsLabel(input.totalAddedProductPoints),
+        std::make_unique<ProductsHeaderView>(
+            std::make_unique<IconProductsFailureView>(),
+            QStringLiteral("Algunos productos no fueron enviados al carrito. ¡Vea!"),
+            QList{notSentRow(input.notAddedProductsQuantity),
+                  sentRow(QStringLiteral("Productos enviados con éxito:"), input.addedProductsQuantity)}),
+        ProductsViewFactory::shippedProductsView(std::move(input.addedProducts)),
+        ProductsViewFactory::unshippedProductsView(std::move(input.notAddedProducts)));
 }
 
 template <>
 std::unique_ptr<ScrollableView>
-NoProductAddedFactory::view(const NoProductAddedFactoryInput& input,
+NoProductAddedFactory::view(NoProductAddedFactoryInput input,
                             ProductsCheckoutStatusViewController& viewController) const {
-    return compose(viewController, input.cycle, std::nullopt,
-                   {IconStatus::warning,
-                    QStringLiteral("Infelizmente niguno de los productos fue enviado al carrito."),
-                    {notSentRow(input.notAddedProductsQuantity)}},
-                   std::nullopt, input.products);
+    return compose(viewController, input.cycle, nullptr,
+                   std::make_unique<ProductsHeaderView>(
+                       std::make_unique<IconWarningView>(),
+                       QStringLiteral("Infelizmente niguno de los productos fue enviado al carrito."),
+                       QList{notSentRow(input.notAddedProductsQuantity)}),
+                   std::nullopt, ProductsViewFactory::unshippedProductsView(std::move(input.products)));
 }
 
 } // namespace quillet

@@ -15,7 +15,7 @@ class ResultViewCreating {
 public:
     virtual ~ResultViewCreating() = default;
     [[nodiscard]] virtual std::unique_ptr<ScrollableView>
-    view(const Input& input, ProductsCheckoutStatusViewController& viewController) const = 0;
+    view(Input input, ProductsCheckoutStatusViewController& viewController) const = 0;
     /// The host's navigation, for the screen.
     [[nodiscard]] virtual std::weak_ptr<QuilletNavigationDelegate> navigationDelegate() const = 0;
 };
@@ -33,7 +33,7 @@ public:
         : navigationDelegate_(std::move(navigationDelegate)) {}
 
     [[nodiscard]] std::unique_ptr<ScrollableView>
-    view(const Input& input, ProductsCheckoutStatusViewController& viewController) const override;
+    view(Input input, ProductsCheckoutStatusViewController& viewController) const override;
     [[nodiscard]] std::weak_ptr<QuilletNavigationDelegate> navigationDelegate() const override {
         return navigationDelegate_;
     }

@@ -17,11 +17,11 @@ QString cycleText(const CheckoutResponse& response) {
 }
 
 template <typename Creating, typename Input>
-void show(const Creating& factory, const Input& input, const ViewController& from) {
+void show(const Creating& factory, Input input, const ViewController& from) {
     auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
         std::make_unique<LoadingDisplayer>(std::make_unique<LoadingView>()),
         kel::KelAnalyticsManager::shared());
-    screen->setView(factory.view(input, *screen));
+    screen->setView(factory.view(std::move(input), *screen));
     screen->setNavigationDelegate(factory.navigationDelegate());
     screen->setHidesBackButton(true);
     const auto origin = from.originViewController();

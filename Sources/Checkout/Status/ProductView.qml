@@ -10,6 +10,7 @@ Item {
     required property string code
     required property string points
     required property bool hasReason
+    required property string reasonTag
     required property bool first
 
     // A number of twenty digits leaves no room beside its badge: the texts then go below.
@@ -88,6 +89,7 @@ Item {
                 id: tag
 
                 y: 2
+                text: product.reasonTag
             }
         }
     }

@@ -7,12 +7,19 @@
 namespace quillet {
 
 ProductsCheckoutStatusView::ProductsCheckoutStatusView(
-    Captioned cycleLabel, std::optional<QString> totalAddedProductPointsLabel, ProductsHeaderView headerView,
-    std::unique_ptr<ShippingStatusProductsView> shippingStatusProductsView)
+    std::unique_ptr<CycleLabel> cycleLabel, std::unique_ptr<PointsLabel> totalAddedProductPointsLabel,
+    std::unique_ptr<ProductsHeaderView> headerView,
+    std::unique_ptr<ShippingStatusProductsView> shippingStatusProductsView, std::unique_ptr<Coloring> colors,
+    std::unique_ptr<ButtonCreating> buttonFactory, std::unique_ptr<Spacing> spacing,
+    std::unique_ptr<Sizing> sizing)
     : cycleLabel_(std::move(cycleLabel)),
       totalAddedProductPointsLabel_(std::move(totalAddedProductPointsLabel)),
       headerView_(std::move(headerView)),
-      shippingStatusProductsView_(std::move(shippingStatusProductsView)) {}
+      shippingStatusProductsView_(std::move(shippingStatusProductsView)),
+      colors_(std::move(colors)),
+      buttonFactory_(std::move(buttonFactory)),
+      spacing_(std::move(spacing)),
+      sizing_(std::move(sizing)) {}
 
 void ProductsCheckoutStatusView::setDelegate(std::weak_ptr<ProductsCheckoutStatusViewDelegate> delegate) {
     delegate_ = std::move(delegate);
@@ -26,12 +33,8 @@ QString ProductsCheckoutStatusView::reminder() const {
     return Localization::youCanKeepCollectingSales();
 }
 
-QString ProductsCheckoutStatusView::goToCart() const {
-    return Localization::goToCart();
-}
-
-QString ProductsCheckoutStatusView::goToCartIdentifier() const {
-    return Localization::goToCartButton();
+Button ProductsCheckoutStatusView::goToCartButton() const {
+    return buttonFactory_->contained(Localization::goToCart(), Localization::goToCartButton());
 }
 
 void ProductsCheckoutStatusView::tapGoToCart() {

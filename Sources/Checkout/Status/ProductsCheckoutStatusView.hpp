@@ -2,12 +2,11 @@
 
 #include "Checkout/Status/ProductsHeaderView.hpp"
 #include "Checkout/Status/ShippingStatusProductsView.hpp"
-#include "Views/Labels/Captioned.hpp"
-
-#include <QObject>
+#include "Views/Labels/CycleLabel.hpp"
+#include "Views/Labels/PointsLabel.hpp"
+#include "Views/Tokens/ButtonCreating.hpp"
 
 #include <memory>
-#include <optional>
 
 namespace quillet {
 
@@ -20,48 +19,61 @@ public:
 
 /// The content of a result screen: cycle, points sent in total, header card, the two sections, reminder and
 /// button.
-class ProductsCheckoutStatusView final : public QObject {
+class ProductsCheckoutStatusView final : public ThemedView {
     Q_OBJECT
-    Q_PROPERTY(quillet::Captioned cycle READ cycle CONSTANT FINAL)
-    Q_PROPERTY(QString totalAddedProductPoints READ totalAddedProductPoints CONSTANT FINAL)
-    Q_PROPERTY(int icon READ icon CONSTANT FINAL)
-    Q_PROPERTY(QString mainMessage READ mainMessage CONSTANT FINAL)
-    Q_PROPERTY(QList<quillet::TextWithTagView> counters READ counters CONSTANT FINAL)
+    Q_PROPERTY(QObject* cycleLabel READ cycleLabel CONSTANT FINAL)
+    Q_PROPERTY(QObject* totalAddedProductPointsLabel READ totalAddedProductPointsLabel CONSTANT FINAL)
+    Q_PROPERTY(QObject* headerView READ headerView CONSTANT FINAL)
     Q_PROPERTY(QAbstractItemModel* products READ products CONSTANT FINAL)
     Q_PROPERTY(QString remember READ remember CONSTANT FINAL)
     Q_PROPERTY(QString reminder READ reminder CONSTANT FINAL)
-    Q_PROPERTY(QString goToCart READ goToCart CONSTANT FINAL)
-    Q_PROPERTY(QString goToCartIdentifier READ goToCartIdentifier CONSTANT FINAL)
+    Q_PROPERTY(quillet::Button goToCartButton READ goToCartButton CONSTANT FINAL)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY themeChanged FINAL)
+    Q_PROPERTY(int sideSpacing READ sideSpacing CONSTANT FINAL)
+    Q_PROPERTY(int partSpacing READ partSpacing CONSTANT FINAL)
+    Q_PROPERTY(int leastRowHeight READ leastRowHeight CONSTANT FINAL)
 
 public:
-    ProductsCheckoutStatusView(Captioned cycleLabel, std::optional<QString> totalAddedProductPointsLabel,
-                               ProductsHeaderView headerView,
-                               std::unique_ptr<ShippingStatusProductsView> shippingStatusProductsView);
+    /// Cycle and points may be absent.
+    ProductsCheckoutStatusView(std::unique_ptr<CycleLabel> cycleLabel,
+                               std::unique_ptr<PointsLabel> totalAddedProductPointsLabel,
+                               std::unique_ptr<ProductsHeaderView> headerView,
+                               std::unique_ptr<ShippingStatusProductsView> shippingStatusProductsView,
+                               std::unique_ptr<Coloring> colors,
+                               std::unique_ptr<ButtonCreating> buttonFactory,
+                               std::unique_ptr<Spacing> spacing, std::unique_ptr<Sizing> sizing);
 
     void setDelegate(std::weak_ptr<ProductsCheckoutStatusViewDelegate> delegate);
 
-    [[nodiscard]] Captioned cycle() const { return cycleLabel_; }
-    /// Empty both where the result has no such label and where there are no points to tell of.
-    [[nodiscard]] QString totalAddedProductPoints() const {
-        return totalAddedProductPointsLabel_.value_or(QString());
+    [[nodiscard]] CycleLabel* cycleLabel() const { return cycleLabel_.get(); }
+    [[nodiscard]] PointsLabel* totalAddedProductPointsLabel() const {
+        return totalAddedProductPointsLabel_.get();
     }
-    [[nodiscard]] int icon() const { return static_cast<int>(headerView_.icon); }
-    [[nodiscard]] QString mainMessage() const { return headerView_.mainMessage; }
-    [[nodiscard]] QList<TextWithTagView> counters() const { return headerView_.textWithTagViews; }
-    [[nodiscard]] QAbstractItemModel* products() const { return shippingStatusProductsView_.get(); }
+    [[nodiscard]] ProductsHeaderView* headerView() const { return headerView_.get(); }
+    [[nodiscard]] ShippingStatusProductsView* products() const { return shippingStatusProductsView_.get(); }
     [[nodiscard]] QString remember() const;
     [[nodiscard]] QString reminder() const;
-    [[nodiscard]] QString goToCart() const;
-    [[nodiscard]] QString goToCartIdentifier() const;
+    [[nodiscard]] Button goToCartButton() const;
+    [[nodiscard]] QColor backgroundColor() const { return colors_->background(); }
+    /// Beside the parts, and between them from the header card on.
+    [[nodiscard]] int sideSpacing() const { return spacing_->small(); }
+    /// Above and below the labels at the top.
+    [[nodiscard]] int partSpacing() const { return spacing_->semi(); }
+    /// No product's row is lower than its tile with the spacing around it.
+    [[nodiscard]] int leastRowHeight() const { return sizing_->semiX() + 2 * spacing_->small(); }
 
     Q_INVOKABLE void tapGoToCart();
 
 private:
     std::weak_ptr<ProductsCheckoutStatusViewDelegate> delegate_;
-    Captioned cycleLabel_;
-    std::optional<QString> totalAddedProductPointsLabel_;
-    ProductsHeaderView headerView_;
+    std::unique_ptr<CycleLabel> cycleLabel_;
+    std::unique_ptr<PointsLabel> totalAddedProductPointsLabel_;
+    std::unique_ptr<ProductsHeaderView> headerView_;
     std::unique_ptr<ShippingStatusProductsView> shippingStatusProductsView_;
+    std::unique_ptr<Coloring> colors_;
+    std::unique_ptr<ButtonCreating> buttonFactory_;
+    std::unique_ptr<Spacing> spacing_;
+    std::unique_ptr<Sizing> sizing_;
 };
 
 } // namespace quillet

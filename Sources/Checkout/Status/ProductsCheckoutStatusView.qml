@@ -18,6 +18,11 @@ ListView {
             list.positionViewAtBeginning()
         }
     }
+    // How many products there is room for below a row.
+    function roomBelow(row) {
+        const room = list.contentY + list.height - row.y - KelSizes.mediumX
+        return Math.max(0, Math.ceil(room / list.status.leastRowHeight))
+    }
 
     boundsBehavior: Flickable.StopAtBounds
     // Rows that are being made ahead of time must not be taken away meanwhile, as closing a section does.
@@ -25,7 +30,9 @@ ListView {
     model: list.status.products
     delegate: ProductsRow {
         width: ListView.view.width
-        onHeadTapped: row => list.status.products.toggle(row)
+        sideSpacing: list.status.sideSpacing
+        reveal: list.status.products.reveal
+        onHeadTapped: list.status.products.toggle(index, list.roomBelow(this))
     }
     header: ProductsHeaderView {
         width: ListView.view.width
@@ -48,8 +55,7 @@ ListView {
             width: parent.width
             remember: list.status.remember
             reminder: list.status.reminder
-            buttonText: list.status.goToCart
-            buttonIdentifier: list.status.goToCartIdentifier
+            button: list.status.goToCartButton
             onTapped: list.status.tapGoToCart()
         }
     }

@@ -1,38 +1,54 @@
 #pragma once
 
+#include "Checkout/Status/IconStatusProductsView.hpp"
+#include "Checkout/Status/TextWithTagView.hpp"
+#include "Views/Tokens/FontsCreating.hpp"
+#include "Views/Tokens/Spacing.hpp"
+
 #include <QList>
-#include <QObject>
-#include <QString>
+
+#include <memory>
 
 namespace quillet {
 
-/// What a counter row's tag says by its colour.
-enum class TagColor { success, alert };
-
-/// A counter row: a text, and its number in a coloured tag.
-class TextWithTagView {
-    Q_GADGET
-    Q_PROPERTY(QString leftText MEMBER leftText CONSTANT FINAL)
-    Q_PROPERTY(QString tagText MEMBER tagText CONSTANT FINAL)
-    Q_PROPERTY(bool alert READ isAlert CONSTANT FINAL)
+/// The card at the top of a result: icon, main message, and below a divider the counter rows.
+class ProductsHeaderView final : public ThemedView {
+    Q_OBJECT
+    Q_PROPERTY(QObject* iconView READ iconView CONSTANT FINAL)
+    Q_PROPERTY(QString mainMessage READ mainMessage CONSTANT FINAL)
+    Q_PROPERTY(QFont mainMessageFont READ mainMessageFont CONSTANT FINAL)
+    Q_PROPERTY(QColor mainMessageColor READ mainMessageColor NOTIFY themeChanged FINAL)
+    Q_PROPERTY(int partSpacing READ partSpacing CONSTANT FINAL)
+    Q_PROPERTY(QList<quillet::TextWithTagView> textWithTagViews READ textWithTagViews CONSTANT FINAL)
 
 public:
-    QString leftText;
-    QString tagText;
-    TagColor tagColor = TagColor::success;
+    ProductsHeaderView(std::unique_ptr<IconStatusProductsView> iconView, QString mainMessage,
+                       QList<TextWithTagView> textWithTagViews,
+                       std::unique_ptr<FontsCreating> fonts = std::make_unique<FontsCreator>(),
+                       std::unique_ptr<Coloring> colors = std::make_unique<Colors>(),
+                       std::unique_ptr<Spacing> spacing = std::make_unique<Spacer>())
+        : fonts_(std::move(fonts)),
+          colors_(std::move(colors)),
+          spacing_(std::move(spacing)),
+          mainMessage_(std::move(mainMessage)),
+          iconView_(std::move(iconView)),
+          textWithTagViews_(std::move(textWithTagViews)) {}
 
-    [[nodiscard]] bool isAlert() const { return tagColor == TagColor::alert; }
-    bool operator==(const TextWithTagView&) const = default;
-};
+    [[nodiscard]] IconStatusProductsView* iconView() const { return iconView_.get(); }
+    [[nodiscard]] const QString& mainMessage() const { return mainMessage_; }
+    [[nodiscard]] QFont mainMessageFont() const { return fonts_->font(6, 1); }
+    [[nodiscard]] QColor mainMessageColor() const { return colors_->highEmphasis(); }
+    /// Around the icon, the message and the divider.
+    [[nodiscard]] int partSpacing() const { return spacing_->small(); }
+    [[nodiscard]] const QList<TextWithTagView>& textWithTagViews() const { return textWithTagViews_; }
 
-/// Which icon a result shows.
-enum class IconStatus { productsSuccess, productsFailure, warning };
-
-/// The card at the top of a result: icon, main message and counter rows.
-struct ProductsHeaderView {
-    IconStatus icon = IconStatus::productsSuccess;
-    QString mainMessage;
-    QList<TextWithTagView> textWithTagViews;
+private:
+    std::unique_ptr<FontsCreating> fonts_;
+    std::unique_ptr<Coloring> colors_;
+    std::unique_ptr<Spacing> spacing_;
+    QString mainMessage_;
+    std::unique_ptr<IconStatusProductsView> iconView_;
+    QList<TextWithTagView> textWithTagViews_;
 };
 
 } // namespace quillet

@@ -1,40 +1,39 @@
 import QtQuick
 import KelDS
+import Quillet.Views
 import Quillet.Checkout
 
 Item {
     id: header
 
     required property var status
+    readonly property var view: header.status.headerView
 
-    height: column.height + KelSpacing.semi + KelSpacing.small
+    height: column.height + header.status.partSpacing + header.status.sideSpacing
 
     Column {
         id: column
 
-        x: KelSpacing.small
-        y: KelSpacing.semi
-        width: parent.width - 2 * KelSpacing.small
+        x: header.status.sideSpacing
+        y: header.status.partSpacing
+        width: parent.width - 2 * header.status.sideSpacing
 
-        KelLabel {
-            text: header.status.cycle.caption + header.status.cycle.value
-            size: 4
-            weight: 2
-        }
-        KelLabel {
+        LabelView {
             width: parent.width
-            visible: text !== ""
+            label: header.status.cycleLabel
+            Accessible.role: Accessible.Heading
+        }
+        LabelView {
+            width: parent.width
             topPadding: KelSpacing.tiny
-            text: header.status.totalAddedProductPoints
-            weight: 1
-            color: KelColors.success
-            wrapMode: Text.Wrap
+            label: header.status.totalAddedProductPointsLabel
         }
         Item {
             width: 1
-            height: KelSpacing.semi
+            height: header.status.partSpacing
         }
         KelCard {
+            padding: header.view.partSpacing
             width: parent.width
 
             Column {
@@ -42,15 +41,16 @@ Item {
 
                 StatusIcon {
                     anchors.horizontalCenter: parent.horizontalCenter
-                    status: header.status.icon
+                    status: header.view.iconView
                 }
                 KelLabel {
                     x: KelSpacing.tiny
                     width: parent.width - 2 * KelSpacing.tiny
-                    topPadding: KelSpacing.small
-                    bottomPadding: KelSpacing.small
-                    text: header.status.mainMessage
-                    weight: 1
+                    topPadding: header.view.partSpacing
+                    bottomPadding: header.view.partSpacing
+                    text: header.view.mainMessage
+                    font: header.view.mainMessageFont
+                    color: header.view.mainMessageColor
                     lineHeight: 1.25
                     wrapMode: Text.Wrap
                     horizontalAlignment: Text.AlignHCenter
@@ -63,7 +63,7 @@ Item {
                     height: KelSpacing.micro
                 }
                 Repeater {
-                    model: header.status.counters
+                    model: header.view.textWithTagViews
 
                     Item {
                         id: counter
@@ -88,7 +88,7 @@ Item {
                             anchors.right: parent.right
                             anchors.verticalCenter: parent.verticalCenter
                             text: counter.modelData.tagText
-                            colorIndex: counter.modelData.alert ? 3 : 1
+                            colorIndex: counter.modelData.tagColorIndex
                         }
                     }
                 }

@@ -5,46 +5,46 @@ import QtQuick
 import KelDS
 import Quillet.Checkout
 
-// One row of the product list. The panel's outline runs round all rows of a section, so each row draws its slice of it:
-// a frame that reaches out of the row where the panel goes on, cut off at the row's edge.
+// One row of the product list, with its slice of the section's outline. While its section opens or closes, the row shows
+// the upper part of itself.
 Item {
     id: row
 
     required property int index
     required property bool isHead
     required property string title
-    required property bool sent
+    required property color tone
+    required property color stroke
+    required property color fill
     required property bool expanded
     required property bool last
     required property bool first
+    required property bool moving
     required property string quantity
     required property string description
     required property string code
     required property string points
     required property bool hasReason
+    required property string reasonTag
 
-    signal headTapped(int row)
+    property int sideSpacing
+    property real reveal: 1
 
-    readonly property color tone: row.sent ? KelColors.success : KelColors.alert
-    readonly property int gap: row.last ? KelSpacing.small : 0
+    signal headTapped
 
-    height: content.height + row.gap
+    height: frame.height + (row.last ? row.sideSpacing : 0)
 
-    Item {
-        x: KelSpacing.small
-        width: parent.width - 2 * KelSpacing.small
-        height: content.height
-        clip: true
+    KelPanelFrame {
+        id: frame
 
-        Rectangle {
-            y: row.isHead ? 0 : -KelRadius.large
-            width: parent.width
-            height: parent.height + (row.isHead ? 0 : KelRadius.large) + (row.last ? 0 : KelRadius.large)
-            radius: KelRadius.large
-            color: "transparent"
-            border.width: 1
-            border.color: row.sent ? PanelColors.sent : PanelColors.notSent
-        }
+        x: row.sideSpacing
+        width: parent.width - 2 * row.sideSpacing
+        height: Math.round(content.height * (row.moving ? row.reveal : 1))
+        stroke: row.stroke
+        fill: row.fill
+        isTop: row.isHead
+        isBottom: row.last
+
         Loader {
             id: content
 
@@ -55,11 +55,11 @@ Item {
     Component {
         id: head
 
-        PanelHead {
+        KelPanelHead {
             title: row.title
             tone: row.tone
             expanded: row.expanded
-            onClicked: row.headTapped(row.index)
+            onActivated: row.headTapped()
         }
     }
     Component {
@@ -71,6 +71,7 @@ Item {
             code: row.code
             points: row.points
             hasReason: row.hasReason
+            reasonTag: row.reasonTag
             first: row.first
         }
     }

@@ -1,30 +1,62 @@
 #include "Checkout/Status/ShippingStatusProductsView.hpp"
 
-#include "Resources/Localization.hpp"
+#include "Checkout/Status/ProductRowData.hpp"
+#include "KelDS/KelAppearance.hpp"
 
+#include <QPointer>
+
+#include <algorithm>
 #include <utility>
 
 namespace quillet {
 
-ShippingStatusProductsView::ShippingStatusProductsView(std::optional<std::vector<Product>> shipped,
-                                                       std::optional<std::vector<Product>> unshipped) {
-    if (shipped) {
-        sections_.push_back({.sent = true, .products = std::move(*shipped)});
-    }
-    if (unshipped) {
-        sections_.push_back({.sent = false, .products = std::move(*unshipped)});
-    }
+namespace {
+
+constexpr std::chrono::milliseconds kMove{kel::motion::panel};
+
+double easeOut(double progress) {
+    const double left = 1 - progress;
+    return 1 - left * left * left;
+}
+
+} // namespace
+
+ShippingStatusProductsView::ShippingStatusProductsView(std::optional<ExpansionPanel> shipped,
+                                                       std::optional<ExpansionPanel> unshipped,
+                                                       std::shared_ptr<ViewAnimating> viewAnimating)
+    : shipped_(std::move(shipped)),
+      unshipped_(std::move(unshipped)),
+      viewAnimating_(std::move(viewAnimating)) {
+    connect(&kel::KelAppearance::current(), &kel::KelAppearance::changed, this, [this] {
+        if (const int rows = rowCount(); rows > 0) {
+            Q_EMIT dataChanged(index(0), index(rows - 1), {ToneRole});
+        }
+    });
 }
 
 void ShippingStatusProductsView::setDelegate(std::weak_ptr<ShippingStatusProductsViewDelegate> delegate) {
     delegate_ = std::move(delegate);
 }
 
+void ShippingStatusProductsView::setup() {
+    using Delegate = ShippingStatusProductsViewDelegate;
+    beginResetModel();
+    const auto stack = [this](std::optional<ExpansionPanel>& panel, Notice didExpand, Notice didHide) {
+        if (panel) {
+            sections_.push_back({*std::exchange(panel, std::nullopt), didExpand, didHide});
+            sections_.back().shown = sections_.back().panel.expanded ? sections_.back().products() : 0;
+        }
+    };
+    stack(shipped_, &Delegate::didExpandProductsSent, &Delegate::didHideProductsSent);
+    stack(unshipped_, &Delegate::didExpandProductsNotSent, &Delegate::didHideProductsNotSent);
+    endResetModel();
+}
+
 int ShippingStatusProductsView::rowCount(const QModelIndex& parent) const {
     int rows = 0;
     if (!parent.isValid()) {
         for (const Section& section : sections_) {
-            rows += section.rows();
+            rows += 1 + section.shown;
         }
     }
     return rows;
@@ -32,12 +64,23 @@ int ShippingStatusProductsView::rowCount(const QModelIndex& parent) const {
 
 ShippingStatusProductsView::Position ShippingStatusProductsView::position(int row) const {
     for (const Section& section : sections_) {
-        if (row < section.rows()) {
+        if (row <= section.shown) {
             return {&section, row};
         }
-        row -= section.rows();
+        row -= 1 + section.shown;
     }
     return {nullptr, 0};
+}
+
+int ShippingStatusProductsView::headOf(const Section& section) const {
+    int head = 0;
+    for (const Section& above : sections_) {
+        if (&above == &section) {
+            break;
+        }
+        head += 1 + above.shown;
+    }
+    return head;
 }
 
 QVariant ShippingStatusProductsView::data(const QModelIndex& index, int role) const {
@@ -48,94 +91,132 @@ QVariant ShippingStatusProductsView::data(const QModelIndex& index, int role) co
     switch (role) {
     case IsHeadRole:
         return row == 0;
-    case SentRole:
-        return section->sent;
+    case TitleRole:
+        return section->panel.title;
+    case ToneRole:
+        return section->panel.tone();
+    case StrokeRole:
+        return section->panel.stroke;
+    case FillRole:
+        return section->panel.fill;
     case ExpandedRole:
-        return section->expanded;
+        return section->panel.expanded;
     case LastRole:
-        return row == section->rows() - 1;
+        return row == section->shown;
     case FirstRole:
         return row == 1;
+    case MovingRole:
+        return section == moving_ && row > 0;
     default:
         break;
     }
-    return row == 0 ? headData(*section, role)
-                    : productData(*section, section->products[static_cast<std::size_t>(row - 1)], role);
-}
-
-QVariant ShippingStatusProductsView::headData(const Section& section, int role) {
-    switch (role) {
-    case TitleRole:
-        return section.sent ? QStringLiteral("Productos enviados") : QStringLiteral("Productos no enviados");
-    case HasReasonRole: return false;
-    // A row of the list has a place for every text, whether it is a head or a product.
-    case QuantityRole:
-    case DescriptionRole:
-    case CodeRole:
-    case PointsRole: return QString();
-    default: return {};
-    }
-}
-
-QVariant ShippingStatusProductsView::productData(const Section& section, const Product& product, int role) {
-    switch (role) {
-    case QuantityRole:
-        return QString::number(product.quantity);
-    case DescriptionRole:
-        return QString::fromStdString(product.description);
-    case CodeRole:
-        return Localization::code(product.productCode);
-    case PointsRole:
-        return Localization::pointsCount(product.totalPoints);
-    case HasReasonRole:
-        return !section.sent;
-    default:
-        return QString();
-    }
+    return row == 0
+               ? headRowData(role)
+               : productRowData(section->panel.content.productViews[static_cast<std::size_t>(row - 1)], role);
 }
 
 QHash<int, QByteArray> ShippingStatusProductsView::roleNames() const {
     return {
-        {IsHeadRole, "isHead"},       {TitleRole, "title"},
-        {SentRole, "sent"},           {ExpandedRole, "expanded"},
-        {LastRole, "last"},           {FirstRole, "first"},
-        {QuantityRole, "quantity"},   {DescriptionRole, "description"},
-        {CodeRole, "code"},           {PointsRole, "points"},
+        {IsHeadRole, "isHead"},
+        {TitleRole, "title"},
+        {ToneRole, "tone"},
+        {StrokeRole, "stroke"},
+        {FillRole, "fill"},
+        {ExpandedRole, "expanded"},
+        {LastRole, "last"},
+        {FirstRole, "first"},
+        {MovingRole, "moving"},
+        {QuantityRole, "quantity"},
+        {DescriptionRole, "description"},
+        {CodeRole, "code"},
+        {PointsRole, "points"},
         {HasReasonRole, "hasReason"},
+        {ReasonTagRole, "reasonTag"},
     };
 }
 
-void ShippingStatusProductsView::toggle(int row) {
-    int head = 0;
-    for (Section& section : sections_) {
-        if (head == row) {
-            const int products = static_cast<int>(section.products.size());
-            if (products == 0) {
-                section.expanded = !section.expanded;
-            } else if (section.expanded) {
-                beginRemoveRows({}, head + 1, head + products);
-                section.expanded = false;
-                endRemoveRows();
-            } else {
-                beginInsertRows({}, head + 1, head + products);
-                section.expanded = true;
-                endInsertRows();
-            }
-            Q_EMIT dataChanged(index(head), index(head), {ExpandedRole, LastRole});
-            notify(section);
-            return;
-        }
-        head += section.rows();
+void ShippingStatusProductsView::toggle(int row, int rowsInView) {
+    if (moving_) {
+        // What the row number means depends on the rows that are in the list, so the section is found first.
+        const auto [section, below] = position(row);
+        row = section && below == 0 ? (finishMove(), headOf(*section)) : -1;
+    }
+    const auto found = std::ranges::find_if(sections_, [&](const Section& s) { return headOf(s) == row; });
+    if (found == sections_.end()) {
+        return;
+    }
+    Section& section = *found;
+    section.panel.expanded = !section.panel.expanded;
+    const bool expands = section.panel.expanded;
+    const bool moves = !kel::KelAppearance::current().hasReducedMotion() && section.products() > 0;
+    const int inView = std::clamp(rowsInView, 0, section.products());
+    if (moves) {
+        moving_ = &section;
+        setReveal(expands ? 0 : 1);
+        setShown(section, inView);
+    } else {
+        setShown(section, expands ? section.products() : 0);
+    }
+    Q_EMIT dataChanged(index(row), index(row + section.shown), {ExpandedRole, LastRole, MovingRole});
+    if (const auto delegate = delegate_.lock()) {
+        ((*delegate).*(expands ? section.didExpand : section.didHide))();
+    }
+    if (moves) {
+        move(section);
     }
 }
 
-void ShippingStatusProductsView::notify(const Section& section) const {
-    if (const auto delegate = delegate_.lock()) {
-        if (section.sent) {
-            section.expanded ? delegate->didExpandProductsSent() : delegate->didHideProductsSent();
+void ShippingStatusProductsView::setShown(Section& section, int shown) {
+    const int head = headOf(section);
+    if (shown > section.shown) {
+        beginInsertRows({}, head + section.shown + 1, head + shown);
+        section.shown = shown;
+        endInsertRows();
+    } else if (shown < section.shown) {
+        beginRemoveRows({}, head + shown + 1, head + section.shown);
+        section.shown = shown;
+        endRemoveRows();
+    }
+}
+
+void ShippingStatusProductsView::setReveal(double reveal) {
+    if (reveal != reveal_) {
+        reveal_ = reveal;
+        Q_EMIT revealChanged();
+    }
+}
+
+void ShippingStatusProductsView::move(Section& section) {
+    const QPointer<ShippingStatusProductsView> self(this);
+    const bool expands = section.panel.expanded;
+    const int number = ++moves_;
+    viewAnimating_->animate(
+        kMove,
+        [self, expands, number](double progress) {
+            if (self && self->moving_ && self->moves_ == number) {
+                self->setReveal(expands ? easeOut(progress) : 1 - easeOut(progress));
+            }
+        },
+        [self, number] {
+            if (self && self->moves_ == number) {
+                self->finishMove();
+            }
+        });
+}
+
+void ShippingStatusProductsView::finishMove() {
+    if (Section* section = std::exchange(moving_, nullptr)) {
+        const int head = headOf(*section);
+        const int moved = section->shown;
+        if (section->panel.expanded) {
+            setReveal(1);
+            setShown(*section, section->products());
         } else {
-            section.expanded ? delegate->didExpandProductsNotSent() : delegate->didHideProductsNotSent();
+            setShown(*section, 0);
+            setReveal(1);
         }
+        Q_EMIT dataChanged(index(head), index(head + std::min(moved, section->shown)),
+                           {LastRole, MovingRole});
     }
 }
 

@@ -4,7 +4,8 @@
 // everything else.
 #include <QAbstractListModel>
 
-#include "Models/Product.hpp"
+#include "Checkout/Status/ProductsViewFactory.hpp"
+#include "Views/Dialogs/ViewAnimating.hpp"
 
 #include <memory>
 #include <optional>
@@ -24,47 +25,70 @@ public:
 
 /// The two sections of products, flattened into the rows of one list: a section's head, and below it a row a
 /// product while it is open. A row's values are worked out when it comes into view, so ten thousand products
-/// cost no more to show than ten. Sections start open. Main thread only.
+/// cost no more to show than ten. Sections start open.
+///
+/// A section opens and closes in 200 ms, in which only the rows that can be seen take part: those further
+/// down are put into the list after it has opened, and taken out before it closes. With reduced motion it is
+/// open or closed at once. Main thread only.
 class ShippingStatusProductsView final : public QAbstractListModel {
     Q_OBJECT
+    /// How much of their height the moving rows show, from 0 to 1.
+    Q_PROPERTY(double reveal READ reveal NOTIFY revealChanged FINAL)
 
 public:
     enum Role {
         IsHeadRole = Qt::UserRole,
         TitleRole,
-        SentRole,
+        ToneRole,
+        StrokeRole,
+        FillRole,
         ExpandedRole,
         /// Whether the row is the last of its section.
         LastRole,
         /// Whether the row is the first product of its section.
         FirstRole,
+        /// Whether the row is being opened or closed.
+        MovingRole,
         QuantityRole,
         DescriptionRole,
         CodeRole,
         PointsRole,
         HasReasonRole,
+        ReasonTagRole,
     };
 
     /// A list that is absent has no section; an empty one has a section without products.
-    ShippingStatusProductsView(std::optional<std::vector<Product>> shipped,
-                               std::optional<std::vector<Product>> unshipped);
+    ShippingStatusProductsView(
+        std::optional<ExpansionPanel> shipped, std::optional<ExpansionPanel> unshipped,
+        std::shared_ptr<ViewAnimating> viewAnimating = std::make_shared<ViewAnimatingWrapper>());
 
     void setDelegate(std::weak_ptr<ShippingStatusProductsViewDelegate> delegate);
+    /// Stacks the sections that are present, the shipped one first, and from then on tells the delegate of
+    /// taps.
+    void setup();
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+    [[nodiscard]] double reveal() const { return reveal_; }
 
-    /// Opens or closes the section whose head is at `row`; other rows are ignored.
-    Q_INVOKABLE void toggle(int row);
+    /// Opens or closes the section whose head is at `row`; other rows are ignored. `rowsInView` is how many
+    /// rows below the head there is room for on the screen.
+    Q_INVOKABLE void toggle(int row, int rowsInView);
+
+Q_SIGNALS:
+    void revealChanged();
 
 private:
+    using Notice = void (ShippingStatusProductsViewDelegate::*)();
     struct Section {
-        bool sent;
-        std::vector<Product> products;
-        bool expanded = true;
+        ExpansionPanel panel;
+        Notice didExpand;
+        Notice didHide;
+        /// How many of the panel's rows are in the list.
+        int shown = 0;
 
-        [[nodiscard]] int rows() const { return 1 + (expanded ? static_cast<int>(products.size()) : 0); }
+        [[nodiscard]] int products() const { return static_cast<int>(panel.content.productViews.size()); }
     };
     struct Position {
         const Section* section;
@@ -72,12 +96,21 @@ private:
         int row;
     };
     [[nodiscard]] Position position(int row) const;
-    [[nodiscard]] static QVariant headData(const Section& section, int role);
-    [[nodiscard]] static QVariant productData(const Section& section, const Product& product, int role);
-    void notify(const Section& section) const;
+    [[nodiscard]] int headOf(const Section& section) const;
+    void setShown(Section& section, int shown);
+    void setReveal(double reveal);
+    void move(Section& section);
+    void finishMove();
 
+    std::optional<ExpansionPanel> shipped_;
+    std::optional<ExpansionPanel> unshipped_;
     std::vector<Section> sections_;
+    std::shared_ptr<ViewAnimating> viewAnimating_;
     std::weak_ptr<ShippingStatusProductsViewDelegate> delegate_;
+    Section* moving_ = nullptr;
+    /// Tells the animation in force from those that were overtaken.
+    int moves_ = 0;
+    double reveal_ = 1;
 };
 
 } // namespace quillet

@@ -1,25 +1,33 @@
 import QtQuick
 import KelDS
+import Quillet.Views
 
 KelCard {
     id: card
 
-    required property var summary
+    required property var order
+    required property int rowHeight
 
     Column {
         width: parent.width
 
         Item {
             width: parent.width
-            height: KelSizes.medium
+            height: Math.max(KelSizes.medium, title.implicitHeight + KelSpacing.small)
 
             KelLabel {
+                id: title
+
+                width: tag.x - KelSpacing.tiny
                 height: parent.height - KelSpacing.small
-                text: card.summary.orderTitle
+                text: card.order.orderSummary
                 size: 5
                 weight: 1
+                wrapMode: Text.Wrap
             }
             KelTag {
+                id: tag
+
                 anchors.right: parent.right
                 y: (parent.height - KelSpacing.small - height) / 2
                 colorIndex: 0
@@ -30,13 +38,13 @@ KelCard {
         }
         Item {
             width: parent.width
-            height: KelSizes.mediumX
+            height: card.rowHeight
 
             KelValueLabel {
                 height: parent.height
-                visible: card.summary.orderCycle.present
-                caption: card.summary.orderCycle.caption
-                value: card.summary.orderCycle.value
+                visible: card.order.orderCycle.present
+                caption: card.order.orderCycle.caption
+                value: card.order.orderCycle.value
             }
             Row {
                 anchors.right: parent.right
@@ -49,7 +57,7 @@ KelCard {
                 }
                 KelLabel {
                     height: parent.height
-                    text: card.summary.orderDate
+                    text: card.order.orderDate
                 }
             }
         }
@@ -58,29 +66,24 @@ KelCard {
         }
         KelValueLabel {
             width: parent.width
-            height: Math.max(KelSizes.mediumX, implicitHeight + KelSpacing.small)
-            caption: card.summary.totalOfProducts.caption
-            value: card.summary.totalOfProducts.value
+            height: Math.max(card.rowHeight, implicitHeight + KelSpacing.small)
+            caption: card.order.totalProducts.caption
+            value: card.order.totalProducts.value
             wrapMode: Text.Wrap
         }
         Rectangle {
             width: parent.width
-            height: Math.max(KelSizes.mediumX, orderPoints.implicitHeight + KelSpacing.small)
+            height: Math.max(card.rowHeight, points.implicitHeight + KelSpacing.small)
             radius: KelRadius.medium
-            color: KelColors.tint(KelColors.success)
+            color: KelColors.tint(points.color)
 
-            KelValueLabel {
-                id: orderPoints
+            LabelView {
+                id: points
 
                 x: KelSpacing.small
                 width: parent.width - 2 * KelSpacing.small
                 height: parent.height
-                wrapMode: Text.Wrap
-                caption: card.summary.orderPoints.caption
-                value: card.summary.orderPoints.value
-                size: 6
-                weight: 1
-                color: KelColors.success
+                label: card.order.orderPointsLabel
             }
         }
     }

@@ -1,32 +1,28 @@
 import QtQuick
 import KelDS
+import Quillet.Views
 
 Column {
-    id: header
+    id: view
 
-    required property var summary
+    required property var header
 
-    topPadding: KelSpacing.semi
-    bottomPadding: KelSpacing.semi
-
-    KelLabel {
+    LabelView {
         width: parent.width
-        visible: header.summary.cycle.present
         bottomPadding: 12
-        text: header.summary.cycle.caption + header.summary.cycle.value
-        size: 4
-        weight: 2
+        label: view.header.cycleLabel
+        Accessible.role: Accessible.Heading
     }
     Flow {
         width: parent.width
-        visible: header.summary.cycle.present
+        visible: view.header.cycleLabel !== null
         spacing: KelSpacing.semi
         bottomPadding: KelSpacing.small
 
         Repeater {
             model: [
-                { icon: KelIcons.Calendar, text: header.summary.cycleStart },
-                { icon: KelIcons.Schedule, text: header.summary.cycleEnd }
+                { icon: KelIcons.Calendar, text: view.header.cycleStart },
+                { icon: KelIcons.Schedule, text: view.header.cycleEnd }
             ]
 
             Row {
@@ -46,13 +42,8 @@ Column {
             }
         }
     }
-    KelValueLabel {
+    LabelView {
         width: parent.width
-        caption: header.summary.pointsInProgress.caption
-        value: header.summary.pointsInProgress.value
-        size: 5
-        weight: 1
-        color: KelColors.success
-        wrapMode: Text.Wrap
+        label: view.header.pointsInProgressLabel
     }
 }

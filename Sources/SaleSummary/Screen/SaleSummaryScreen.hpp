@@ -1,8 +1,7 @@
 #pragma once
 
 #include "SaleSummary/Presenters/SaleSummaryPresenter.hpp"
-
-#include <QObject>
+#include "Views/Tokens/ThemedView.hpp"
 
 #include <memory>
 
@@ -17,7 +16,7 @@ public:
 };
 
 /// The summary content. The screen that shows it owns it and is its delegate, held weakly.
-class SaleSummaryScreen : public QObject {
+class SaleSummaryScreen : public ThemedView {
     Q_OBJECT
 
 public:

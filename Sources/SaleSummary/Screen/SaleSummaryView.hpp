@@ -1,54 +1,61 @@
 #pragma once
 
+#include "SaleSummary/Screen/HighlightedOrderView.hpp"
+#include "SaleSummary/Screen/SaleSummaryHeaderView.hpp"
 #include "SaleSummary/Screen/SaleSummaryScreen.hpp"
-#include "Views/Labels/Captioned.hpp"
+#include "Views/Tokens/ButtonCreating.hpp"
+#include "Views/Tokens/Coloring.hpp"
+#include "Views/Tokens/Sizing.hpp"
+#include "Views/Tokens/Spacing.hpp"
 
 namespace quillet {
 
-/// The summary content: each text that SaleSummaryView.qml draws. An absent cycle leaves its texts empty.
+/// The summary content: tab, head, order card, reminder and button, as SaleSummaryView.qml draws them.
 class SaleSummaryView final : public SaleSummaryScreen {
     Q_OBJECT
-    Q_PROPERTY(QString tabTitle READ tabTitle CONSTANT FINAL)
-    Q_PROPERTY(quillet::Captioned cycle READ cycle CONSTANT FINAL)
-    Q_PROPERTY(QString cycleStart READ cycleStart CONSTANT FINAL)
-    Q_PROPERTY(QString cycleEnd READ cycleEnd CONSTANT FINAL)
-    Q_PROPERTY(quillet::Captioned pointsInProgress READ pointsInProgress CONSTANT FINAL)
-    Q_PROPERTY(QString orderTitle READ orderTitle CONSTANT FINAL)
-    Q_PROPERTY(quillet::Captioned orderCycle READ orderCycle CONSTANT FINAL)
-    Q_PROPERTY(QString orderDate READ orderDate CONSTANT FINAL)
-    Q_PROPERTY(quillet::Captioned totalOfProducts READ totalOfProducts CONSTANT FINAL)
-    Q_PROPERTY(quillet::Captioned orderPoints READ orderPoints CONSTANT FINAL)
+    Q_PROPERTY(QString inProgressTab READ inProgressTab CONSTANT FINAL)
+    Q_PROPERTY(QObject* headerView READ headerView CONSTANT FINAL)
+    Q_PROPERTY(QObject* highlightedOrderView READ highlightedOrderView CONSTANT FINAL)
     Q_PROPERTY(QString remember READ remember CONSTANT FINAL)
     Q_PROPERTY(QString reminder READ reminder CONSTANT FINAL)
-    Q_PROPERTY(QString sendProducts READ sendProducts CONSTANT FINAL)
-    Q_PROPERTY(QString sendProductsIdentifier READ sendProductsIdentifier CONSTANT FINAL)
+    Q_PROPERTY(quillet::Button sendProductsButton READ sendProductsButton CONSTANT FINAL)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY themeChanged FINAL)
+    Q_PROPERTY(int sideSpacing READ sideSpacing CONSTANT FINAL)
+    Q_PROPERTY(int partSpacing READ partSpacing CONSTANT FINAL)
+    Q_PROPERTY(int rowHeight READ rowHeight CONSTANT FINAL)
 
 public:
-    explicit SaleSummaryView(SaleSummaryPresenter presenter);
+    SaleSummaryView(std::unique_ptr<ButtonCreating> buttonFactory, std::unique_ptr<Spacing> spacing,
+                    std::unique_ptr<Sizing> sizing, std::unique_ptr<Coloring> colors,
+                    SaleSummaryPresenter presenter);
 
     [[nodiscard]] const SaleSummaryPresenter& presenter() const override { return presenter_; }
     void setDelegate(std::weak_ptr<SaleSummaryViewDelegate> delegate) override;
 
-    [[nodiscard]] QString tabTitle() const;
-    [[nodiscard]] Captioned cycle() const;
-    [[nodiscard]] QString cycleStart() const;
-    [[nodiscard]] QString cycleEnd() const;
-    [[nodiscard]] Captioned pointsInProgress() const;
-    [[nodiscard]] QString orderTitle() const;
-    [[nodiscard]] Captioned orderCycle() const;
-    [[nodiscard]] QString orderDate() const;
-    [[nodiscard]] Captioned totalOfProducts() const;
-    [[nodiscard]] Captioned orderPoints() const;
+    [[nodiscard]] QString inProgressTab() const { return QStringLiteral("En Curso"); }
+    [[nodiscard]] SaleSummaryHeaderView* headerView() { return &headerView_; }
+    [[nodiscard]] HighlightedOrderView* highlightedOrderView() { return &highlightedOrderView_; }
     [[nodiscard]] QString remember() const;
     [[nodiscard]] QString reminder() const;
-    [[nodiscard]] QString sendProducts() const;
-    [[nodiscard]] QString sendProductsIdentifier() const;
+    [[nodiscard]] Button sendProductsButton() const;
+    [[nodiscard]] QColor backgroundColor() const { return colors_->background(); }
+    /// Beside the parts, and between and around them.
+    [[nodiscard]] int sideSpacing() const { return spacing_->small(); }
+    [[nodiscard]] int partSpacing() const { return spacing_->semi(); }
+    /// A line of the order card.
+    [[nodiscard]] int rowHeight() const { return sizing_->mediumX(); }
 
     Q_INVOKABLE void tapSendProducts();
 
 private:
-    SaleSummaryPresenter presenter_;
     std::weak_ptr<SaleSummaryViewDelegate> delegate_;
+    std::unique_ptr<ButtonCreating> buttonFactory_;
+    std::unique_ptr<Spacing> spacing_;
+    std::unique_ptr<Sizing> sizing_;
+    std::unique_ptr<Coloring> colors_;
+    SaleSummaryPresenter presenter_;
+    SaleSummaryHeaderView headerView_;
+    HighlightedOrderView highlightedOrderView_;
 };
 
 /// Builds the summary content.
@@ -61,7 +68,9 @@ public:
 class SaleSummaryViewFactory final : public SaleSummaryViewCreating {
 public:
     [[nodiscard]] std::unique_ptr<SaleSummaryScreen> create(SaleSummaryPresenter presenter) const override {
-        return std::make_unique<SaleSummaryView>(std::move(presenter));
+        return std::make_unique<SaleSummaryView>(std::make_unique<ButtonFactory>(),
+                                                 std::make_unique<Spacer>(), std::make_unique<Sizer>(),
+                                                 std::make_unique<Colors>(), std::move(presenter));
     }
 };
 

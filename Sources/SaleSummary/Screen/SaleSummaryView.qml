@@ -12,30 +12,34 @@ Flickable {
     contentHeight: page.height
     boundsBehavior: Flickable.StopAtBounds
 
-    Item {
+    Rectangle {
         id: page
 
         width: root.width
-        height: Math.max(root.height, content.height + KelSpacing.semi + footer.height)
+        height: Math.max(root.height, content.height + root.summary.partSpacing + footer.height)
+        color: root.summary.backgroundColor
 
         Column {
             id: content
 
             width: parent.width
 
-            KelTab {
+            KelTabs {
                 width: parent.width
-                text: root.summary.tabTitle
+                titles: [root.summary.inProgressTab]
             }
             SaleSummaryHeaderView {
-                x: KelSpacing.small
-                width: parent.width - 2 * KelSpacing.small
-                summary: root.summary
+                x: root.summary.sideSpacing
+                width: parent.width - 2 * root.summary.sideSpacing
+                topPadding: root.summary.partSpacing
+                bottomPadding: root.summary.partSpacing
+                header: root.summary.headerView
             }
             HighlightedOrderView {
-                x: KelSpacing.small
-                width: parent.width - 2 * KelSpacing.small
-                summary: root.summary
+                x: root.summary.sideSpacing
+                width: parent.width - 2 * root.summary.sideSpacing
+                order: root.summary.highlightedOrderView
+                rowHeight: root.summary.rowHeight
             }
         }
         Footer {
@@ -45,8 +49,7 @@ Flickable {
             anchors.bottom: parent.bottom
             remember: root.summary.remember
             reminder: root.summary.reminder
-            buttonText: root.summary.sendProducts
-            buttonIdentifier: root.summary.sendProductsIdentifier
+            button: root.summary.sendProductsButton
             onTapped: root.summary.tapSendProducts()
         }
     }

@@ -83,6 +83,7 @@ void SaleSummaryViewController::addContentView() {
     if (contentView_) {
         shownContentView_ = contentView_.get();
         Q_EMIT contentViewChanged();
+        setContinuesBar(!shownTryAgainView_);
     }
 }
 
@@ -94,12 +95,14 @@ void SaleSummaryViewController::addTryAgainView() {
     if (tryAgainView_) {
         shownTryAgainView_ = tryAgainView_.get();
         Q_EMIT tryAgainViewChanged();
+        setContinuesBar(false);
     }
 }
 
 void SaleSummaryViewController::removeTryAgainView() {
     shownTryAgainView_ = nullptr;
     Q_EMIT tryAgainViewChanged();
+    setContinuesBar(shownContentView_);
 }
 
 std::weak_ptr<SaleSummaryViewDelegate> SaleSummaryViewController::viewDelegate() {

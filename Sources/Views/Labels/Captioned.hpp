@@ -16,14 +16,16 @@ public:
     QString caption;
     QString value;
 
+    /// Splits "Caption: value" behind its first colon, so that presenters stay the one source of such texts;
+    /// a text without a colon is a caption alone.
+    [[nodiscard]] static Captioned of(const QString& text) {
+        const auto colon = text.indexOf(QLatin1String(": "));
+        return colon < 0 ? Captioned{text, {}} : Captioned{text.left(colon + 2), text.mid(colon + 2)};
+    }
+
     [[nodiscard]] bool isPresent() const { return !caption.isEmpty(); }
     [[nodiscard]] QString text() const { return caption + value; }
     bool operator==(const Captioned&) const = default;
 };
-
-/// "Ciclo actual: " and a short cycle code, which may be empty.
-[[nodiscard]] inline Captioned cycleLabel(const QString& cycle) {
-    return {QStringLiteral("Ciclo actual: "), cycle};
-}
 
 } // namespace quillet

@@ -7,8 +7,8 @@ Rectangle {
 
     required property string remember
     required property string reminder
-    required property string buttonText
-    property string buttonIdentifier
+    // A button of C++'s making.
+    required property var button
 
     signal tapped
 
@@ -34,8 +34,9 @@ Rectangle {
         }
         KelButton {
             width: parent.width
-            text: footer.buttonText
-            identifier: footer.buttonIdentifier
+            text: footer.button.title
+            identifier: footer.button.identifier
+            outlined: footer.button.outlined
             onActivated: footer.tapped()
         }
     }

@@ -1,12 +1,22 @@
 #include "Views/Loading/LoadingView.hpp"
 
+#include <utility>
+
 namespace quillet {
 
 using Indicator = ProgressIndicatorCircular;
 
+LoadingView::LoadingView(std::unique_ptr<Coloring> colors, std::unique_ptr<Sizing> sizer)
+    : colors_(std::move(colors)), sizer_(std::move(sizer)) {}
+
+Overlay& LoadingView::overlay() {
+    return overlay_ ? *overlay_ : overlay_.emplace();
+}
+
 ProgressIndicatorCircular* LoadingView::progressIndicator() {
     if (!progressIndicator_) {
-        progressIndicator_ = std::make_unique<Indicator>(std::make_unique<ProgressIndicatorCircularAnimator>());
+        progressIndicator_ =
+            std::make_unique<Indicator>(std::make_unique<ProgressIndicatorCircularAnimator>());
     }
     return progressIndicator_.get();
 }

@@ -1,37 +1,53 @@
 #pragma once
 
 #include "Views/Loading/Loading.hpp"
+#include "Views/Loading/Overlay.hpp"
 #include "Views/ProgressIndicatorCircular/ProgressIndicatorCircular.hpp"
-
-#include <QObject>
+#include "Views/Tokens/Coloring.hpp"
+#include "Views/Tokens/Sizing.hpp"
+#include "Views/Tokens/ThemedView.hpp"
 
 #include <memory>
+#include <optional>
 
 namespace quillet {
 
 /// The full-screen overlay that a screen shows while a call runs, with the progress indicator in its middle.
 /// Off screen it draws nothing and costs no frame.
-class LoadingView final : public QObject, public Loading {
+class LoadingView final : public ThemedView, public Loading {
     Q_OBJECT
     Q_PROPERTY(bool onScreen READ isOnScreen NOTIFY onScreenChanged FINAL)
     Q_PROPERTY(QObject* progressIndicator READ progressIndicator CONSTANT FINAL)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY themeChanged FINAL)
+    Q_PROPERTY(QColor overlayColor READ overlayColor NOTIFY themeChanged FINAL)
+    Q_PROPERTY(int indicatorSize READ indicatorSize CONSTANT FINAL)
 
 public:
+    explicit LoadingView(std::unique_ptr<Coloring> colors = std::make_unique<Colors>(),
+                         std::unique_ptr<Sizing> sizer = std::make_unique<Sizer>());
+
     [[nodiscard]] bool isOnScreen() const { return onScreen_; }
     void startLoading() override;
     void stopLoading() override;
 
     /// Made on first use.
     [[nodiscard]] ProgressIndicatorCircular* progressIndicator();
+    [[nodiscard]] QColor backgroundColor() const { return colors_->background(); }
+    [[nodiscard]] QColor overlayColor() { return overlay().color(); }
+    [[nodiscard]] int indicatorSize() const { return sizer_->mediumX(); }
 
 Q_SIGNALS:
     void onScreenChanged();
 
 private:
+    [[nodiscard]] Overlay& overlay();
     void setOnScreen(bool onScreen);
 
-    bool onScreen_ = false;
     std::unique_ptr<ProgressIndicatorCircular> progressIndicator_;
+    std::optional<Overlay> overlay_;
+    std::unique_ptr<Coloring> colors_;
+    std::unique_ptr<Sizing> sizer_;
+    bool onScreen_ = false;
 };
 
 } // namespace quillet

@@ -2,8 +2,8 @@ import QtQuick
 import KelDS
 import Quillet.Views
 
-// The overlay and its ring. It takes every touch, so that nothing below it can be tapped while a call runs.
-Item {
+// The overlay and its ring. It takes every touch and key, so that nothing below it can be used while a call runs.
+KelCover {
     id: loading
 
     required property var loadingView
@@ -11,18 +11,18 @@ Item {
     required property rect screenArea
 
     Accessible.role: Accessible.Animation
-    Accessible.name: ""
+    Accessible.name: KelWords.loading
 
     Rectangle {
         x: loading.screenArea.x
         y: loading.screenArea.y
         width: loading.screenArea.width
         height: loading.screenArea.height
-        color: KelColors.background
+        color: loading.loadingView.backgroundColor
     }
     Rectangle {
         anchors.fill: parent
-        color: KelColors.veil
+        color: loading.loadingView.overlayColor
     }
     MouseArea {
         anchors.fill: parent
@@ -31,8 +31,8 @@ Item {
     }
     ProgressIndicatorItem {
         anchors.centerIn: parent
-        width: KelSizes.mediumX
-        height: KelSizes.mediumX
+        width: loading.loadingView.indicatorSize
+        height: loading.loadingView.indicatorSize
         indicator: loading.loadingView.progressIndicator
         time: clock.elapsedTime
     }

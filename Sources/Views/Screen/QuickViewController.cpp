@@ -28,6 +28,13 @@ void QuickViewController::setBackgroundColor(const QColor& color) {
     }
 }
 
+void QuickViewController::setContinuesBar(bool continues) {
+    if (continues != continuesBar_) {
+        continuesBar_ = continues;
+        Q_EMIT continuesBarChanged();
+    }
+}
+
 NavigationController* QuickViewController::navigationController() const {
     return navigation_;
 }

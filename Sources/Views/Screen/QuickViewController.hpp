@@ -22,6 +22,7 @@ class QuickViewController : public QObject, public std::enable_shared_from_this<
     Q_OBJECT
     Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
     Q_PROPERTY(bool hidesBackButton READ hidesBackButton NOTIFY hidesBackButtonChanged FINAL)
+    Q_PROPERTY(bool continuesBar READ continuesBar NOTIFY continuesBarChanged FINAL)
     Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY backgroundColorChanged FINAL)
 
 public:
@@ -31,6 +32,8 @@ public:
     [[nodiscard]] const QString& title() const { return title_; }
     /// Whether the host's bar is to show no way back from this screen.
     [[nodiscard]] bool hidesBackButton() const { return hidesBackButton_; }
+    /// Whether the screen goes on where the host's bar ends, as with a tab bar: no line belongs between them.
+    [[nodiscard]] bool continuesBar() const { return continuesBar_; }
     [[nodiscard]] QColor backgroundColor() const { return backgroundColor_; }
     void setTitle(const QString& title);
     void setHidesBackButton(bool hides);
@@ -49,11 +52,13 @@ public:
 Q_SIGNALS:
     void titleChanged();
     void hidesBackButtonChanged();
+    void continuesBarChanged();
     void backgroundColorChanged();
 
 protected:
     QuickViewController();
     void setBackgroundColor(const QColor& color);
+    void setContinuesBar(bool continues);
 
     /// A view that is on screen may be in the middle of telling about a tap when it is replaced: it goes once
     /// control is back in the event loop.
@@ -65,6 +70,7 @@ private:
     QString title_;
     QColor backgroundColor_;
     bool hidesBackButton_ = false;
+    bool continuesBar_ = false;
     QPointer<NavigationController> navigation_;
 };
 

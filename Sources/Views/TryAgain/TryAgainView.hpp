@@ -1,6 +1,11 @@
 #pragma once
 
-#include <QObject>
+#include "Views/Tokens/ButtonCreating.hpp"
+#include "Views/Tokens/Coloring.hpp"
+#include "Views/Tokens/Sizing.hpp"
+#include "Views/Tokens/Spacing.hpp"
+#include "Views/Tokens/ThemedView.hpp"
+
 #include <QUrl>
 
 #include <functional>
@@ -20,7 +25,7 @@ struct TryAgainPresenter {
 
 /// The view that stands in place of a screen's content after a failure, with one button. The screen that
 /// shows it owns it. Main thread only.
-class TryAgainScreen : public QObject {
+class TryAgainScreen : public ThemedView {
     Q_OBJECT
 
 public:
@@ -33,20 +38,40 @@ class TryAgainView final : public TryAgainScreen {
     Q_OBJECT
     Q_PROPERTY(QUrl icon READ icon CONSTANT FINAL)
     Q_PROPERTY(QString message READ message CONSTANT FINAL)
-    Q_PROPERTY(QString buttonText READ buttonText CONSTANT FINAL)
-    Q_PROPERTY(QString buttonAccessibilityText READ buttonAccessibilityText CONSTANT FINAL)
+    Q_PROPERTY(quillet::Button submitButton READ submitButton CONSTANT FINAL)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY themeChanged FINAL)
+    Q_PROPERTY(QColor labelColor READ labelColor NOTIFY themeChanged FINAL)
+    Q_PROPERTY(int iconSize READ iconSize CONSTANT FINAL)
+    Q_PROPERTY(int labelSpacing READ labelSpacing CONSTANT FINAL)
+    Q_PROPERTY(int buttonSpacing READ buttonSpacing CONSTANT FINAL)
+    Q_PROPERTY(int sideSpacing READ sideSpacing CONSTANT FINAL)
 
 public:
-    TryAgainView(TryAgainPresenter presenter, std::function<void()> didTapButton);
+    TryAgainView(std::unique_ptr<ButtonCreating> buttonFactory, std::unique_ptr<Coloring> colors,
+                 std::unique_ptr<Spacing> spacing, std::unique_ptr<Sizing> sizing,
+                 TryAgainPresenter presenter, std::function<void()> didTapButton);
 
     [[nodiscard]] const TryAgainPresenter& presenter() const override { return presenter_; }
     [[nodiscard]] QUrl icon() const;
     [[nodiscard]] QString message() const { return presenter_.messageText; }
-    [[nodiscard]] QString buttonText() const { return presenter_.buttonText; }
-    [[nodiscard]] QString buttonAccessibilityText() const { return presenter_.buttonAccessibilityText; }
+    [[nodiscard]] Button submitButton() const;
+    [[nodiscard]] QColor backgroundColor() const { return colors_->background(); }
+    [[nodiscard]] QColor labelColor() const { return colors_->highEmphasis(); }
+    /// The image is five of the size token semiX wide and high.
+    [[nodiscard]] int iconSize() const { return 5 * sizing_->semiX(); }
+    /// Between image and label, and on either side of the label.
+    [[nodiscard]] int labelSpacing() const { return spacing_->standard(); }
+    /// Below the button.
+    [[nodiscard]] int buttonSpacing() const { return spacing_->semi(); }
+    /// On either side of the button.
+    [[nodiscard]] int sideSpacing() const { return spacing_->small(); }
     Q_INVOKABLE void tap() override { didTapButton_(); }
 
 private:
+    std::unique_ptr<ButtonCreating> buttonFactory_;
+    std::unique_ptr<Coloring> colors_;
+    std::unique_ptr<Spacing> spacing_;
+    std::unique_ptr<Sizing> sizing_;
     TryAgainPresenter presenter_;
     std::function<void()> didTapButton_;
 };

@@ -1,56 +1,63 @@
 import QtQuick
 import KelDS
 
+// The group of image and message stands at 40 % of the room above the button, and scrolls where it is taller than that.
 Rectangle {
     id: root
 
     required property var tryAgain
 
-    color: KelColors.background
+    color: root.tryAgain.backgroundColor
 
     Flickable {
         id: page
 
         anchors.fill: parent
-        anchors.bottomMargin: button.height + 2 * KelSpacing.semi
-        contentHeight: Math.max(page.height, group.height + 2 * KelSpacing.small)
+        anchors.bottomMargin: button.height + 2 * root.tryAgain.buttonSpacing
+        contentHeight: Math.max(page.height, group.height + 2 * root.tryAgain.sideSpacing)
+        clip: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
 
         Column {
             id: group
 
-            y: Math.max(KelSpacing.small, Math.round(0.4 * (page.height - group.height)))
+            y: Math.max(root.tryAgain.sideSpacing, Math.round(0.4 * (page.height - group.height)))
             width: root.width
-            spacing: KelSpacing.standard
+            spacing: root.tryAgain.labelSpacing
 
             Image {
                 anchors.horizontalCenter: parent.horizontalCenter
-                width: 200
-                height: 200
+                width: root.tryAgain.iconSize
+                height: root.tryAgain.iconSize
                 sourceSize.width: width
                 sourceSize.height: height
                 source: root.tryAgain.icon
             }
             KelLabel {
-                x: KelSpacing.standard
-                width: parent.width - 2 * KelSpacing.standard
+                x: root.tryAgain.labelSpacing
+                width: parent.width - 2 * root.tryAgain.labelSpacing
                 text: root.tryAgain.message
                 size: 4
+                color: root.tryAgain.labelColor
                 lineHeight: 1.2
                 wrapMode: Text.Wrap
                 horizontalAlignment: Text.AlignHCenter
             }
         }
     }
+    KelScrollHint {
+        page: page
+    }
     KelButton {
         id: button
 
-        x: KelSpacing.small
-        width: parent.width - 2 * KelSpacing.small
+        x: root.tryAgain.sideSpacing
+        width: parent.width - 2 * root.tryAgain.sideSpacing
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: KelSpacing.semi
-        text: root.tryAgain.buttonText
-        identifier: root.tryAgain.buttonAccessibilityText
+        anchors.bottomMargin: root.tryAgain.buttonSpacing
+        text: root.tryAgain.submitButton.title
+        identifier: root.tryAgain.submitButton.identifier
+        outlined: root.tryAgain.submitButton.outlined
         onActivated: root.tryAgain.tap()
     }
 }

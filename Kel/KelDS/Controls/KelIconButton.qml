@@ -1,0 +1,31 @@
+import QtQuick
+import KelDS
+
+// A glyph to tap. `text` is what it is called; nothing but a screen reader says it.
+KelPressable {
+    id: button
+
+    required property int number
+
+    implicitWidth: KelSizes.touch
+    implicitHeight: KelSizes.touch
+
+    contentItem: Item {
+        KelIcon {
+            anchors.centerIn: parent
+            number: button.number
+            size: KelSizes.standard
+        }
+    }
+    background: Rectangle {
+        anchors.fill: parent
+        radius: width / 2
+        color: button.down ? KelColors.withAlpha(KelColors.highEmphasis, KelOpacity.low) : "transparent"
+
+        KelFocusRing {
+            visible: button.showsFocus
+            gap: 0
+            cornerRadius: parent.radius
+        }
+    }
+}

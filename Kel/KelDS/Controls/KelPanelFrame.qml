@@ -1,0 +1,26 @@
+import QtQuick
+import KelDS
+
+// A slice of an expansion panel's outline, for panels that are drawn as rows of a list: a frame that reaches out of the
+// slice where the panel goes on, cut off at the slice's edge. Only the slices at the panel's ends cost a cut.
+Item {
+    id: frame
+
+    required property color stroke
+    property color fill: "transparent"
+    // Whether the slice holds the panel's upper, or lower, end.
+    property bool isTop: true
+    property bool isBottom: true
+
+    clip: !frame.isTop || !frame.isBottom
+
+    Rectangle {
+        y: frame.isTop ? 0 : -KelRadius.large
+        width: parent.width
+        height: parent.height - y + (frame.isBottom ? 0 : KelRadius.large)
+        radius: KelRadius.large
+        color: frame.fill
+        border.width: 1
+        border.color: frame.stroke
+    }
+}

@@ -1,0 +1,60 @@
+import QtQuick
+import KelDS
+
+// The head of an expansion panel: the whole of it is one target.
+KelPressable {
+    id: head
+
+    required property string title
+    required property color tone
+    required property bool expanded
+
+    implicitHeight: Math.max(KelSizes.mediumX, head.implicitContentHeight)
+    text: head.title
+    Accessible.checkable: true
+    Accessible.checked: head.expanded
+
+    background: Rectangle {
+        anchors.fill: parent
+        anchors.margins: 1
+        radius: KelRadius.large
+        color: head.down ? KelColors.tint(head.tone) : "transparent"
+
+        KelFocusRing {
+            visible: head.showsFocus
+            gap: -4
+            cornerRadius: KelRadius.large
+        }
+    }
+    contentItem: KelLabel {
+        leftPadding: KelSpacing.small
+        rightPadding: KelSpacing.small + KelSizes.standard + KelSpacing.tiny
+        topPadding: KelSpacing.tiny
+        bottomPadding: KelSpacing.tiny
+        text: head.title
+        weight: 2
+        color: head.tone
+        wrapMode: Text.Wrap
+        Accessible.ignored: true
+        Accessible.name: ""
+
+        KelIcon {
+            anchors.right: parent.right
+            anchors.rightMargin: KelSpacing.small
+            height: parent.height
+            number: KelIcons.ExpandMore
+            size: KelSizes.standard
+            color: head.tone
+            rotation: head.expanded ? 180 : 0
+
+            Behavior on rotation {
+                enabled: !KelMotion.reduced
+
+                NumberAnimation {
+                    duration: KelMotion.panel
+                    easing.type: Easing.OutCubic
+                }
+            }
+        }
+    }
+}

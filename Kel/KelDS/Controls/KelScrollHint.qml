@@ -1,0 +1,17 @@
+import QtQuick
+import KelDS
+
+// Shows how much of a long text is in view, and which part. Nothing can be done with it but look.
+Rectangle {
+    id: hint
+
+    required property Flickable page
+
+    anchors.right: parent.right
+    y: hint.page.y + hint.page.visibleArea.yPosition * hint.page.height
+    width: KelSizes.micro
+    height: hint.page.visibleArea.heightRatio * hint.page.height
+    radius: KelRadius.small
+    visible: hint.page.visibleArea.heightRatio < 1
+    color: KelColors.lowEmphasis
+}

@@ -1,0 +1,68 @@
+// Bound components cannot be made by a view or a loader in Qt 6.4, so the ids of this file are seen from inside them.
+// qmllint disable unqualified
+
+import QtQuick
+import KelDS
+
+// A tab bar: one title a tab, the current one underlined.
+Rectangle {
+    id: tabs
+
+    property list<string> titles
+    property int currentIndex: 0
+
+    implicitHeight: KelSizes.medium
+    color: KelColors.surface
+    Accessible.role: Accessible.PageTabList
+
+    KelDivider {
+        anchors.bottom: parent.bottom
+        width: parent.width
+    }
+    Row {
+        x: KelSpacing.small
+        height: parent.height
+        spacing: KelSpacing.semi
+
+        Repeater {
+            model: tabs.titles
+
+            KelPressable {
+                id: tab
+
+                required property int index
+                required property string modelData
+                readonly property bool current: tab.index === tabs.currentIndex
+
+                height: parent.height
+                text: tab.modelData
+                // A tab bar with a single tab leads nowhere else.
+                focusPolicy: tabs.titles.length > 1 ? Qt.StrongFocus : Qt.NoFocus
+                Accessible.role: Accessible.PageTab
+                Accessible.selected: tab.current
+                onActivated: tabs.currentIndex = tab.index
+                contentItem: KelLabel {
+                    text: tab.text
+                    size: 10
+                    weight: 2
+                    color: tab.current ? KelColors.highEmphasis : KelColors.mediumEmphasis
+                    Accessible.ignored: true
+                    Accessible.name: ""
+                }
+                background: Item {
+                    Rectangle {
+                        anchors.bottom: parent.bottom
+                        width: parent.width
+                        height: 3
+                        visible: tab.current
+                        color: KelColors.primary
+                    }
+                    KelFocusRing {
+                        visible: tab.showsFocus
+                        gap: -4
+                    }
+                }
+            }
+        }
+    }
+}

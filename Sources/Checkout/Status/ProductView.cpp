@@ -1,0 +1,37 @@
+#include "Checkout/Status/ProductView.hpp"
+
+#include "Resources/Localization.hpp"
+
+namespace quillet {
+
+QString ProductView::quantity() const {
+    return QString::number(product_.quantity);
+}
+
+QString ProductView::description() const {
+    return QString::fromStdString(product_.description);
+}
+
+QString ProductView::code() const {
+    return Localization::code(product_.productCode);
+}
+
+QString ProductView::points() const {
+    return Localization::pointsCount(product_.totalPoints);
+}
+
+QString UnshippedProductView::reason() const {
+    switch (productView_.product().status) {
+    case ProductErrorStatus::unavailable:
+        return Localization::productsUnavailableByStock();
+    case ProductErrorStatus::quantityError:
+        return Localization::productsUnavailableByQuota();
+    case ProductErrorStatus::notFound:
+        return Localization::productsNotFound();
+    case ProductErrorStatus::none:
+        break;
+    }
+    return {};
+}
+
+} // namespace quillet

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Models/Product.hpp"
+
+#include <QString>
+
+#include <variant>
+
+namespace quillet {
+
+/// A product's row. It holds the product alone and words its texts when they are asked for, so that a list of
+/// ten thousand costs what its records cost.
+class ProductView {
+public:
+    explicit ProductView(Product product) : product_(std::move(product)) {}
+
+    [[nodiscard]] const Product& product() const { return product_; }
+    [[nodiscard]] QString quantity() const;
+    [[nodiscard]] QString description() const;
+    /// "Code: " and the code.
+    [[nodiscard]] QString code() const;
+    /// The points and the word for them.
+    [[nodiscard]] QString points() const;
+
+private:
+    Product product_;
+};
+
+/// The row of a product that was not sent: the same, and below it a tag. The tag says by its colour alone
+/// that there is a reason; the reason itself is not shown.
+class UnshippedProductView {
+public:
+    explicit UnshippedProductView(Product product) : productView_(std::move(product)) {}
+
+    [[nodiscard]] const ProductView& productView() const { return productView_; }
+    /// Why the product was not sent; empty where its status gives no reason.
+    [[nodiscard]] QString reason() const;
+    /// What the tag reads, which is nothing.
+    [[nodiscard]] static QString reasonTagText() { return {}; }
+
+private:
+    ProductView productView_;
+};
+
+/// Either kind of row.
+using ProductDisplayable = std::variant<ProductView, UnshippedProductView>;
+
+} // namespace quillet

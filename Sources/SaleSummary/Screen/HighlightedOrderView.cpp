@@ -1,0 +1,28 @@
+#include "SaleSummary/Screen/HighlightedOrderView.hpp"
+
+#include "SaleSummary/Presenters/DayFormatter.hpp"
+
+#include <utility>
+
+namespace quillet {
+
+HighlightedOrderView::HighlightedOrderView(HighlightedOrderPresenter presenter)
+    : presenter_(std::move(presenter)),
+      orderPointsLabel_(std::make_unique<PointsLabel>(presenter_.pointsOrderPresenter, 6)) {}
+
+Captioned HighlightedOrderView::orderCycle() const {
+    const auto& cycle = presenter_.cycle;
+    return cycle ? Captioned{QStringLiteral("Ciclo del pedido: "),
+                             QString::fromStdString(Cycle::onlyCode(*cycle))}
+                 : Captioned{};
+}
+
+QString HighlightedOrderView::orderDate() const {
+    return localDay(presenter_.orderDate);
+}
+
+Captioned HighlightedOrderView::totalProducts() const {
+    return {QStringLiteral("Total de productos: "), QString::number(presenter_.totalOfProducts)};
+}
+
+} // namespace quillet

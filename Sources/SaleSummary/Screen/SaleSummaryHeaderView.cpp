@@ -1,0 +1,13 @@
+#include "SaleSummary/Screen/SaleSummaryHeaderView.hpp"
+
+namespace quillet {
+
+SaleSummaryHeaderView::SaleSummaryHeaderView(SaleSummaryHeaderPresenter presenter)
+    : pointsInProgressLabel_(std::make_unique<PointsLabel>(presenter.pointsInProgressPresenter, 5)) {
+    if (const auto& cycle = presenter.cycle) {
+        cycleLabel_ = std::make_unique<CycleLabel>(QString::fromStdString(Cycle::onlyCode(*cycle)));
+        cyclePeriodView_ = {cycle->startDate, cycle->endDate};
+    }
+}
+
+} // namespace quillet

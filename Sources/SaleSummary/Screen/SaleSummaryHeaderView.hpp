@@ -1,0 +1,37 @@
+#pragma once
+
+#include "SaleSummary/Presenters/SaleSummaryPresenter.hpp"
+#include "Views/Labels/CycleLabel.hpp"
+#include "Views/Labels/PointsLabel.hpp"
+
+#include <memory>
+
+namespace quillet {
+
+/// The head of the summary: cycle and period, both absent without a cycle, and the points in progress.
+class SaleSummaryHeaderView final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QObject* cycleLabel READ cycleLabel CONSTANT FINAL)
+    Q_PROPERTY(QString cycleStart READ cycleStart CONSTANT FINAL)
+    Q_PROPERTY(QString cycleEnd READ cycleEnd CONSTANT FINAL)
+    Q_PROPERTY(QObject* pointsInProgressLabel READ pointsInProgressLabel CONSTANT FINAL)
+
+public:
+    explicit SaleSummaryHeaderView(SaleSummaryHeaderPresenter presenter);
+
+    [[nodiscard]] CycleLabel* cycleLabel() const { return cycleLabel_.get(); }
+    [[nodiscard]] QString cycleStart() const {
+        return cyclePeriodView_ ? cyclePeriodView_->startText() : QString();
+    }
+    [[nodiscard]] QString cycleEnd() const {
+        return cyclePeriodView_ ? cyclePeriodView_->endText() : QString();
+    }
+    [[nodiscard]] PointsLabel* pointsInProgressLabel() const { return pointsInProgressLabel_.get(); }
+
+private:
+    std::unique_ptr<CycleLabel> cycleLabel_;
+    std::optional<CyclePeriodPresenter> cyclePeriodView_;
+    std::unique_ptr<PointsLabel> pointsInProgressLabel_;
+};
+
+} // namespace quillet

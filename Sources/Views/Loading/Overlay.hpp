@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Views/Tokens/Opacity.hpp"
+
+#include "KelDS/KelColors.hpp"
+
+#include <memory>
+
+namespace quillet {
+
+/// What lies between a screen and the progress indicator: highEmphasis at the opacity mediumHigh. In the dark
+/// theme that colour is a light one, which the ring cannot be told from (1.1:1): there black takes its place.
+class Overlay {
+public:
+    explicit Overlay(std::unique_ptr<Opacity> opacity = std::make_unique<Opacities>())
+        : opacity_(std::move(opacity)) {}
+
+    [[nodiscard]] QColor color() const {
+        return kel::KelColors::withAlpha(kel::KelColors::veil(), opacity_->mediumHigh());
+    }
+
+private:
+    std::unique_ptr<Opacity> opacity_;
+};
+
+} // namespace quillet

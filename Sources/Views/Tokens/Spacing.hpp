@@ -1,0 +1,24 @@
+#pragma once
+
+#include "KelDS/KelTokens.hpp"
+
+namespace quillet {
+
+/// Distances between things, in device-independent pixels.
+class Spacing {
+public:
+    virtual ~Spacing() = default;
+    [[nodiscard]] virtual int small() const = 0;
+    [[nodiscard]] virtual int semi() const = 0;
+    [[nodiscard]] virtual int standard() const = 0;
+};
+
+/// The design system's.
+class Spacer final : public Spacing {
+public:
+    [[nodiscard]] int small() const override { return kel::spacing::small; }
+    [[nodiscard]] int semi() const override { return kel::spacing::semi; }
+    [[nodiscard]] int standard() const override { return kel::spacing::standard; }
+};
+
+} // namespace quillet

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "KelDS/KelAppearance.hpp"
+
+#include <QObject>
+
+namespace quillet {
+
+/// A view with colours of its own: it says when they may have changed. Main thread only.
+class ThemedView : public QObject {
+    Q_OBJECT
+
+protected:
+    ThemedView() {
+        connect(&kel::KelAppearance::current(), &kel::KelAppearance::changed, this,
+                &ThemedView::themeChanged);
+    }
+
+Q_SIGNALS:
+    void themeChanged();
+};
+
+} // namespace quillet
