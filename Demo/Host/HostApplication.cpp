@@ -58,7 +58,7 @@ void HostApplication::close() {
 
 void HostApplication::openOrder(int index) {
     const QVariantMap row = orders_.value(index).toMap();
-    journal_.clear();
+    journal_.beginOrder();
     open({.cart = {row[QStringLiteral("cart")].toString().toStdString(),
                    row[QStringLiteral("consultant")].toULongLong(),
                    row[QStringLiteral("country")].toString().toStdString()},

@@ -85,12 +85,16 @@ void Journal::navigated(const QString& operation, kel::KelIconNumber icon) {
     Q_EMIT navigationChanged();
 }
 
-void Journal::clear() {
+void Journal::beginOrder() {
     requests_.clear();
     analytics_.clear();
-    navigation_.clear();
     Q_EMIT requestsChanged();
     Q_EMIT analyticsChanged();
+}
+
+void Journal::clear() {
+    beginOrder();
+    navigation_.clear();
     Q_EMIT navigationChanged();
 }
 

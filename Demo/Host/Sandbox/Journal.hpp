@@ -26,6 +26,8 @@ public:
     void eventTracked(const kel::KelAnalyticsEventType& event);
     /// The icon is what the journal shows beside the operation.
     void navigated(const QString& operation, kel::KelIconNumber icon);
+    /// Makes room for the next order's requests and analytics. What was handed over before stays to be seen.
+    void beginOrder();
     void clear();
 
     [[nodiscard]] QVariantList requests() const { return requests_; }
