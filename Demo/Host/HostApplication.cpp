@@ -11,8 +11,8 @@
 
 namespace demo {
 
-HostApplication::HostApplication(Journal& journal, const QByteArray& orders)
-    : journal_(journal), orders_(QJsonDocument::fromJson(orders).array().toVariantList()) {}
+HostApplication::HostApplication(Journal& journal, LiveStatus& status, const QByteArray& orders)
+    : journal_(journal), status_(status), orders_(QJsonDocument::fromJson(orders).array().toVariantList()) {}
 
 HostApplication::~HostApplication() = default;
 
@@ -36,6 +36,7 @@ QQuickItem* HostApplication::phone() const {
 
 bool HostApplication::open(const Order& order) {
     close();
+    status_.opened(order.cart, order.environment);
     quillet::QuilletConfiguration::shared().configure(order.environment);
     const auto starter =
         quillet::Starter::create(order.accessToken, order.authorizationProvider, order.cart, self_.lock());
@@ -57,7 +58,7 @@ void HostApplication::close() {
 
 void HostApplication::openOrder(int index) {
     const QVariantMap row = orders_.value(index).toMap();
-    journal_.clear();
+    journal_.beginOrder();
     open({.cart = {row[QStringLiteral("cart")].toString().toStdString(),
                    row[QStringLiteral("consultant")].toULongLong(),
                    row[QStringLiteral("country")].toString().toStdString()},
@@ -66,19 +67,19 @@ void HostApplication::openOrder(int index) {
 }
 
 void HostApplication::navigateToCart() {
-    journal_.navigated(QStringLiteral("navigateToCart"));
+    journal_.navigated(QStringLiteral("navigateToCart"), kel::KelIconNumber::cart);
     showHostPage(QStringLiteral("Carrito"),
                  QStringLiteral("Aquí la aplicación anfitriona muestra el carrito de la consultora."),
                  int(kel::KelIconNumber::cart));
 }
 
 void HostApplication::navigateToHome() {
-    journal_.navigated(QStringLiteral("navigateToHome"));
+    journal_.navigated(QStringLiteral("navigateToHome"), kel::KelIconNumber::home);
     close();
 }
 
 void HostApplication::navigateToShareMagazine() {
-    journal_.navigated(QStringLiteral("navigateToShareMagazine"));
+    journal_.navigated(QStringLiteral("navigateToShareMagazine"), kel::KelIconNumber::share);
     showHostPage(QStringLiteral("Revista digital"),
                  QStringLiteral("Aquí la aplicación anfitriona comparte la revista con los clientes."),
                  int(kel::KelIconNumber::share));

@@ -2,6 +2,7 @@
 
 #include "Entry/Quillet.hpp"
 #include "Sandbox/Journal.hpp"
+#include "Sandbox/LiveStatus.hpp"
 
 #include <QObject>
 #include <QQmlApplicationEngine>
@@ -17,14 +18,15 @@ class HostApplication final : public QObject, public quillet::QuilletNavigationD
     Q_OBJECT
     Q_PROPERTY(QVariantList orders READ orders CONSTANT FINAL)
     Q_PROPERTY(QObject* journal READ journal CONSTANT FINAL)
+    Q_PROPERTY(QObject* status READ status CONSTANT FINAL)
 
 public:
     /// `orders` are the incoming orders that the home screen lists, as JSON.
-    HostApplication(Journal& journal, const QByteArray& orders);
+    HostApplication(Journal& journal, LiveStatus& status, const QByteArray& orders);
     ~HostApplication() override;
 
-    /// Loads the window: the phone-sized screen alone if `compact`, else with the journal where the display has room.
-    /// False, with the reason on standard error, if its QML does not load.
+    /// Loads the window: the phone-sized screen alone if `compact`, else with the journal where the display
+    /// has room. False, with the reason on standard error, if its QML does not load.
     [[nodiscard]] bool load(const std::shared_ptr<HostApplication>& self, bool compact);
     [[nodiscard]] QQuickWindow* window() const;
     /// The phone-sized part of the window.
@@ -38,7 +40,8 @@ public:
     };
     /// Opens the module for an order; false if its token cannot be signed or its screen not shown.
     bool open(const Order& order);
-    /// Shows the first screen as it answers to a refusal with this code of the back end's, without any request.
+    /// Shows the first screen as it answers to a refusal with this code of the back end's, without any
+    /// request.
     bool openHandmade(const std::string& refusal);
     /// Takes the module away.
     void close();
@@ -52,12 +55,14 @@ public:
 
     [[nodiscard]] QVariantList orders() const { return orders_; }
     [[nodiscard]] QObject* journal() const { return &journal_; }
+    [[nodiscard]] QObject* status() const { return &status_; }
 
 private:
     bool show(const std::shared_ptr<quillet::QuickViewController>& screen);
     void showHostPage(const QString& title, const QString& message, int icon);
 
     Journal& journal_;
+    LiveStatus& status_;
     QVariantList orders_;
     std::weak_ptr<HostApplication> self_;
     QQmlApplicationEngine engine_;

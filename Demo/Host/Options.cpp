@@ -57,6 +57,9 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
                                   QStringLiteral("FILE"));
     const QCommandLineOption out(QStringLiteral("out"), QStringLiteral("Where the play leaves its pictures."),
                                  QStringLiteral("DIR"));
+    const QCommandLineOption controls(
+        QStringLiteral("controls"), QStringLiteral("Draw the design system on one sheet, without a display."),
+        QStringLiteral("FILE"));
     const QCommandLineOption gateway(QStringLiteral("gateway"),
                                      QStringLiteral("Play against this server instead of the project's own."),
                                      QStringLiteral("HOST:PORT"));
@@ -74,7 +77,8 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
     const QCommandLineOption language(QStringLiteral("language"), QStringLiteral("es, pt or en (es)."),
                                       QStringLiteral("CODE"), QStringLiteral("es"));
     const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Use the dark theme."));
-    parser.addOptions({help, tour, play, out, gateway, ca, port, reset, data, program, language, dark});
+    parser.addOptions(
+        {help, tour, play, out, controls, gateway, ca, port, reset, data, program, language, dark});
 
     if (!parser.parse(arguments)) {
         return std::unexpected(parser.errorText());
@@ -97,8 +101,8 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
             options.language)) {
         return std::unexpected(QStringLiteral("--language is es, pt or en, not ") + options.language);
     }
-    if (parser.isSet(tour) && parser.isSet(play)) {
-        return std::unexpected(QStringLiteral("--tour and --play do not go together"));
+    if (parser.isSet(tour) + parser.isSet(play) + parser.isSet(controls) > 1) {
+        return std::unexpected(QStringLiteral("--tour, --play and --controls do not go together"));
     }
     if (parser.isSet(port)) {
         const auto number = portNumber(parser.value(port));
@@ -116,9 +120,18 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
         options.playFile = parser.value(play);
         options.outFolder = parser.value(out);
     }
-    if (options.mode != Options::Mode::window && options.outFolder.isEmpty()) {
-        return std::unexpected(options.mode == Options::Mode::play ? QStringLiteral("--play needs --out DIR")
-                                                                   : QStringLiteral("--tour needs a folder"));
+    if (parser.isSet(controls)) {
+        options.mode = Options::Mode::controls;
+        options.controlsFile = parser.value(controls);
+    }
+    if (options.mode == Options::Mode::play && options.outFolder.isEmpty()) {
+        return std::unexpected(QStringLiteral("--play needs --out DIR"));
+    }
+    if (options.mode == Options::Mode::tour && options.outFolder.isEmpty()) {
+        return std::unexpected(QStringLiteral("--tour needs a folder"));
+    }
+    if (options.mode == Options::Mode::controls && options.controlsFile.isEmpty()) {
+        return std::unexpected(QStringLiteral("--controls needs a file"));
     }
     if (parser.isSet(out) && !parser.isSet(play)) {
         return std::unexpected(QStringLiteral("--out goes with --play"));

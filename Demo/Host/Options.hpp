@@ -10,12 +10,14 @@ namespace demo {
 
 /// What a person typed.
 struct Options {
-    enum class Mode { window, tour, play };
+    enum class Mode { window, tour, play, controls };
 
     Mode mode = Mode::window;
     /// Where a tour or a play leaves its pictures and its report.
     QString outFolder;
     QString playFile;
+    /// Where the sheet of controls goes.
+    QString controlsFile;
     /// HOST:PORT of a server to use instead of the one that comes with the project.
     std::optional<QString> gatewayHost;
     quint16 gatewayPort = 0;

@@ -1,8 +1,10 @@
+#include "ControlsSheet.hpp"
 #include "HostApplication.hpp"
 #include "KelCommon/KelLocalized.hpp"
 #include "KelDS/KelAppearance.hpp"
 #include "Options.hpp"
 #include "Play/PlayRunner.hpp"
+#include "Play/WarningCounter.hpp"
 #include "Sandbox/Platform.hpp"
 
 #include <QDir>
@@ -54,6 +56,7 @@ int perform(const std::vector<demo::PlayScript>& plays, demo::PlayRunner& runner
     QJsonArray reports;
     bool ok = true;
     for (const demo::PlayScript& play : plays) {
+        const int warned = demo::WarningCounter::count();
         const QJsonObject report = runner.run(play);
         const bool met = report[QStringLiteral("ok")].toBool();
         ok = ok && met;
@@ -62,6 +65,9 @@ int perform(const std::vector<demo::PlayScript>& plays, demo::PlayRunner& runner
             const QJsonObject step = report[QStringLiteral("steps")].toArray().last().toObject();
             std::printf("        %s\n        %s\n", qUtf8Printable(step[QStringLiteral("step")].toString()),
                         qUtf8Printable(step[QStringLiteral("missing")].toString()));
+        }
+        if (demo::WarningCounter::count() > warned) {
+            std::printf("        warnings, on standard error: %d\n", demo::WarningCounter::count() - warned);
         }
         std::fflush(stdout);
         reports.append(report);
@@ -72,6 +78,60 @@ int perform(const std::vector<demo::PlayScript>& plays, demo::PlayRunner& runner
         return complain(QStringLiteral("cannot write ") + file.fileName(), kFailed);
     }
     return ok ? 0 : kFailed;
+}
+
+int drawSheet(const QString& file) {
+    const auto drawn = demo::drawControls(file);
+    return drawn ? 0 : complain(drawn.error(), kFailed);
+}
+
+/// Sets the gateway and the host up and does what was asked for. All that it made is gone when it returns.
+int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& plays) {
+    const bool inWindow = options.mode == demo::Options::Mode::window;
+    QTemporaryDir freshData;
+    demo::GatewayProcess gateway;
+    demo::GatewayProcess::Settings settings{
+        .program = options.gatewayProgram.isEmpty()
+                       ? QCoreApplication::applicationDirPath() + QStringLiteral("/quillet-gateway")
+                       : options.gatewayProgram,
+        .dataFolder = !inWindow || options.dataFolder.isEmpty() ? freshData.path() : options.dataFolder,
+        .port = options.port,
+        .reset = !inWindow || options.reset};
+    demo::LiveStatus status;
+    demo::GatewayAddress address{options.gatewayHost.value_or(QString()), options.gatewayPort,
+                                 options.caFile};
+    QByteArray orders;
+    if (options.gatewayHost) {
+        status.gatewayElsewhere(address);
+    } else {
+        QDir().mkpath(settings.dataFolder);
+        const auto started = gateway.start(settings);
+        if (!started) {
+            return complain(started.error(), kFailed);
+        }
+        address = *started;
+        orders = demo::GatewayProcess::seededOrders(settings);
+        status.gatewayStarted();
+        gateway.whenEnded(status, [&status] { status.gatewayEnded(); });
+    }
+
+    demo::Journal journal;
+    const auto network = demo::configurePlatform(address, journal);
+    const auto host = std::make_shared<demo::HostApplication>(journal, status, orders);
+    if (!host->load(host, !inWindow)) {
+        return complain(QStringLiteral("the window does not load"), kFailed);
+    }
+    if (inWindow) {
+        return QGuiApplication::exec();
+    }
+    demo::PlayRunner runner(*host, journal, network, options.outFolder);
+    const int result = perform(plays, runner, options.outFolder);
+    if (!options.gatewayHost) {
+        const QString log = options.outFolder + QStringLiteral("/gateway.log");
+        QFile::remove(log);
+        QFile::copy(settings.dataFolder + QStringLiteral("/gateway.log"), log);
+    }
+    return result;
 }
 
 } // namespace
@@ -85,64 +145,35 @@ int main(int argc, char** argv) {
     if (!options) {
         return options.error().isEmpty() ? 0 : complain(options.error(), kUsage);
     }
-    const bool plays = options->mode != demo::Options::Mode::window;
-    std::vector<demo::PlayScript> scripts;
-    if (plays) {
+    const bool inWindow = options->mode == demo::Options::Mode::window;
+    const bool onSheet = options->mode == demo::Options::Mode::controls;
+    std::vector<demo::PlayScript> plays;
+    if (!inWindow && !onSheet) {
         auto read = readPlays(*options);
         if (!read) {
             return complain(read.error(), kUsage);
         }
-        scripts = std::move(*read);
+        plays = std::move(*read);
         if (!QDir().mkpath(options->outFolder)) {
             return complain(QStringLiteral("cannot make the folder ") + options->outFolder, kFailed);
         }
-        // A play needs no display, and its pictures are as fine as a phone's.
+    }
+    if (!inWindow) {
+        // These modes need no display, and their pictures are as fine as a phone's.
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qputenv("QT_SCALE_FACTOR", "2");
     }
 
-    QGuiApplication application(argc, argv);
+    const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("quillet-host"));
     kel::setLanguage(options->language);
     kel::KelAppearance::current().setTheme(options->dark ? kel::KelTheme::dark : kel::KelTheme::light);
 
-    QTemporaryDir freshData;
-    demo::GatewayProcess gateway;
-    demo::GatewayProcess::Settings settings{
-        .program = options->gatewayProgram.isEmpty()
-                       ? QCoreApplication::applicationDirPath() + QStringLiteral("/quillet-gateway")
-                       : options->gatewayProgram,
-        .dataFolder = plays || options->dataFolder.isEmpty() ? freshData.path() : options->dataFolder,
-        .port = options->port,
-        .reset = plays || options->reset};
-    demo::GatewayAddress address{options->gatewayHost.value_or(QString()), options->gatewayPort,
-                                 options->caFile};
-    QByteArray orders;
-    if (!options->gatewayHost) {
-        QDir().mkpath(settings.dataFolder);
-        const auto started = gateway.start(settings);
-        if (!started) {
-            return complain(started.error(), kFailed);
-        }
-        address = *started;
-        orders = demo::GatewayProcess::seededOrders(settings);
+    const demo::WarningCounter warnings;
+    const int status = onSheet ? drawSheet(options->controlsFile) : runHost(*options, plays);
+    if (inWindow || demo::WarningCounter::count() == 0) {
+        return status;
     }
-
-    demo::Journal journal;
-    const auto network = demo::configurePlatform(address, journal);
-    const auto host = std::make_shared<demo::HostApplication>(journal, orders);
-    if (!host->load(host, plays)) {
-        return complain(QStringLiteral("the window does not load"), kFailed);
-    }
-    if (!plays) {
-        return QGuiApplication::exec();
-    }
-    demo::PlayRunner runner(*host, journal, network, options->outFolder);
-    const int status = perform(scripts, runner, options->outFolder);
-    if (!options->gatewayHost) {
-        const QString log = options->outFolder + QStringLiteral("/gateway.log");
-        QFile::remove(log);
-        QFile::copy(settings.dataFolder + QStringLiteral("/gateway.log"), log);
-    }
-    return status;
+    std::printf("FAILED  warnings of Qt or QML, on standard error: %d\n", demo::WarningCounter::count());
+    return kFailed;
 }

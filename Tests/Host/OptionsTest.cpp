@@ -24,7 +24,10 @@ TEST(Options, RefuseEachWrongCombinationInOneLine) {
         {{"--play", "a.play"}, "--play needs --out DIR"},
         {{"--tour", ""}, "--tour needs a folder"},
         {{"--tour"}, "Missing value"},
-        {{"--tour", "d", "--play", "a"}, "--tour and --play do not go together"},
+        {{"--tour", "d", "--play", "a"}, "--tour, --play and --controls do not go together"},
+        {{"--tour", "d", "--controls", "c"}, "--tour, --play and --controls do not go together"},
+        {{"--controls", ""}, "--controls needs a file"},
+        {{"--controls", "c", "--out", "d"}, "--out goes with --play"},
         {{"--out", "d"}, "--out goes with --play"},
         {{"--tour", "d", "--out", "e"}, "--out goes with --play"},
         {{"--play", "a", "--out", "d", "--gateway", "h:1"}, "--gateway and --ca go together"},
@@ -69,6 +72,7 @@ TEST(Options, TakeAServerByNameOrAddress) {
     }
     EXPECT_EQ(parseOptions({"quillet-host"})->mode, Options::Mode::window);
     EXPECT_EQ(parseOptions({"quillet-host", "--tour", "d"})->outFolder, "d");
+    EXPECT_EQ(parseOptions({"quillet-host", "--controls", "c", "--dark"})->controlsFile, "c");
 }
 
 } // namespace demo::testing

@@ -9,6 +9,9 @@ namespace {
 /// A step in one line, all that was read of it.
 QString told(const Step& step) {
     struct Teller {
+        static QString by(Device device) {
+            return device == Device::mouse ? "" : device == Device::touch ? " by touch" : " by key";
+        }
         QString operator()(const steps::Open& s) const {
             const auto& [cart, token, provider, environment] = s.order;
             return QStringLiteral("open %1 %2 %3 %4 %5 %6")
@@ -19,14 +22,15 @@ QString told(const Step& step) {
         QString operator()(const steps::Handmade& s) const { return "handmade " + s.code; }
         QString operator()(const steps::Language& s) const { return "language " + s.code; }
         QString operator()(const steps::Close&) const { return "close"; }
-        QString operator()(const steps::Tap& s) const { return "tap " + s.name; }
+        QString operator()(const steps::Tap& s) const { return "tap " + s.name + by(s.by); }
         QString operator()(const steps::Expect& s) const {
             return QStringLiteral("expect %1 %2").arg(s.text).arg(s.within.count());
         }
         QString operator()(const steps::Absent& s) const { return "absent " + s.text; }
         QString operator()(const steps::Title& s) const { return "title " + s.text; }
-        QString operator()(const steps::Background&) const { return "background"; }
-        QString operator()(const steps::CloseIcon&) const { return "close-icon"; }
+        QString operator()(const steps::Background& s) const { return "background" + by(s.by); }
+        QString operator()(const steps::CloseIcon& s) const { return "close-icon" + by(s.by); }
+        QString operator()(const steps::Scroll& s) const { return s.toEnd ? "scroll end" : "scroll start"; }
         QString operator()(const steps::Back&) const { return "back"; }
         QString operator()(const steps::Shot& s) const { return "shot " + s.name; }
         QString operator()(const steps::Network& s) const { return s.on ? "network on" : "network off"; }
@@ -50,6 +54,8 @@ TEST(PlayScript, ReadsEachKindOfStep) {
         {"close", "close"},
         {R"(tap "Ver Pedidos")", "tap Ver Pedidos"},
         {"tap Actualizar", "tap Actualizar"},
+        {R"(tap "Ver Pedidos" by=touch)", "tap Ver Pedidos by touch"},
+        {"tap by=key by=key", "tap by=key by key"},
         {R"(tap "say \"yes\" \\ no")", R"(tap say "yes" \ no)"},
         {R"(expect "# 1")", "expect # 1 10000"},
         {R"(expect "a" within=0.5)", "expect a 500"},
@@ -57,7 +63,12 @@ TEST(PlayScript, ReadsEachKindOfStep) {
         {"absent x", "absent x"},
         {R"(title "")", "title "},
         {"background", "background"},
+        {"background by=touch", "background by touch"},
         {"  close-icon\t", "close-icon"},
+        {"close-icon by=touch", "close-icon by touch"},
+        {"close-icon by=key", "close-icon by key"},
+        {"scroll end", "scroll end"},
+        {"scroll start", "scroll start"},
         {"back\r", "back"},
         {"shot 01-a.b_c", "shot 01-a.b_c"},
         {"network off", "network off"},
@@ -76,8 +87,10 @@ TEST(PlayScript, NamesTheLineAndWhatIsWrongWithIt) {
     const std::pair<QString, QString> lines[] = {
         {"dance", "unknown step \"dance\""},
         {"Tap x", "unknown step \"Tap\""},
-        {"tap", "this step takes one text"},
-        {"tap Ver Pedidos", "this step takes one text"},
+        {"tap", "tap takes one text"},
+        {"tap Ver Pedidos", "tap takes one text"},
+        {"tap x by=mouse", "tap takes one text"},
+        {"tap x by=key by=touch", "tap takes one text"},
         {R"(tap "Ver Pedidos)", "a quotation mark is left open"},
         {"expect", "expect takes a text"},
         {"expect a b", "expect takes a text"},
@@ -87,6 +100,10 @@ TEST(PlayScript, NamesTheLineAndWhatIsWrongWithIt) {
         {"expect a within=1 within=2", "expect takes a text"},
         {"title a b", "this step takes one text"},
         {"back now", "this step takes nothing"},
+        {"background by=key", "background takes nothing but by=touch"},
+        {"close-icon now", "close-icon takes nothing but by=touch or by=key"},
+        {"scroll", "scroll takes end or start"},
+        {"scroll up", "scroll takes end or start"},
         {"shot ../a", "shot takes a name"},
         {"shot", "shot takes a name"},
         {"network maybe", "network takes on or off"},

@@ -1,12 +1,11 @@
 #include "Play/PlayRunner.hpp"
 
 #include "KelCommon/KelLocalized.hpp"
+#include "Play/Scroller.hpp"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QJsonArray>
-#include <QMouseEvent>
 #include <QTimer>
 
 #include <algorithm>
@@ -35,6 +34,10 @@ QPointF upperEdge(const QQuickItem& item) {
     return item.mapToScene(QPointF(item.width() / 2, 4));
 }
 
+bool isCalled(const ScreenElement& element, const QString& name) {
+    return element.text == name || element.item->objectName() == name;
+}
+
 } // namespace
 
 PlayRunner::PlayRunner(HostApplication& host, Journal& journal,
@@ -43,7 +46,8 @@ PlayRunner::PlayRunner(HostApplication& host, Journal& journal,
       journal_(journal),
       network_(std::move(network)),
       shots_(std::move(shots)),
-      reader_(*host.phone()) {}
+      reader_(*host.phone()),
+      hands_(*host.window()) {}
 
 QJsonObject PlayRunner::run(const PlayScript& play) {
     journal_.clear();
@@ -120,7 +124,7 @@ QString PlayRunner::perform(const steps::Tap& step) {
     const bool tapped = wait(
         kPatience,
         [&] {
-            if (tapHere(step.name)) {
+            if (tapHere(step)) {
                 return true;
             }
             scrollTowards(step.name);
@@ -148,14 +152,24 @@ QString PlayRunner::perform(const steps::Title& step) {
                : QStringLiteral("the title is \"%1\"").arg(title());
 }
 
-QString PlayRunner::perform(const steps::Background&) {
-    return tapNamed(QStringLiteral("dialogBackground"), upperEdge) ? QString()
-                                                                   : QStringLiteral("there is no dialog");
+QString PlayRunner::perform(const steps::Background& step) {
+    return answerDialog(QStringLiteral("dialogBackground"), upperEdge, step.by);
 }
 
-QString PlayRunner::perform(const steps::CloseIcon&) {
-    return tapNamed(QStringLiteral("dialogCloseIcon"), middle) ? QString()
-                                                               : QStringLiteral("there is no dialog");
+QString PlayRunner::perform(const steps::CloseIcon& step) {
+    return answerDialog(QStringLiteral("dialogCloseIcon"), middle, step.by);
+}
+
+QString PlayRunner::perform(const steps::Scroll& step) {
+    // Rows that come into view on the way change where the end is, so it counts once it has stayed the same.
+    // Where all of a page is in view there is nowhere to go.
+    int stays = 0;
+    const bool arrived = wait(kPatience, [&] {
+        QQuickItem* page = reader_.scrollable();
+        stays = settled() && (!page || Scroller(*page).toEdge(step.toEnd)) ? stays + 1 : 0;
+        return stays > 2;
+    });
+    return arrived ? QString() : QStringLiteral("the screen does not come to rest");
 }
 
 QString PlayRunner::perform(const steps::Back&) {
@@ -164,7 +178,7 @@ QString PlayRunner::perform(const steps::Back&) {
         if (!back || !settled() || !reader_.reaches(*back, middle(*back))) {
             return false;
         }
-        click(middle(*back));
+        hands_.tap(middle(*back), Device::mouse);
         return true;
     });
     return went ? QString() : QStringLiteral("there is no way back");
@@ -196,38 +210,32 @@ bool PlayRunner::wait(std::chrono::milliseconds patience, const std::function<bo
     return true;
 }
 
-bool PlayRunner::tapNamed(const QString& objectName, std::function<QPointF(const QQuickItem&)> where) {
-    return wait(kPatience, [&] {
-        const QQuickItem* item = settled() ? reader_.named(objectName) : nullptr;
+QString PlayRunner::answerDialog(const QString& part, QPointF (*where)(const QQuickItem&), Device by) {
+    const bool answered = wait(kPatience, [&] {
+        const QQuickItem* item = settled() ? reader_.named(part) : nullptr;
         if (!item || !reader_.reaches(*item, where(*item))) {
             return false;
         }
-        click(where(*item));
+        by == Device::key ? hands_.press(Qt::Key_Escape) : hands_.tap(where(*item), by);
         return true;
     });
+    return answered ? QString() : QStringLiteral("there is no dialog");
 }
 
-bool PlayRunner::tapHere(const QString& name) {
+bool PlayRunner::tapHere(const steps::Tap& step) {
     if (!settled()) {
         return false;
     }
     for (const ScreenElement& element : reader_.elements()) {
-        if ((element.text == name || element.item->objectName() == name) && element.visible &&
-            element.enabled) {
-            click(element.center);
+        if (isCalled(element, step.name) && element.visible && element.enabled) {
+            if (step.by == Device::key) {
+                return hands_.enter(*element.item);
+            }
+            hands_.tap(element.center, step.by);
             return true;
         }
     }
     return false;
-}
-
-void PlayRunner::click(QPointF point) {
-    QQuickWindow* window = host_.window();
-    const QPointF global = window->mapToGlobal(point);
-    QMouseEvent press(QEvent::MouseButtonPress, point, point, global, Qt::LeftButton, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(window, &press);
-    QMouseEvent release(QEvent::MouseButtonRelease, point, point, global, Qt::LeftButton, Qt::NoButton, {});
-    QCoreApplication::sendEvent(window, &release);
 }
 
 void PlayRunner::scrollTowards(const QString& name) {
@@ -235,17 +243,12 @@ void PlayRunner::scrollTowards(const QString& name) {
     if (!page) {
         return;
     }
-    const double origin = page->property("originY").toDouble();
-    const double last = origin + page->property("contentHeight").toDouble() - page->height();
-    const double here = page->property("contentY").toDouble();
-    double next = here >= last - 1 ? origin : here + 0.7 * page->height();
     for (const ScreenElement& element : reader_.elements()) {
-        if (element.text == name || element.item->objectName() == name) {
-            const QPointF corner = page->mapToScene(QPointF(0, 0));
-            next = here + element.center.y() - corner.y() - page->height() / 2;
+        if (isCalled(element, name)) {
+            return Scroller(*page).toMiddle(element.center.y());
         }
     }
-    page->setProperty("contentY", std::clamp(next, origin, std::max(origin, last)));
+    Scroller(*page).onwards();
 }
 
 QString PlayRunner::title() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HostApplication.hpp"
+#include "Play/Hands.hpp"
 #include "Play/PlayScript.hpp"
 #include "Play/ScreenReader.hpp"
 #include "Sandbox/Recorders.hpp"
@@ -38,6 +39,7 @@ private:
     [[nodiscard]] QString perform(const steps::Title& step);
     [[nodiscard]] QString perform(const steps::Background& step);
     [[nodiscard]] QString perform(const steps::CloseIcon& step);
+    [[nodiscard]] QString perform(const steps::Scroll& step);
     [[nodiscard]] QString perform(const steps::Back& step);
     [[nodiscard]] QString perform(const steps::Shot& step);
     [[nodiscard]] QString perform(const steps::Network& step);
@@ -45,9 +47,9 @@ private:
     /// Lets time pass until `done`, at the most `patience`, looking every `glance`; whether it came to that.
     bool wait(std::chrono::milliseconds patience, const std::function<bool()>& done,
               std::chrono::milliseconds glance = std::chrono::milliseconds(20));
-    bool tapNamed(const QString& objectName, std::function<QPointF(const QQuickItem&)> where);
-    bool tapHere(const QString& name);
-    void click(QPointF point);
+    /// Taps a part of the dialog, or presses Escape where the key is to do it; what is missing, as above.
+    [[nodiscard]] QString answerDialog(const QString& part, QPointF (*where)(const QQuickItem&), Device by);
+    bool tapHere(const steps::Tap& step);
     void scrollTowards(const QString& name);
     [[nodiscard]] QString title() const;
     /// Neither a page nor a dialog is on its way in or out.
@@ -58,6 +60,7 @@ private:
     std::shared_ptr<SwitchableNetworkPath> network_;
     QString shots_;
     ScreenReader reader_;
+    Hands hands_;
     bool hasOpened_ = false;
 };
 

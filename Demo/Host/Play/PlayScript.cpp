@@ -116,6 +116,41 @@ Parsed parseText(const Words& words) {
                              : std::unexpected(QStringLiteral("this step takes one text"));
 }
 
+/// The device in "by=DEVICE", the mouse if nothing is said; nothing if it is not one of these.
+std::optional<Device> parseDevice(const Words& words, const QHash<QString, Device>& others) {
+    if (words.isEmpty()) {
+        return Device::mouse;
+    }
+    const auto values = settings(words, {QStringLiteral("by")});
+    const auto device = others.constFind(values ? values->value(QStringLiteral("by")) : QString());
+    return device == others.constEnd() ? std::nullopt : std::optional(*device);
+}
+
+const QHash<QString, Device>& touchOrKey() {
+    static const QHash<QString, Device> devices{{QStringLiteral("touch"), Device::touch},
+                                                {QStringLiteral("key"), Device::key}};
+    return devices;
+}
+
+Parsed parseTap(const Words& words) {
+    const auto by = parseDevice(words.mid(1), touchOrKey());
+    return !words.isEmpty() && by
+               ? Parsed(steps::Tap{words.first(), *by})
+               : std::unexpected(QStringLiteral("tap takes one text, and by=touch or by=key if wanted"));
+}
+
+Parsed parseBackground(const Words& words) {
+    const auto by = parseDevice(words, {{QStringLiteral("touch"), Device::touch}});
+    return by ? Parsed(steps::Background{*by})
+              : std::unexpected(QStringLiteral("background takes nothing but by=touch"));
+}
+
+Parsed parseCloseIcon(const Words& words) {
+    const auto by = parseDevice(words, touchOrKey());
+    return by ? Parsed(steps::CloseIcon{*by})
+              : std::unexpected(QStringLiteral("close-icon takes nothing but by=touch or by=key"));
+}
+
 template <typename BareStep>
 Parsed parseBare(const Words& words) {
     return words.isEmpty() ? Parsed(BareStep{}) : std::unexpected(QStringLiteral("this step takes nothing"));
@@ -153,18 +188,25 @@ Parsed parseNetwork(const Words& words) {
                  : std::unexpected(QStringLiteral("network takes on or off"));
 }
 
+Parsed parseScroll(const Words& words) {
+    const auto edge = choice(words, {QStringLiteral("end"), QStringLiteral("start")});
+    return edge ? Parsed(steps::Scroll{*edge == QLatin1String("end")})
+                : std::unexpected(QStringLiteral("scroll takes end or start"));
+}
+
 Parsed parseStep(const QString& line) {
     static const QHash<QString, std::function<Parsed(const Words&)>> parsers{
         {QStringLiteral("open"), parseOpen},
         {QStringLiteral("handmade"), parseHandmade},
         {QStringLiteral("language"), parseLanguage},
         {QStringLiteral("close"), parseBare<steps::Close>},
-        {QStringLiteral("tap"), parseText<steps::Tap>},
+        {QStringLiteral("tap"), parseTap},
         {QStringLiteral("expect"), parseExpect},
         {QStringLiteral("absent"), parseText<steps::Absent>},
         {QStringLiteral("title"), parseText<steps::Title>},
-        {QStringLiteral("background"), parseBare<steps::Background>},
-        {QStringLiteral("close-icon"), parseBare<steps::CloseIcon>},
+        {QStringLiteral("background"), parseBackground},
+        {QStringLiteral("close-icon"), parseCloseIcon},
+        {QStringLiteral("scroll"), parseScroll},
         {QStringLiteral("back"), parseBare<steps::Back>},
         {QStringLiteral("shot"), parseShot},
         {QStringLiteral("network"), parseNetwork},

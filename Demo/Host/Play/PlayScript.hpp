@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HostApplication.hpp"
+#include "Play/Hands.hpp"
 
 #include <QString>
 
@@ -28,6 +29,7 @@ struct Close {};
 /// By shown text, accessible name, or identifier.
 struct Tap {
     QString name;
+    Device by = Device::mouse;
 };
 struct Expect {
     QString text;
@@ -39,8 +41,17 @@ struct Absent {
 struct Title {
     QString text;
 };
-struct Background {};
-struct CloseIcon {};
+struct Background {
+    Device by = Device::mouse;
+};
+/// By key it is Escape.
+struct CloseIcon {
+    Device by = Device::mouse;
+};
+/// All the way.
+struct Scroll {
+    bool toEnd;
+};
 struct Back {};
 struct Shot {
     QString name;
@@ -53,7 +64,7 @@ struct Network {
 
 using Step = std::variant<steps::Open, steps::Handmade, steps::Language, steps::Close, steps::Tap,
                           steps::Expect, steps::Absent, steps::Title, steps::Background, steps::CloseIcon,
-                          steps::Back, steps::Shot, steps::Network>;
+                          steps::Scroll, steps::Back, steps::Shot, steps::Network>;
 
 /// A step, and the line that it was written as.
 struct PlayLine {

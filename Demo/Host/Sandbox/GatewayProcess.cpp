@@ -49,6 +49,10 @@ std::expected<GatewayAddress, QString> GatewayProcess::start(const Settings& set
     return std::unexpected(complaint.isEmpty() ? QStringLiteral("the gateway does not answer") : complaint);
 }
 
+void GatewayProcess::whenEnded(const QObject& context, const std::function<void()>& tell) const {
+    QObject::connect(&process_, &QProcess::finished, &context, tell);
+}
+
 QByteArray GatewayProcess::seededOrders(const Settings& settings) {
     QProcess list;
     list.start(settings.program, {QStringLiteral("--data"), settings.dataFolder, QStringLiteral("--list")});

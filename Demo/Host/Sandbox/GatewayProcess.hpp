@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <expected>
+#include <functional>
 
 namespace demo {
 
@@ -28,6 +29,8 @@ public:
     /// Starts the gateway and waits, ten seconds at the most, until it listens. The error is one line for a
     /// person.
     [[nodiscard]] std::expected<GatewayAddress, QString> start(const Settings& settings);
+    /// Calls `tell` when a gateway that listened has ended of itself, as long as `context` lives.
+    void whenEnded(const QObject& context, const std::function<void()>& tell) const;
 
     /// The customers' orders that the gateway has been seeded with, as its `--list` tells them.
     [[nodiscard]] static QByteArray seededOrders(const Settings& settings);

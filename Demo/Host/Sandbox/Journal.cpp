@@ -78,18 +78,23 @@ void Journal::eventTracked(const kel::KelAnalyticsEventType& event) {
     Q_EMIT analyticsChanged();
 }
 
-void Journal::navigated(const QString& operation) {
+void Journal::navigated(const QString& operation, kel::KelIconNumber icon) {
     navigation_.append(QVariantMap{{QStringLiteral("operation"), operation},
+                                   {QStringLiteral("icon"), int(icon)},
                                    {QStringLiteral("time"), timeStamp(QStringLiteral("HH:mm:ss"))}});
     Q_EMIT navigationChanged();
 }
 
-void Journal::clear() {
+void Journal::beginOrder() {
     requests_.clear();
     analytics_.clear();
-    navigation_.clear();
     Q_EMIT requestsChanged();
     Q_EMIT analyticsChanged();
+}
+
+void Journal::clear() {
+    beginOrder();
+    navigation_.clear();
     Q_EMIT navigationChanged();
 }
 

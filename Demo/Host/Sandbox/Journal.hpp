@@ -1,6 +1,7 @@
 #pragma once
 
 #include "KelCommon/KelAnalytics.hpp"
+#include "KelDSIcons/KelDSIcons.hpp"
 #include "Network/Session/URLSessionObserving.hpp"
 
 #include <QJsonArray>
@@ -23,7 +24,10 @@ public:
                       const quillet::URLSessionExchangeEnd& end);
     void screenTracked(const QString& name);
     void eventTracked(const kel::KelAnalyticsEventType& event);
-    void navigated(const QString& operation);
+    /// The icon is what the journal shows beside the operation.
+    void navigated(const QString& operation, kel::KelIconNumber icon);
+    /// Makes room for the next order's requests and analytics. What was handed over before stays to be seen.
+    void beginOrder();
     void clear();
 
     [[nodiscard]] QVariantList requests() const { return requests_; }

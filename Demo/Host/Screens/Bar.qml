@@ -47,5 +47,7 @@ Rectangle {
     KelDivider {
         anchors.bottom: parent.bottom
         width: parent.width
+        // A tab bar below the host's bar is drawn as one with it.
+        visible: !(bar.screen?.continuesBar ?? false)
     }
 }

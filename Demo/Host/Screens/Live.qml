@@ -6,89 +6,43 @@ Rectangle {
     id: live
 
     required property var journal
+    required property var status
+    required property bool moduleOpen
 
-    color: Qt.darker(KelColors.background, 1.03)
+    // Four requests, which is what most orders take, have room without scrolling.
+    readonly property int requestsHeight: KelSizes.mediumX + 4 * KelSizes.medium + KelSpacing.tiny
 
-    Rectangle {
+    // A shade below the module's ground. The dark ground is deep enough for the cards to stand out from it.
+    color: KelColors.hasShadows ? Qt.tint(KelColors.background, KelColors.withAlpha(KelColors.lowEmphasis, KelOpacity.low))
+                                : KelColors.background
+
+    KelDivider {
+        id: edge
+
         width: 1
         height: parent.height
-        color: KelColors.hairline
     }
     Item {
         anchors.fill: parent
         anchors.margins: KelSpacing.semi
+        anchors.leftMargin: KelSpacing.semi + edge.width
 
-        KelLabel {
-            id: heading
+        LiveHeader {
+            id: header
 
-            text: "Live"
-            size: 5
-            weight: 1
+            width: parent.width
+            status: live.status
         }
         LiveCard {
             id: requests
 
-            anchors.top: heading.bottom
-            anchors.topMargin: KelSpacing.small
+            anchors.top: header.bottom
+            anchors.topMargin: KelSpacing.semi
             width: parent.width
-            height: (parent.height - heading.height - 2 * KelSpacing.small) * 0.4
+            height: live.requestsHeight
             title: "Requests"
             rows: live.journal.requests
-            rowDelegate: Item {
-                id: request
-
-                required property var modelData
-
-                width: ListView.view.width
-                height: KelSizes.medium
-
-                KelLabel {
-                    id: time
-
-                    height: parent.height
-                    text: request.modelData.time
-                    size: 11
-                    color: KelColors.mediumEmphasis
-                }
-                KelLabel {
-                    id: method
-
-                    x: 96
-                    height: parent.height
-                    text: request.modelData.method
-                    size: 11
-                    weight: 2
-                }
-                KelLabel {
-                    x: 152
-                    width: tag.x - x - KelSpacing.tiny
-                    height: parent.height
-                    text: request.modelData.path
-                    size: 11
-                    elide: Text.ElideMiddle
-                }
-                KelTag {
-                    id: tag
-
-                    anchors.right: duration.left
-                    anchors.verticalCenter: parent.verticalCenter
-                    text: request.modelData.pending ? "…"
-                        : request.modelData.status > 0 ? request.modelData.status : request.modelData.error
-                    colorIndex: request.modelData.pending ? 4
-                              : request.modelData.status >= 200 && request.modelData.status < 300 ? 1 : 3
-                }
-                KelLabel {
-                    id: duration
-
-                    anchors.right: parent.right
-                    width: 72
-                    height: parent.height
-                    text: request.modelData.pending ? "" : request.modelData.milliseconds + " ms"
-                    size: 11
-                    color: KelColors.mediumEmphasis
-                    horizontalAlignment: Text.AlignRight
-                }
-            }
+            rowDelegate: LiveRequest {}
         }
         LiveCard {
             id: analytics
@@ -96,14 +50,16 @@ Rectangle {
             anchors.top: requests.bottom
             anchors.topMargin: KelSpacing.small
             anchors.bottom: parent.bottom
-            width: (parent.width - KelSpacing.small) * 0.6
+            width: Math.round((parent.width - KelSpacing.small) * 0.6)
             title: "Analytics"
             rows: live.journal.analytics
             rowDelegate: LiveEntry {
                 title: modelData.screen ?? modelData.label
                 detail: modelData.screen ? "screen" : modelData.action
+                time: modelData.time
                 icon: modelData.screen ? KelIcons.Screen : KelIcons.Touch
                 tone: modelData.screen ? KelColors.link : KelColors.warning
+                ground: modelData.screen ? KelColors.link : KelColors.primary
             }
         }
         LiveCard {
@@ -114,10 +70,11 @@ Rectangle {
             width: parent.width - analytics.width - KelSpacing.small
             title: "Navigation"
             rows: live.journal.navigation
+            outlook: live.moduleOpen ? "Waiting for the module to hand over" : ""
             rowDelegate: LiveEntry {
                 title: modelData.operation
-                detail: ""
-                icon: KelIcons.Home
+                detail: modelData.time
+                icon: modelData.icon
                 tone: KelColors.mediumEmphasis
             }
         }

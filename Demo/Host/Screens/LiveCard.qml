@@ -1,45 +1,56 @@
+// Bound components cannot be made by a view or a loader in Qt 6.4, so the ids of this file are seen from inside them.
+// qmllint disable unqualified
+
 import QtQuick
 import KelDS
 
-Rectangle {
+// One list of the journal under its head, with the number of its rows.
+KelCard {
     id: card
 
     required property string title
     required property var rows
     required property Component rowDelegate
+    // What is still to come, below the last row.
+    property string outlook
 
-    radius: KelRadius.large
-    color: KelColors.surface
-    border.width: 1
-    border.color: KelColors.hairline
+    padding: 0
 
     KelLabel {
         x: KelSpacing.small
-        height: KelSizes.medium
+        height: KelSizes.mediumX
         text: card.title
         weight: 1
     }
     KelLabel {
         anchors.right: parent.right
         anchors.rightMargin: KelSpacing.small
-        height: KelSizes.medium
+        height: KelSizes.mediumX
         text: card.rows.length
-        size: 7
+        size: 11
         color: KelColors.mediumEmphasis
     }
     KelDivider {
-        y: KelSizes.medium
+        y: KelSizes.mediumX - height
         width: parent.width
     }
     ListView {
         anchors.fill: parent
-        anchors.topMargin: KelSizes.medium + 1
+        anchors.topMargin: KelSizes.mediumX
         anchors.leftMargin: KelSpacing.small
         anchors.rightMargin: KelSpacing.small
         anchors.bottomMargin: KelSpacing.tiny
         clip: true
+        boundsBehavior: Flickable.StopAtBounds
         model: card.rows
         delegate: card.rowDelegate
+        footer: KelLabel {
+            visible: text !== ""
+            height: visible ? KelSizes.mediumX : 0
+            text: card.outlook
+            size: 11
+            color: KelColors.mediumEmphasis
+        }
         onCountChanged: positionViewAtEnd()
     }
 }

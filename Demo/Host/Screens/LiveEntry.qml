@@ -1,6 +1,7 @@
 import QtQuick
 import KelDS
 
+// Something that happened once: what, what about it, and when.
 Item {
     id: entry
 
@@ -9,6 +10,11 @@ Item {
     required property string detail
     required property int icon
     required property color tone
+    // Absent where the time is the detail.
+    property string time
+    // What tints the square that the icon stands on; transparent where the icon stands alone.
+    property color ground: "transparent"
+    readonly property bool tiled: entry.ground.a > 0
 
     width: ListView.view.width
     height: KelSizes.mediumX
@@ -17,10 +23,10 @@ Item {
         id: tile
 
         anchors.verticalCenter: parent.verticalCenter
-        width: KelSizes.semi
-        height: KelSizes.semi
+        width: entry.tiled ? KelSizes.semi : KelSizes.small
+        height: width
         radius: KelRadius.medium
-        color: KelColors.tint(entry.tone)
+        color: entry.tiled ? KelColors.withAlpha(entry.ground, KelOpacity.low) : "transparent"
 
         KelIcon {
             anchors.centerIn: parent
@@ -29,10 +35,12 @@ Item {
         }
     }
     Column {
-        x: tile.width + 12
+        id: texts
+
+        x: tile.width + (entry.tiled ? KelSpacing.small : 12)
         anchors.verticalCenter: parent.verticalCenter
-        width: time.x - x - KelSpacing.tiny
-        spacing: 2
+        width: time.x - x - (time.width > 0 ? KelSpacing.tiny : 0)
+        spacing: KelSpacing.micro
 
         KelLabel {
             width: parent.width
@@ -42,10 +50,11 @@ Item {
             elide: Text.ElideRight
         }
         KelLabel {
-            visible: text !== ""
+            width: parent.width
             text: entry.detail
             size: 11
             color: KelColors.mediumEmphasis
+            elide: Text.ElideRight
         }
     }
     KelLabel {
@@ -53,8 +62,13 @@ Item {
 
         anchors.right: parent.right
         height: parent.height
-        text: entry.modelData.time
+        text: entry.time
         size: 11
         color: KelColors.mediumEmphasis
+    }
+    KelDivider {
+        x: texts.x
+        anchors.bottom: parent.bottom
+        width: parent.width - x
     }
 }

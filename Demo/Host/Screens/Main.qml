@@ -72,6 +72,8 @@ ApplicationWindow {
 
         Live {
             journal: window.host.journal
+            status: window.host.status
+            moduleOpen: bar.screen !== null
         }
     }
 }

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Entry/Environment.hpp"
+#include "Models/CartForConsultant.hpp"
+#include "Sandbox/GatewayProcess.hpp"
+
+#include <QObject>
+#include <QString>
+
+namespace demo {
+
+/// What the journal is about: whose order is open, in which environment, and how its gateway is. Main thread
+/// only.
+class LiveStatus final : public QObject {
+    Q_OBJECT
+    /// Empty before the first order.
+    Q_PROPERTY(QString order READ order NOTIFY changed FINAL)
+    Q_PROPERTY(QString environment READ environment NOTIFY changed FINAL)
+    Q_PROPERTY(QString gateway READ gateway NOTIFY changed FINAL)
+    /// An index of the tag colours.
+    Q_PROPERTY(int gatewayColor READ gatewayColor NOTIFY changed FINAL)
+
+public:
+    /// The gateway is the host's own and listens, until it is said to have ended.
+    void gatewayStarted();
+    void gatewayEnded();
+    /// The gateway is somebody else's: only its address is known.
+    void gatewayElsewhere(const GatewayAddress& address);
+    void opened(const quillet::CartForConsultant& cart, quillet::Environment environment);
+
+    [[nodiscard]] QString order() const { return order_; }
+    [[nodiscard]] QString environment() const { return environment_; }
+    [[nodiscard]] QString gateway() const { return gateway_; }
+    [[nodiscard]] int gatewayColor() const { return gatewayColor_; }
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void setGateway(const QString& text, int color);
+
+    QString order_;
+    QString environment_ = QStringLiteral("dev");
+    QString gateway_;
+    int gatewayColor_ = 0;
+};
+
+} // namespace demo

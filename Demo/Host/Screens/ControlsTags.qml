@@ -1,0 +1,54 @@
+// Bound components cannot be made by a view or a loader in Qt 6.4, so the ids of this file are seen from inside them.
+// qmllint disable unqualified
+
+import QtQuick
+import KelDS
+
+ControlsSection {
+    id: section
+
+    readonly property list<string> colors: ["primary", "success", "warning", "alert", "link"]
+
+    title: "Tags"
+
+    Row {
+        width: parent.width
+
+        Repeater {
+            model: section.colors
+
+            Column {
+                id: sample
+
+                required property int index
+                required property string modelData
+
+                width: 2 * KelSizes.medium
+                spacing: KelSpacing.small
+
+                KelTag {
+                    text: sample.index === 2 ? "12" : "3"
+                    colorIndex: sample.index
+                }
+                KelTag {
+                    colorIndex: sample.index
+                }
+                ControlsNote {
+                    text: sample.index + " " + sample.modelData
+                }
+            }
+        }
+        Column {
+            spacing: KelSpacing.tiny
+
+            ControlsNote {
+                height: KelSizes.standard
+                text: "with text: " + KelSizes.standard + " high"
+            }
+            ControlsNote {
+                height: KelSizes.standard
+                text: "without: " + KelSizes.semi + " × " + KelSizes.tiny
+            }
+        }
+    }
+}

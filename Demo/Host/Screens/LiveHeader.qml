@@ -1,0 +1,47 @@
+import QtQuick
+import KelDS
+
+// Whose order the journal is about; at the right where its requests go.
+Item {
+    id: header
+
+    required property var status
+
+    implicitHeight: KelSizes.semiX
+
+    Column {
+        anchors.verticalCenter: parent.verticalCenter
+        width: tags.x - KelSpacing.small
+        spacing: KelSpacing.micro
+
+        KelLabel {
+            text: "Live"
+            size: 5
+            weight: 1
+        }
+        KelLabel {
+            width: parent.width
+            visible: text !== ""
+            text: header.status.order
+            size: 11
+            color: KelColors.mediumEmphasis
+            elide: Text.ElideRight
+        }
+    }
+    Row {
+        id: tags
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: KelSpacing.tiny
+
+        KelTag {
+            text: header.status.environment
+            colorIndex: 4
+        }
+        KelTag {
+            text: header.status.gateway
+            colorIndex: header.status.gatewayColor
+        }
+    }
+}
