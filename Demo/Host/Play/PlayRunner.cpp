@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace demo {
 
@@ -18,6 +19,8 @@ namespace {
 constexpr std::chrono::milliseconds kGlance{20};
 /// The same for one that scrolls through a long list meanwhile.
 constexpr std::chrono::milliseconds kScrollGlance{1};
+/// How long a picture waits for the screen to come to rest.
+constexpr std::chrono::milliseconds kComingToRest{600};
 
 void letTimePass(std::chrono::milliseconds time) {
     QEventLoop loop;
@@ -187,9 +190,13 @@ QString PlayRunner::perform(const steps::Back&) {
 QString PlayRunner::perform(const steps::Shot& step) {
     const QString file = shots_ + u'/' + step.name + QStringLiteral(".png");
     wait(kPatience, [this] { return settled(); });
-    // Two frames: bindings that the last tap set off have been drawn by the second.
-    letTimePass(2 * kGlance);
-    return host_.window()->grabWindow().save(file) ? QString() : QStringLiteral("cannot write %1").arg(file);
+    // Something may still be on its way, as a section that opens is, or for ever, as the ring is.
+    QImage picture;
+    wait(kComingToRest, [&] {
+        const QImage before = std::exchange(picture, host_.window()->grabWindow());
+        return picture == before;
+    });
+    return picture.save(file) ? QString() : QStringLiteral("cannot write %1").arg(file);
 }
 
 QString PlayRunner::perform(const steps::Network& step) {
