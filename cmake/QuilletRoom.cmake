@@ -63,8 +63,13 @@ endfunction()
 # Most of the time a QML target takes to compile goes into the same few Qt headers, in our sources and in what Qt
 # generates from the QML files alike.
 function(quillet_precompile_qt target)
-    target_precompile_headers(${target} PRIVATE
+    quillet_precompile(${target}
         <QtQuick/QQuickItem> <QtQml/QQmlEngine> <QtQml/qqmlprivate.h> <functional> <memory> <optional> <string>)
+endfunction()
+
+# Headers that a target compiles once instead of once a file. ccache needs the flag to see into them.
+function(quillet_precompile target)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endfunction()
 

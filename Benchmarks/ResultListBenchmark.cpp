@@ -1,0 +1,190 @@
+#include "AllocationCount.hpp"
+#include "ResultStage.hpp"
+
+#include "KelCommon/KelLocalized.hpp"
+
+#include <QGuiApplication>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+
+namespace quillet::benchmarks {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+std::vector<Product> madeProducts(std::size_t count, bool someNotSent) {
+    std::vector<Product> products(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        products[i].productCode = 10000 + i;
+        products[i].description = "Protector solar FPS 50 rostro y cuerpo " + std::to_string(i);
+        products[i].quantity = 1 + i % 3;
+        products[i].totalPoints = i % 120;
+        products[i].status =
+            someNotSent && i % 2 == 0 ? ProductErrorStatus::unavailable : ProductErrorStatus::none;
+    }
+    return products;
+}
+
+/// A stage that has shown and taken away such a result before: what happens once in the life of a program,
+/// such as compiling QML and loading fonts, is behind it.
+std::unique_ptr<ResultStage> warmStage(const std::vector<Product>& products) {
+    auto stage = std::make_unique<ResultStage>();
+    for (int i = 0; i < 3; ++i) {
+        stage->open(products);
+        stage->close();
+    }
+    return stage;
+}
+
+double seconds(Milliseconds time) {
+    return std::chrono::duration<double>(time).count();
+}
+
+std::size_t bytesOf(const std::vector<Product>& products) {
+    const std::size_t before = liveBytes();
+    const std::vector<Product> copy = products;
+    benchmark::DoNotOptimize(copy.data());
+    return liveBytes() - before;
+}
+
+/// From the response's products to the first frame that shows rows of them.
+void open(benchmark::State& state) {
+    const auto products = madeProducts(static_cast<std::size_t>(state.range(0)), true);
+    const auto stage = warmStage(products);
+    ResultStage::Opening sum;
+    std::uint64_t allocations = 0;
+    for (auto _ : state) {
+        const std::uint64_t before = allocationCount();
+        const auto opening = stage->open(products);
+        allocations = allocationCount() - before;
+        state.SetIterationTime(seconds(opening.all()));
+        sum.input += opening.input;
+        sum.view += opening.view;
+        sum.push += opening.push;
+        sum.frame += opening.frame;
+        state.counters["rows"] = static_cast<double>(stage->rows().size());
+        stage->close();
+    }
+    constexpr auto average = benchmark::Counter::kAvgIterations;
+    state.counters["input/ms"] = benchmark::Counter(sum.input.count(), average);
+    state.counters["view/ms"] = benchmark::Counter(sum.view.count(), average);
+    state.counters["push/ms"] = benchmark::Counter(sum.push.count(), average);
+    state.counters["frame/ms"] = benchmark::Counter(sum.frame.count(), average);
+    state.counters["allocations"] = static_cast<double>(allocations);
+}
+
+/// What the heap holds while the screen is shown and did not hold before. The response's own products are
+/// there before and after and do not count.
+void memory(benchmark::State& state) {
+    const auto products = madeProducts(static_cast<std::size_t>(state.range(0)), true);
+    const auto stage = warmStage(products);
+    const std::size_t records = bytesOf(products);
+    for (auto _ : state) {
+        const std::size_t before = liveBytes();
+        const auto opening = stage->open(products);
+        const std::size_t shown = liveBytes() - before;
+        state.SetIterationTime(seconds(opening.all()));
+        state.counters["records"] = static_cast<double>(records);
+        state.counters["shown"] = static_cast<double>(shown);
+        state.counters["beyondRecords"] = static_cast<double>(shown) - static_cast<double>(records);
+        state.counters["highest"] = static_cast<double>(opening.highestLiveBytes - before);
+        stage->close();
+    }
+}
+
+/// From the tap on the head of a section to the frame without, or with, its products.
+void toggle(benchmark::State& state, bool expand) {
+    const auto products = madeProducts(static_cast<std::size_t>(state.range(0)), false);
+    const auto stage = warmStage(products);
+    stage->open(products);
+    for (auto _ : state) {
+        if (expand) {
+            stage->toggle(0);
+        }
+        const auto start = Clock::now();
+        stage->toggle(0);
+        state.SetIterationTime(seconds(Clock::now() - start));
+        state.counters["rows"] = static_cast<double>(stage->rows().size());
+        if (!expand) {
+            stage->toggle(0);
+        }
+    }
+    stage->close();
+}
+
+void collapse(benchmark::State& state) {
+    toggle(state, false);
+}
+void expand(benchmark::State& state) {
+    toggle(state, true);
+}
+
+/// From the top of the list to its end, half a screen a frame, which is more than any flick.
+void scroll(benchmark::State& state) {
+    const auto products = madeProducts(static_cast<std::size_t>(state.range(0)), true);
+    const auto stage = warmStage(products);
+    for (auto _ : state) {
+        stage->open(products);
+        QQuickItem& list = stage->list();
+        std::size_t made = 0;
+        std::size_t mostAlive = 0;
+        std::size_t frames = 0;
+        std::uint64_t allocations = 0;
+        Milliseconds all{};
+        Milliseconds longest{};
+        while (!list.property("atYEnd").toBool()) {
+            const std::uint64_t before = allocationCount();
+            const auto start = Clock::now();
+            const double y = list.property("contentY").toDouble() + list.height() / 2;
+            const double end =
+                list.property("originY").toDouble() + list.property("contentHeight").toDouble();
+            list.setProperty("contentY", std::min(y, end - list.height()));
+            stage->drawFrame();
+            const Milliseconds time = Clock::now() - start;
+            allocations += allocationCount() - before;
+            all += time;
+            longest = std::max(longest, time);
+            ++frames;
+            const auto rows = stage->rows();
+            mostAlive = std::max(mostAlive, rows.size());
+            made += static_cast<std::size_t>(std::ranges::count_if(rows, [](QQuickItem* row) {
+                const bool isNew = !row->property("seen").isValid();
+                row->setProperty("seen", true);
+                return isNew;
+            }));
+        }
+        state.SetIterationTime(seconds(all));
+        state.counters["frames"] = static_cast<double>(frames);
+        state.counters["frame/ms"] = all.count() / static_cast<double>(frames);
+        state.counters["longest/ms"] = longest.count();
+        state.counters["allocations/row"] = static_cast<double>(allocations) / static_cast<double>(made);
+        state.counters["rowsMade"] = static_cast<double>(made);
+        state.counters["rowsAlive"] = static_cast<double>(mostAlive);
+        stage->close();
+    }
+}
+
+constexpr auto ms = benchmark::kMillisecond;
+BENCHMARK(open)->Arg(10)->Arg(1'000)->Arg(10'000)->UseManualTime()->Unit(ms);
+BENCHMARK(memory)->Arg(10)->Arg(10'000)->UseManualTime()->Iterations(3)->Unit(ms);
+BENCHMARK(collapse)->Arg(10)->Arg(10'000)->UseManualTime()->Unit(ms);
+BENCHMARK(expand)->Arg(10)->Arg(10'000)->UseManualTime()->Unit(ms);
+BENCHMARK(scroll)->Arg(10'000)->UseManualTime()->Iterations(1)->Unit(ms);
+
+} // namespace
+
+} // namespace quillet::benchmarks
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    // A frame is drawn as soon as it is asked for; the pause that spares a battery would be measured as well.
+    qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
+    const QGuiApplication application(argc, argv);
+    kel::setLanguage(QStringLiteral("es"));
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}

@@ -1,0 +1,146 @@
+#include "ResultStage.hpp"
+
+#include "Checkout/Inputs/ResultFactories.hpp"
+#include "Views/QuilletViews.hpp"
+#include "Views/Screen/NavigationController.hpp"
+
+#include <QEventLoop>
+#include <QQmlComponent>
+
+#include <malloc.h>
+
+#include <stdexcept>
+
+extern void qml_register_types_Quillet_Checkout();
+static void initCheckoutResources() {
+    Q_INIT_RESOURCE(qmake_Quillet_Checkout);
+}
+
+namespace quillet::benchmarks {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr auto kHost = R"(
+    import QtQuick
+    import QtQuick.Controls.Basic
+    ApplicationWindow {
+        width: 390; height: 844; visible: true
+        property alias stack: stack
+        function clear() { stack.pop(null, StackView.Immediate) }
+        StackView {
+            id: stack
+            anchors.fill: parent; anchors.topMargin: 64
+            pushEnter: null; pushExit: null
+            initialItem: Item {}
+        }
+    })";
+
+class NoAnalytics final : public kel::KelAnalyticsManagerType {
+public:
+    void trackScreen(const kel::KelAnalyticsScreenType& /*screen*/) override {}
+    void trackEvent(const kel::KelAnalyticsEventType& /*event*/) override {}
+};
+
+QQuickItem* findList(const QQuickItem& root) {
+    for (QQuickItem* child : root.childItems()) {
+        QQuickItem* const found = child->inherits("QQuickListView") ? child : findList(*child);
+        if (found) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+ResultStage::ResultStage() : engine_(std::make_unique<QQmlEngine>()) {
+    initCheckoutResources();
+    qml_register_types_Quillet_Checkout();
+    useQuilletViews(*engine_);
+    QQmlComponent component(engine_.get());
+    component.setData(kHost, QUrl());
+    window_.reset(qobject_cast<QQuickWindow*>(component.create()));
+    if (!window_) {
+        throw std::runtime_error(component.errorString().toStdString());
+    }
+    stack_ = window_->property("stack").value<QQuickItem*>();
+    drawFrame();
+}
+
+ResultStage::~ResultStage() {
+    window_.reset();
+}
+
+ResultStage::Opening ResultStage::open(const std::vector<Product>& products) {
+    Opening opening;
+    const auto start = Clock::now();
+    auto input = std::make_unique<ProductsPartiallyAddedFactoryInput>(QStringLiteral("05"), 1, 1, 1, products,
+                                                                      products);
+    const auto filtered = Clock::now();
+    auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
+        std::make_unique<LoadingDisplayer>(std::make_unique<LoadingView>()), std::make_shared<NoAnalytics>());
+    screen->setView(ProductsPartiallyAddedFactory({}).view(*input, *screen));
+    const auto built = Clock::now();
+    // Looking costs time that is no part of the opening.
+    opening.highestLiveBytes = liveBytes();
+    const auto looked = Clock::now();
+    input.reset();
+    const auto freed = Clock::now();
+    if (!NavigationController::of(*stack_).push(screen)) {
+        throw std::runtime_error("The result screen does not load.");
+    }
+    const auto pushed = Clock::now();
+    do {
+        drawFrame();
+    } while (rows().empty());
+    opening.input = filtered - start;
+    opening.view = (built - filtered) + (freed - looked);
+    opening.push = pushed - freed;
+    opening.frame = Clock::now() - pushed;
+    screen_ = screen;
+    return opening;
+}
+
+void ResultStage::close() {
+    QMetaObject::invokeMethod(window_.get(), "clear");
+    do {
+        drawFrame();
+    } while (!screen_.expired());
+}
+
+void ResultStage::toggle(int row) {
+    const auto* result = qobject_cast<ProductsCheckoutStatusView*>(screen_.lock()->status());
+    QMetaObject::invokeMethod(result->products(), "toggle", Q_ARG(int, row));
+    drawFrame();
+}
+
+void ResultStage::drawFrame() {
+    QEventLoop loop;
+    QObject::connect(window_.get(), &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
+    window_->update();
+    loop.exec();
+}
+
+QQuickItem& ResultStage::list() const {
+    return *findList(*stack_);
+}
+
+std::vector<QQuickItem*> ResultStage::rows() const {
+    std::vector<QQuickItem*> rows;
+    for (QQuickItem* item : list().property("contentItem").value<QQuickItem*>()->childItems()) {
+        // Rows that were let go stay hidden until the event loop deletes them.
+        if (item->isVisible() && item->property("isHead").isValid()) {
+            rows.push_back(item);
+        }
+    }
+    return rows;
+}
+
+std::size_t liveBytes() {
+    const auto heap = mallinfo2();
+    return heap.uordblks + heap.hblkhd;
+}
+
+} // namespace quillet::benchmarks

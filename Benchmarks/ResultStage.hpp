@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+#include "Models/Product.hpp"
+
+#include <chrono>
+#include <memory>
+#include <vector>
+
+namespace quillet {
+class ProductsCheckoutStatusViewController;
+class ShippingStatusProductsView;
+} // namespace quillet
+
+namespace quillet::benchmarks {
+
+using Milliseconds = std::chrono::duration<double, std::milli>;
+
+/// A window of a phone's size with a StackView that shows results without an animation. Main thread only.
+class ResultStage {
+public:
+    /// How long each step from a response's products to the first frame with rows took, and the bytes that
+    /// were live when most copies of the products were.
+    struct Opening {
+        Milliseconds input{};
+        Milliseconds view{};
+        Milliseconds push{};
+        Milliseconds frame{};
+        std::size_t highestLiveBytes = 0;
+
+        [[nodiscard]] Milliseconds all() const { return input + view + push + frame; }
+    };
+
+    ResultStage();
+    ~ResultStage();
+    ResultStage(const ResultStage&) = delete;
+    ResultStage& operator=(const ResultStage&) = delete;
+
+    /// Shows the result of a checkout with these products.
+    Opening open(const std::vector<Product>& products);
+    /// Takes the screen away and waits until all of it is gone.
+    void close();
+
+    /// Taps the head in the given row and waits until what it brings about has been drawn.
+    void toggle(int row);
+    /// Waits until the window has drawn one more frame.
+    void drawFrame();
+
+    /// The list on the screen.
+    [[nodiscard]] QQuickItem& list() const;
+    /// The rows that exist at the moment, heads included.
+    [[nodiscard]] std::vector<QQuickItem*> rows() const;
+
+private:
+    std::unique_ptr<QQmlEngine> engine_;
+    std::unique_ptr<QQuickWindow> window_;
+    QQuickItem* stack_ = nullptr;
+    std::weak_ptr<ProductsCheckoutStatusViewController> screen_;
+};
+
+/// Bytes that the program's heap holds at the moment, whoever asked for them: Qt's containers go past
+/// operator new. What JavaScript holds lies elsewhere.
+[[nodiscard]] std::size_t liveBytes();
+
+} // namespace quillet::benchmarks
