@@ -9,7 +9,9 @@
 
 #include <malloc.h>
 
+#include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 extern void qml_register_types_Quillet_Checkout();
 static void initCheckoutResources() {
@@ -81,7 +83,7 @@ ResultStage::Opening ResultStage::open(const std::vector<Product>& products) {
     const auto filtered = Clock::now();
     auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
         std::make_unique<LoadingDisplayer>(std::make_unique<LoadingView>()), std::make_shared<NoAnalytics>());
-    screen->setView(ProductsPartiallyAddedFactory({}).view(*input, *screen));
+    screen->setView(ProductsPartiallyAddedFactory({}).view(std::move(*input), *screen));
     const auto built = Clock::now();
     // Looking costs time that is no part of the opening.
     opening.highestLiveBytes = liveBytes();
@@ -110,10 +112,23 @@ void ResultStage::close() {
     } while (!screen_.expired());
 }
 
-void ResultStage::toggle(int row) {
+ResultStage::Motion ResultStage::toggle() {
+    const auto all = rows();
+    const auto head =
+        std::ranges::find_if(all, [](QQuickItem* row) { return row->property("isHead").toBool(); });
     const auto* result = qobject_cast<ProductsCheckoutStatusView*>(screen_.lock()->status());
-    QMetaObject::invokeMethod(result->products(), "toggle", Q_ARG(int, row));
-    drawFrame();
+    const int before = result->products()->rowCount();
+    Motion motion;
+    auto start = Clock::now();
+    QMetaObject::invokeMethod(*head, "headTapped");
+    do {
+        drawFrame();
+        const Milliseconds frame = Clock::now() - start;
+        motion.first = motion.frames++ == 0 ? frame : motion.first;
+        motion.longest = std::max(motion.longest, frame);
+        start = Clock::now();
+    } while (result->products()->isMoving() || result->products()->rowCount() == before);
+    return motion;
 }
 
 void ResultStage::drawFrame() {

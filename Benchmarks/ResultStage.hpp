@@ -44,8 +44,14 @@ public:
     /// Takes the screen away and waits until all of it is gone.
     void close();
 
-    /// Taps the head in the given row and waits until what it brings about has been drawn.
-    void toggle(int row);
+    /// How long the first and the longest frame took of all that came after a tap.
+    struct Motion {
+        int frames = 0;
+        Milliseconds first{};
+        Milliseconds longest{};
+    };
+    /// Taps the uppermost head and waits until its section has come to rest.
+    Motion toggle();
     /// Waits until the window has drawn one more frame.
     void drawFrame();
 

@@ -18,8 +18,11 @@ namespace quillet::testing {
 
 namespace {
 
+using ::testing::AllOf;
+using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::Not;
 
 int itemsBelow(const QQuickItem& item) {
     int count = 1;
@@ -28,6 +31,21 @@ int itemsBelow(const QQuickItem& item) {
     }
     return count;
 }
+
+/// Shows the overlay and writes down when.
+class LoggingDisplayer final : public LoadingDisplayable {
+public:
+    explicit LoggingDisplayer(Log log) : log_(std::move(log)) {}
+    void showLoading() override {
+        log_->push_back("overlay");
+        loadingView_.startLoading();
+    }
+    [[nodiscard]] LoadingView& loadingView() override { return loadingView_; }
+
+private:
+    Log log_;
+    LoadingView loadingView_;
+};
 
 struct ResultScreen : ::testing::Test {
     ResultScreen() {
@@ -45,8 +63,7 @@ struct ResultScreen : ::testing::Test {
             products[i].status = i % 2 ? ProductErrorStatus::none : ProductErrorStatus::unavailable;
         }
         const auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
-            std::make_unique<LoadingDisplayer>(std::make_unique<LoadingView>()),
-            std::make_shared<FakeAnalytics>(log));
+            std::make_unique<LoggingDisplayer>(log), std::make_shared<FakeAnalytics>(log));
         screen->setView(ProductsPartiallyAddedFactory({}).view({"05", 1, 1, 1, products, products}, *screen));
         screen->setNavigationDelegate(host);
         ASSERT_TRUE(NavigationController::of(stage.stack()).push(screen));
@@ -78,11 +95,24 @@ TEST_F(ResultScreen, CoversItselfForGoodWhenItAsksTheHostForTheCart) {
     show(0);
     log->clear();
     stage.click("Ir al carrito");
-    EXPECT_THAT(taken(log), ElementsAre(event("My Clients Orders", "Go to Cart"), "navigateToCart"));
+    EXPECT_THAT(taken(log),
+                ElementsAre(event("My Clients Orders", "Go to Cart"), "overlay", "navigateToCart"));
     stage.click("Ir al carrito");
     stage.clickBar();
     EXPECT_THAT(taken(log), IsEmpty());
     EXPECT_EQ(stage.barClicks(), 0);
+}
+
+TEST_F(ResultScreen, BeginsAtItsTopFromTheFirstFrameOn) {
+    std::vector<double> offsets;
+    const auto look = QObject::connect(stage.stack().window(), &QQuickWindow::frameSwapped, [&] {
+        if (const QQuickItem* list = stage.item("result")) {
+            offsets.push_back(list->property("contentY").toDouble() - list->property("originY").toDouble());
+        }
+    });
+    show(10);
+    QObject::disconnect(look);
+    EXPECT_THAT(offsets, AllOf(Not(IsEmpty()), Each(0)));
 }
 
 TEST_F(ResultScreen, MakesTheRowsInViewOnlyHoweverManyProductsThereAre) {

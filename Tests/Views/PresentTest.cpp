@@ -249,8 +249,7 @@ TEST_F(PresentTest, RetriesByMouseTouchAndKey) {
         ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar") && settled(); }));
         log->clear();
         way();
-        EXPECT_FALSE(stage->shows("Actualizar"));
-        ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar"); }));
+        ASSERT_TRUE(turnUntil([&] { return !log->empty(); }));
         // Both calls were repeated, and the open orders once more behind the association, so a second outcome
         // may follow.
         EXPECT_THAT(taken(log), Each("screen Error"));

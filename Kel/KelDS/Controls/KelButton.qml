@@ -11,6 +11,7 @@ KelPressable {
     objectName: button.identifier
     implicitWidth: Math.max(KelSizes.large, button.implicitContentWidth + 2 * KelSpacing.semi)
     implicitHeight: Math.max(KelSizes.medium, button.implicitContentHeight + KelSpacing.small)
+    horizontalPadding: KelSpacing.small
 
     contentItem: KelLabel {
         text: button.text

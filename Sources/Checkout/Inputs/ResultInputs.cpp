@@ -12,15 +12,12 @@ bool wasAdded(const Product& product) {
     return product.status == ProductErrorStatus::none;
 }
 
-std::vector<Product> added(const std::vector<Product>& products) {
+/// The products for which `wasAdded` says `added`, in their order.
+std::vector<Product> filtered(const std::vector<Product>& products, bool added) {
+    const auto fits = [added](const Product& product) { return wasAdded(product) == added; };
     std::vector<Product> result;
-    std::ranges::copy_if(products, std::back_inserter(result), wasAdded);
-    return result;
-}
-
-std::vector<Product> notAdded(const std::vector<Product>& products) {
-    std::vector<Product> result;
-    std::ranges::remove_copy_if(products, std::back_inserter(result), wasAdded);
+    result.reserve(static_cast<std::size_t>(std::ranges::count_if(products, fits)));
+    std::ranges::copy_if(products, std::back_inserter(result), fits);
     return result;
 }
 
@@ -32,7 +29,7 @@ AllProductsAddedFactoryInput::AllProductsAddedFactoryInput(QString cycleText, st
     : cycle(std::move(cycleText)),
       totalAddedProductsPoints(totalPoints),
       addedProductsQuantity(addedQuantity),
-      products(added(allProducts)) {}
+      products(filtered(allProducts, true)) {}
 
 ProductsPartiallyAddedFactoryInput::ProductsPartiallyAddedFactoryInput(
     QString cycleText, std::uint64_t totalPoints, std::uint64_t addedQuantity, std::uint64_t notAddedQuantity,
@@ -41,13 +38,13 @@ ProductsPartiallyAddedFactoryInput::ProductsPartiallyAddedFactoryInput(
       totalAddedProductPoints(totalPoints),
       addedProductsQuantity(addedQuantity),
       notAddedProductsQuantity(notAddedQuantity),
-      addedProducts(added(allProductsForAdded)),
-      notAddedProducts(notAdded(allProductsForNotAdded)) {}
+      addedProducts(filtered(allProductsForAdded, true)),
+      notAddedProducts(filtered(allProductsForNotAdded, false)) {}
 
 NoProductAddedFactoryInput::NoProductAddedFactoryInput(QString cycleText, std::uint64_t notAddedQuantity,
                                                        const std::vector<Product>& allProducts)
     : cycle(std::move(cycleText)),
       notAddedProductsQuantity(notAddedQuantity),
-      products(notAdded(allProducts)) {}
+      products(filtered(allProducts, false)) {}
 
 } // namespace quillet

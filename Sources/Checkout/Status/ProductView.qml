@@ -68,9 +68,9 @@ Item {
 
         KelLabel {
             width: parent.width
+            visible: product.description !== ""
             text: product.description
             size: 7
-            lineHeight: 1.2
             wrapMode: Text.Wrap
         }
         KelLabel {

@@ -24,6 +24,7 @@ ListView {
         return Math.max(0, Math.ceil(room / list.status.leastRowHeight))
     }
 
+    objectName: "result"
     boundsBehavior: Flickable.StopAtBounds
     // Rows that are being made ahead of time must not be taken away meanwhile, as closing a section does.
     cacheBuffer: 0

@@ -9,7 +9,17 @@ Item {
     required property var status
     readonly property var view: header.status.headerView
 
+    // Columns lay themselves out with the next frame, which would be one too late: the list that this header opens begins
+    // in the middle of a header that grows after it was put in place.
+    function layOut() {
+        facts.forceLayout()
+        column.forceLayout()
+    }
+
     height: column.height + header.status.partSpacing + header.status.sideSpacing
+
+    Component.onCompleted: header.layOut()
+    onWidthChanged: header.layOut()
 
     Column {
         id: column
@@ -37,6 +47,8 @@ Item {
             width: parent.width
 
             Column {
+                id: facts
+
                 width: parent.width
 
                 StatusIcon {

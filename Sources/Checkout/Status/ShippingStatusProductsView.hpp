@@ -72,6 +72,8 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
     [[nodiscard]] double reveal() const { return reveal_; }
+    /// Whether a section is opening or closing.
+    [[nodiscard]] bool isMoving() const { return moving_ != nullptr; }
 
     /// Opens or closes the section whose head is at `row`; other rows are ignored. `rowsInView` is how many
     /// rows below the head there is room for on the screen.
