@@ -88,3 +88,13 @@ function(quillet_room_door room)
     list(TRANSFORM arg_DEPENDS PREPEND Quillet)
     target_link_libraries(${target} INTERFACE ${arg_DEPENDS} $<LINK_ONLY:Quillet${room}>)
 endfunction()
+
+# Compiles string tables and packs them into a target, as "<prefix>/<file>.qm".
+function(quillet_string_tables target resource prefix)
+    qt_add_lrelease(${target} TS_FILES ${ARGN} QM_FILES_OUTPUT_VARIABLE tables)
+    foreach(table ${tables})
+        cmake_path(GET table FILENAME name)
+        set_source_files_properties("${table}" PROPERTIES QT_RESOURCE_ALIAS "${name}")
+    endforeach()
+    qt_add_resources(${target} ${resource} PREFIX ${prefix} FILES ${tables})
+endfunction()

@@ -77,8 +77,10 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
     const QCommandLineOption language(QStringLiteral("language"), QStringLiteral("es, pt or en (es)."),
                                       QStringLiteral("CODE"), QStringLiteral("es"));
     const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Use the dark theme."));
-    parser.addOptions(
-        {help, tour, play, out, controls, gateway, ca, port, reset, data, program, language, dark});
+    const QCommandLineOption reducedMotion(QStringLiteral("reduced-motion"),
+                                           QStringLiteral("Let nothing move but fade."));
+    parser.addOptions({help, tour, play, out, controls, gateway, ca, port, reset, data, program, language, dark,
+                       reducedMotion});
 
     if (!parser.parse(arguments)) {
         return std::unexpected(parser.errorText());
@@ -97,6 +99,7 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
     options.reset = parser.isSet(reset);
     options.language = parser.value(language);
     options.dark = parser.isSet(dark);
+    options.reducedMotion = parser.isSet(reducedMotion);
     if (!QStringList{QStringLiteral("es"), QStringLiteral("pt"), QStringLiteral("en")}.contains(
             options.language)) {
         return std::unexpected(QStringLiteral("--language is es, pt or en, not ") + options.language);

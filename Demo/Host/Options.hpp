@@ -29,6 +29,7 @@ struct Options {
     bool reset = false;
     QString language;
     bool dark = false;
+    bool reducedMotion = false;
 };
 
 /// Reads the arguments. The error is one line for a person; an empty one means that help was asked for and

@@ -168,6 +168,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setApplicationName(QStringLiteral("quillet-host"));
     kel::setLanguage(options->language);
     kel::KelAppearance::current().setTheme(options->dark ? kel::KelTheme::dark : kel::KelTheme::light);
+    kel::KelAppearance::current().setReducedMotion(options->reducedMotion);
 
     const demo::WarningCounter warnings;
     const int status = onSheet ? drawSheet(options->controlsFile) : runHost(*options, plays);

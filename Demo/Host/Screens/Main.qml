@@ -50,6 +50,55 @@ ApplicationWindow {
             anchors.bottom: parent.bottom
             width: parent.width
             clip: true
+            // A page slides in over the one below it, which gives way a little; with reduced motion it fades in.
+            pushEnter: Transition {
+                NumberAnimation {
+                    property: "x"
+                    from: KelMotion.reduced ? 0 : stack.width
+                    to: 0
+                    duration: KelMotion.page
+                    easing.type: Easing.OutCubic
+                }
+                NumberAnimation {
+                    property: "opacity"
+                    from: KelMotion.reduced ? 0 : 1
+                    to: 1
+                    duration: KelMotion.page
+                }
+            }
+            pushExit: Transition {
+                NumberAnimation {
+                    property: "x"
+                    from: 0
+                    to: KelMotion.reduced ? 0 : -KelSizes.large
+                    duration: KelMotion.page
+                    easing.type: Easing.OutCubic
+                }
+            }
+            popEnter: Transition {
+                NumberAnimation {
+                    property: "x"
+                    from: KelMotion.reduced ? 0 : -KelSizes.large
+                    to: 0
+                    duration: KelMotion.page
+                    easing.type: Easing.OutCubic
+                }
+            }
+            popExit: Transition {
+                NumberAnimation {
+                    property: "x"
+                    from: 0
+                    to: KelMotion.reduced ? 0 : stack.width
+                    duration: KelMotion.page
+                    easing.type: Easing.OutCubic
+                }
+                NumberAnimation {
+                    property: "opacity"
+                    from: 1
+                    to: KelMotion.reduced ? 0 : 1
+                    duration: KelMotion.page
+                }
+            }
             initialItem: Home {
                 host: window.host
             }
