@@ -82,6 +82,19 @@ TEST_F(SaleSummaryViewControllerTest, ShowsTheNewestViewOfEachSlot) {
     }
 }
 
+TEST_F(SaleSummaryViewControllerTest, TellsTheLabelsOfANewTheme) {
+    const PointsLabel points(PointsInProgressPresenter(1), 5);
+    const QColor light = points.color();
+    int changes = 0;
+    QObject::connect(&points, &ThemedView::themeChanged, [&] { ++changes; });
+    kel::KelAppearance::current().setTheme(kel::KelTheme::dark);
+    const QColor dark = points.color();
+    kel::KelAppearance::current().setTheme(kel::KelTheme::light);
+    EXPECT_NE(dark, light);
+    EXPECT_EQ(points.color(), light);
+    EXPECT_EQ(changes, 2);
+}
+
 // The screen is held by the page that draws it, and by nobody else.
 TEST_F(SaleSummaryViewControllerTest, TakesEverythingBehindItAlongInTheMiddleOfItsCalls) {
     const auto queue = std::make_shared<MainQueue>();
