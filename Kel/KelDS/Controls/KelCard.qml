@@ -8,8 +8,9 @@ Rectangle {
 
     default property alias content: body.data
     property int padding: KelSpacing.small
+    property int bottomPadding: card.padding
 
-    implicitHeight: body.childrenRect.height + 2 * card.padding
+    implicitHeight: body.childrenRect.height + card.padding + card.bottomPadding
     radius: KelRadius.large
     color: KelColors.surface
     border.width: 1
@@ -31,5 +32,6 @@ Rectangle {
 
         anchors.fill: parent
         anchors.margins: card.padding
+        anchors.bottomMargin: card.bottomPadding
     }
 }

@@ -12,8 +12,6 @@ Text {
     color: KelColors.highEmphasis
     textFormat: Text.PlainText
     verticalAlignment: Text.AlignVCenter
-    // A single line with more room than it needs would sit off centre.
-    lineHeight: label.lineCount > 1 ? 1.2 : 1
     Accessible.role: Accessible.StaticText
     Accessible.name: label.text
 }

@@ -71,6 +71,7 @@ Item {
             visible: product.description !== ""
             text: product.description
             size: 7
+            lineHeight: 1.2
             wrapMode: Text.Wrap
         }
         KelLabel {
@@ -82,13 +83,13 @@ Item {
         }
         Item {
             width: 1
-            height: tag.height + 2
+            height: tag.height + KelSpacing.tiny
             visible: product.hasReason
 
             KelTag {
                 id: tag
 
-                y: 2
+                y: 6
                 text: product.reasonTag
             }
         }
@@ -102,6 +103,8 @@ Item {
         width: Math.min(implicitWidth, product.width / 3)
         text: product.points
         size: 7
+        // As the description's, so that both begin on one line.
+        lineHeight: 1.2
         weight: 1
         color: KelColors.success
         wrapMode: Text.Wrap

@@ -35,7 +35,7 @@ Item {
         }
         LabelView {
             width: parent.width
-            topPadding: KelSpacing.tiny
+            topPadding: 12
             label: header.status.totalAddedProductPointsLabel
         }
         Item {
@@ -44,6 +44,7 @@ Item {
         }
         KelCard {
             padding: header.view.partSpacing
+            bottomPadding: KelSpacing.tiny
             width: parent.width
 
             Column {

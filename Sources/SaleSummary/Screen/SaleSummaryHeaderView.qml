@@ -9,7 +9,7 @@ Column {
 
     LabelView {
         width: parent.width
-        bottomPadding: 12
+        bottomPadding: KelSpacing.small
         label: view.header.cycleLabel
         Accessible.role: Accessible.Heading
     }

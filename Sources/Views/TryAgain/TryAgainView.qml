@@ -1,7 +1,7 @@
 import QtQuick
 import KelDS
 
-// The group of image and message stands at 40 % of the room above the button, and scrolls where it is taller than that.
+// The group of image and message stands at 40 % of the free height, above the button, and scrolls where it is too tall.
 Rectangle {
     id: root
 
@@ -21,7 +21,8 @@ Rectangle {
         Column {
             id: group
 
-            y: Math.max(root.tryAgain.sideSpacing, Math.round(0.4 * (page.height - group.height)))
+            y: Math.max(root.tryAgain.sideSpacing,
+                        Math.round(Math.min(0.4 * (root.height - group.height), page.height - group.height)))
             width: root.width
             spacing: root.tryAgain.labelSpacing
 
