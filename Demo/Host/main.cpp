@@ -115,16 +115,16 @@ int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& p
         gateway.whenEnded(status, [&status] { status.gatewayEnded(); });
     }
 
-    demo::Journal journal;
+    const auto journal = std::make_shared<demo::Journal>();
     const auto network = demo::configurePlatform(address, journal);
-    const auto host = std::make_shared<demo::HostApplication>(journal, status, orders);
+    const auto host = std::make_shared<demo::HostApplication>(*journal, status, orders);
     if (!host->load(host, !inWindow)) {
         return complain(QStringLiteral("the window does not load"), kFailed);
     }
     if (inWindow) {
         return QGuiApplication::exec();
     }
-    demo::PlayRunner runner(*host, journal, network, options.outFolder);
+    demo::PlayRunner runner(*host, *journal, network, options.outFolder);
     const int result = perform(plays, runner, options.outFolder);
     if (!options.gatewayHost) {
         const QString log = options.outFolder + QStringLiteral("/gateway.log");

@@ -23,7 +23,8 @@ public:
     }
     void setTheme(KelTheme theme);
 
-    /// Whether things may move. With reduced motion only opacity does.
+    /// Whether things may move. With reduced motion only opacity does, and what tells by
+    /// its motion that something goes on.
     [[nodiscard]] bool hasReducedMotion() const { return reducedMotion_; }
     void setReducedMotion(bool reduced);
 

@@ -3,30 +3,53 @@
 #include <QKeyEvent>
 #include <QQuickWindow>
 
+#include <algorithm>
 #include <utility>
 
 namespace kel {
 
+namespace {
+
+QList<KelCover*>& covers() {
+    static QList<KelCover*> all;
+    return all;
+}
+
+} // namespace
+
 KelCover::KelCover(QQuickItem* parent) : QQuickItem(parent) {
     setFlag(ItemIsFocusScope);
+    // What the content leaves alone ends here, a second finger as well.
+    setAcceptedMouseButtons(Qt::AllButtons);
+    setAcceptTouchEvents(true);
+    setAcceptHoverEvents(true);
+    covers().append(this);
 }
 
 KelCover::~KelCover() {
-    giveBack();
+    covers().removeOne(this);
+    giveKeysBack();
+}
+
+bool KelCover::isOver(const QQuickItem& item) {
+    return std::ranges::any_of(covers(), [&](const KelCover* cover) {
+        return cover->window() && cover->window() == item.window() && cover->isVisible() &&
+               !cover->isAncestorOf(&item);
+    });
 }
 
 void KelCover::componentComplete() {
     QQuickItem::componentComplete();
-    if (window()) {
-        previous_ = window()->activeFocusItem();
-    }
-    forceActiveFocus();
+    takeKeys();
 }
 
 // A loader takes an item away without letting its QML know, so this is not done there.
 void KelCover::itemChange(ItemChange change, const ItemChangeData& data) {
+    if (change == ItemSceneChange && data.window && isComponentComplete()) {
+        takeKeys();
+    }
     if ((change == ItemSceneChange && !data.window) || (change == ItemVisibleHasChanged && !data.boolValue)) {
-        giveBack();
+        giveKeysBack();
     }
     QQuickItem::itemChange(change, data);
 }
@@ -36,15 +59,43 @@ void KelCover::keyPressEvent(QKeyEvent* event) {
     event->setAccepted(event->key() != Qt::Key_Back);
 }
 
-void KelCover::giveBack() {
+void KelCover::touchEvent(QTouchEvent* event) {
+    event->accept();
+}
+
+void KelCover::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void KelCover::wheelEvent(QWheelEvent* event) {
+    event->accept();
+}
+
+void KelCover::takeKeys() {
+    if (window() && !hasTakenKeys_) {
+        hasTakenKeys_ = true;
+        previous_ = window()->activeFocusItem();
+        forceActiveFocus();
+    }
+}
+
+void KelCover::giveKeysBack() {
     QQuickItem* previous = std::exchange(previous_, nullptr);
+    hasTakenKeys_ = false;
     if (!previous || !previous->window()) {
         return;
     }
+    // A cover that came over this one has to give back past it.
+    for (KelCover* cover : covers()) {
+        if (cover != this && cover->previous_ &&
+            (cover->previous_ == this || isAncestorOf(cover->previous_))) {
+            cover->previous_ = previous;
+        }
+    }
     // Whoever took the keys meanwhile on purpose keeps them; a scope merely fell heir to them.
     const QQuickItem* holder = previous->window()->activeFocusItem();
-    if (!holder || holder == this || isAncestorOf(holder) || holder->isFocusScope() ||
-        holder == previous->window()->contentItem()) {
+    if (!holder || holder == this || isAncestorOf(holder) || holder == previous->window()->contentItem() ||
+        (holder->isFocusScope() && !qobject_cast<const KelCover*>(holder))) {
         previous->forceActiveFocus();
     }
 }

@@ -82,17 +82,20 @@ TEST_F(SaleSummaryViewControllerTest, ShowsTheNewestViewOfEachSlot) {
     }
 }
 
-TEST_F(SaleSummaryViewControllerTest, TellsTheLabelsOfANewTheme) {
+TEST_F(SaleSummaryViewControllerTest, FollowsANewThemeWithItsLabels) {
+    screen->viewDidLoad();
     const PointsLabel points(PointsInProgressPresenter(1), 5);
     const QColor light = points.color();
     int changes = 0;
     QObject::connect(&points, &ThemedView::themeChanged, [&] { ++changes; });
+    QObject::connect(screen.get(), &QuickViewController::backgroundColorChanged, [&] { ++changes; });
     kel::KelAppearance::current().setTheme(kel::KelTheme::dark);
     const QColor dark = points.color();
+    EXPECT_EQ(screen->backgroundColor(), kel::KelColors::background());
     kel::KelAppearance::current().setTheme(kel::KelTheme::light);
     EXPECT_NE(dark, light);
     EXPECT_EQ(points.color(), light);
-    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(changes, 4);
 }
 
 // The screen is held by the page that draws it, and by nobody else.

@@ -49,6 +49,11 @@ void collect(QtMsgType type, const QMessageLogContext& context, const QString& m
     previousHandler(type, context, message);
 }
 
+QPointingDevice& fingers() {
+    static QPointingDevice* const device = QTest::createTouchDevice();
+    return *device;
+}
+
 QQuickItem* find(QQuickItem& root, const QString& name) {
     if (!root.isVisible()) {
         return nullptr;
@@ -135,9 +140,17 @@ void Stage::clickAt(QPointF point) {
 }
 
 void Stage::touchAt(QPointF point) {
-    static QPointingDevice* const finger = QTest::createTouchDevice();
-    QTest::touchEvent(window_.get(), finger).press(0, point.toPoint());
-    QTest::touchEvent(window_.get(), finger).release(0, point.toPoint());
+    QTest::touchEvent(window_.get(), &fingers()).press(0, point.toPoint());
+    QTest::touchEvent(window_.get(), &fingers()).release(0, point.toPoint());
+}
+
+void Stage::touchWhileResting(QPointF resting, QPointF tapped) {
+    const QPoint still = resting.toPoint();
+    const QPoint other = tapped.toPoint();
+    QTest::touchEvent(window_.get(), &fingers()).press(0, still);
+    QTest::touchEvent(window_.get(), &fingers()).stationary(0).press(1, other);
+    QTest::touchEvent(window_.get(), &fingers()).stationary(0).release(1, other);
+    QTest::touchEvent(window_.get(), &fingers()).release(0, still);
 }
 
 void Stage::key(Qt::Key key) {

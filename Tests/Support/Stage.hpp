@@ -46,6 +46,8 @@ public:
     /// The same with a finger: down and up again.
     void touch(const QString& textOrName) { touchAt(middle(textOrName)); }
     void touchAt(QPointF point);
+    /// A finger stays down at the one point while another one taps at the other.
+    void touchWhileResting(QPointF resting, QPointF tapped);
     /// A key of whatever has the focus: down and up again.
     void key(Qt::Key key);
     /// The key goes down once more without having been up, as it does while it is held.
@@ -53,11 +55,12 @@ public:
     /// What the keys go to.
     [[nodiscard]] QQuickItem* focus() const { return window_->activeFocusItem(); }
 
+    [[nodiscard]] QPointF middle(const QString& textOrName) const;
+
     /// What went to the message handler from QML or from the module's navigation.
     [[nodiscard]] static std::vector<std::string> complaints();
 
 private:
-    [[nodiscard]] QPointF middle(const QString& textOrName) const;
     void mouse(QEvent::Type type, QPointF point);
 
     std::unique_ptr<QQmlEngine> engine_;

@@ -95,6 +95,13 @@ struct PresentTest : ::testing::Test {
         return screen;
     }
 
+    /// As a screen reader does.
+    void press(const char* name) const {
+        QAccessible::queryAccessibleInterface(stage->item(name))
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::pressAction());
+    }
+
     [[nodiscard]] bool settled() const { return !stage->stack().property("busy").toBool(); }
 
     Log log = makeLog();
@@ -187,11 +194,6 @@ TEST_F(PresentTest, LetsTheProcessEndInTheMiddleOfACall) {
 
 TEST_F(PresentTest, AnswersEveryWayOfUsingADialogOnce) {
     use(std::make_shared<NoNetwork>());
-    const auto pressFor = [&](const char* name) {
-        QAccessible::queryAccessibleInterface(stage->item(name))
-            ->actionInterface()
-            ->doAction(QAccessibleActionInterface::pressAction());
-    };
     const std::string retried = "screen Error";
     const std::string left = "navigateToHome";
     const struct {
@@ -208,7 +210,7 @@ TEST_F(PresentTest, AnswersEveryWayOfUsingADialogOnce) {
         {"button by touch", [&] { stage->touch("Actualizar"); }, retried},
         {"button by key", [&] { stage->key(Qt::Key_Return), stage->repeatKey(Qt::Key_Return); }, retried},
         {"button by space", [&] { stage->key(Qt::Key_Space), stage->repeatKey(Qt::Key_Space); }, retried},
-        {"button by screen reader", [&] { pressFor("Actualizar"); }, retried},
+        {"button by screen reader", [&] { press("Actualizar"); }, retried},
         // The background reaches up over the bar.
         {"background by mouse",
          [&] {
@@ -224,7 +226,7 @@ TEST_F(PresentTest, AnswersEveryWayOfUsingADialogOnce) {
         {"close icon by touch", [&] { stage->touch("dialogCloseIcon"); }, left},
         {"close icon by key", [&] { stage->key(Qt::Key_Tab), stage->key(Qt::Key_Return); }, left},
         {"close icon by escape", [&] { stage->key(Qt::Key_Escape); }, left},
-        {"close icon by screen reader", [&] { pressFor("Cerrar"); }, left},
+        {"close icon by screen reader", [&] { press("Cerrar"); }, left},
     };
     for (const auto& [way, use, outcome] : cases) {
         SCOPED_TRACE(way);
@@ -266,6 +268,10 @@ TEST_F(PresentTest, KeepsTheKeysInTheDialogAndGivesThemBack) {
     log->clear();
     AlertDialog().show("Title", "Body", ViewControllerWrapper(screen), true);
     ASSERT_TRUE(stage->shows("Title") && stage->shows("Body"));
+    // A finger that rests on the card does not let a second one through, nor is a screen reader let through.
+    stage->touchWhileResting(stage->middle("Title"), stage->middle("Actualizar"));
+    press("Actualizar");
+    EXPECT_THAT(*log, IsEmpty());
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Down}) {
         stage->key(key);
         EXPECT_EQ(stage->focus()->objectName(), "dialogCloseIcon");

@@ -5,7 +5,8 @@
 
 namespace demo {
 
-std::shared_ptr<SwitchableNetworkPath> configurePlatform(const GatewayAddress& gateway, Journal& journal) {
+std::shared_ptr<SwitchableNetworkPath> configurePlatform(const GatewayAddress& gateway,
+                                                         const std::shared_ptr<Journal>& journal) {
     auto network = std::make_shared<SwitchableNetworkPath>();
     quillet::URLSessionConfiguration configuration;
     configuration.caBundleFile = gateway.caFile.toStdString();

@@ -4,17 +4,18 @@
 #include "Network/Session/NetworkPathMonitoring.hpp"
 #include "Network/Session/URLSessionObserving.hpp"
 #include "Sandbox/Journal.hpp"
-
-#include <QPointer>
+#include "Workers/MainQueue.hpp"
 
 #include <atomic>
+#include <memory>
+#include <utility>
 
 namespace demo {
 
 /// Brings what the sessions report on their own threads to the journal on the main thread.
 class TrafficRecorder final : public quillet::URLSessionObserving {
 public:
-    explicit TrafficRecorder(Journal& journal) : journal_(journal) {}
+    explicit TrafficRecorder(std::shared_ptr<Journal> journal) : journal_(std::move(journal)) {}
 
     void willSend(std::uint64_t exchange, const quillet::URLRequest& request) override {
         post([=](Journal& journal) { journal.requestStarted(exchange, request); });
@@ -25,28 +26,28 @@ public:
     }
 
 private:
+    // The module's main queue outlives everything, so that a call may end at any time, even while the program
+    // does.
     template <typename Entry>
     void post(Entry entry) {
-        QMetaObject::invokeMethod(
-            &journal_, [this, entry] { entry(journal_); }, Qt::QueuedConnection);
+        quillet::mainQueue().async([journal = journal_, entry] { entry(*journal); });
     }
 
-    // Outlives every session: the process ends with it.
-    Journal& journal_;
+    std::shared_ptr<Journal> journal_;
 };
 
 /// The sink that the host installs in its analytics manager.
 class AnalyticsRecorder final : public kel::KelAnalyticsManagerType {
 public:
-    explicit AnalyticsRecorder(Journal& journal) : journal_(journal) {}
+    explicit AnalyticsRecorder(std::shared_ptr<Journal> journal) : journal_(std::move(journal)) {}
 
     void trackScreen(const kel::KelAnalyticsScreenType& screen) override {
-        journal_.screenTracked(QString::fromStdString(screen.name()));
+        journal_->screenTracked(QString::fromStdString(screen.name()));
     }
-    void trackEvent(const kel::KelAnalyticsEventType& event) override { journal_.eventTracked(event); }
+    void trackEvent(const kel::KelAnalyticsEventType& event) override { journal_->eventTracked(event); }
 
 private:
-    Journal& journal_;
+    std::shared_ptr<Journal> journal_;
 };
 
 /// A network that can be switched off, as a consultant on the underground would have it.

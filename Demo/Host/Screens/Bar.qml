@@ -16,24 +16,17 @@ Rectangle {
     height: KelSizes.mediumX
     color: KelColors.surface
 
-    AbstractButton {
+    KelIconButton {
         id: back
 
         objectName: "hostBack"
         visible: bar.hasBack
         width: KelSizes.mediumX
         height: parent.height
-        Accessible.role: Accessible.Button
-        Accessible.name: "Atrás"
-        onClicked: bar.stack.pop()
-        contentItem: Item {
-            KelIcon {
-                anchors.centerIn: parent
-                number: KelIcons.ArrowBack
-                size: KelSizes.standard
-                color: KelColors.highEmphasis
-            }
-        }
+        number: KelIcons.ArrowBack
+        color: KelColors.highEmphasis
+        text: "Atrás"
+        onActivated: bar.stack.pop()
     }
     KelLabel {
         x: back.visible ? KelSizes.mediumX : KelSpacing.small

@@ -16,7 +16,7 @@ ListView {
     bottomMargin: KelSpacing.small
     spacing: 12
     model: home.host.orders
-    delegate: AbstractButton {
+    delegate: KelPressable {
         id: order
 
         required property var modelData
@@ -25,10 +25,8 @@ ListView {
         x: KelSpacing.small
         width: ListView.view.width - 2 * KelSpacing.small
         implicitHeight: implicitContentHeight
-        Accessible.role: Accessible.Button
         Accessible.name: order.modelData.customer + ". " + order.modelData.title
-        onClicked: home.host.openOrder(order.index)
-        Keys.onReturnPressed: order.clicked()
+        onActivated: home.host.openOrder(order.index)
 
         contentItem: KelCard {
             border.width: order.visualFocus ? 2 : 1

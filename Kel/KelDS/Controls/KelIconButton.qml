@@ -6,6 +6,7 @@ KelPressable {
     id: button
 
     required property int number
+    property color color: KelColors.mediumEmphasis
 
     implicitWidth: KelSizes.touch
     implicitHeight: KelSizes.touch
@@ -15,6 +16,7 @@ KelPressable {
             anchors.centerIn: parent
             number: button.number
             size: KelSizes.standard
+            color: button.color
         }
     }
     background: Rectangle {

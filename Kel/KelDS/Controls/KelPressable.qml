@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import KelDS
 
 // What everything has that can be tapped: it can be reached and used by touch, by key and by a screen reader alike, and
 // a key that is held down uses it once.
@@ -17,7 +18,7 @@ AbstractButton {
     hoverEnabled: false
     Accessible.role: Accessible.Button
     Accessible.name: pressable.text
-    Accessible.onPressAction: pressable.activated()
+    Accessible.onPressAction: if (pressable.enabled && !KelCovers.over(pressable)) pressable.activated()
     Keys.onPressed: event => {
         const enters = event.key === Qt.Key_Return || event.key === Qt.Key_Enter
         event.accepted = enters || (event.key === Qt.Key_Space && event.isAutoRepeat)

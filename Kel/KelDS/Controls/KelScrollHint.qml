@@ -8,9 +8,11 @@ Rectangle {
     required property Flickable page
 
     anchors.right: parent.right
-    y: hint.page.y + hint.page.visibleArea.yPosition * hint.page.height
+    y: hint.page.y + hint.page.visibleArea.yPosition / (1 - hint.page.visibleArea.heightRatio)
+       * (hint.page.height - hint.height)
     width: KelSizes.micro
-    height: hint.page.visibleArea.heightRatio * hint.page.height
+    // However long the text, there is something to be seen.
+    height: Math.max(KelSizes.standard, hint.page.visibleArea.heightRatio * hint.page.height)
     radius: KelRadius.small
     visible: hint.page.visibleArea.heightRatio < 1
     color: KelColors.lowEmphasis

@@ -19,6 +19,7 @@ Rectangle {
 
         anchors.centerIn: parent
         visible: text !== ""
+        Accessible.ignored: text === ""
         text: tag.text
         size: 11
         weight: 2

@@ -28,7 +28,7 @@ QUrl CheckoutViewController::viewUrl() const {
 }
 
 void CheckoutViewController::viewDidLoad() {
-    setBackgroundColor(colors_->background());
+    setBackground([this] { return colors_->background(); });
     viewModel_->startCheckout();
 }
 

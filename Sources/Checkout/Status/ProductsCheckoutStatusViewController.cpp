@@ -16,7 +16,7 @@ ProductsCheckoutStatusViewController::ProductsCheckoutStatusViewController(
     std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager)
     : loadingDisplayer_(std::move(loadingDisplayer)), analyticsManager_(std::move(analyticsManager)) {
     setTitle(QStringLiteral("Comentarios sobre los envíos"));
-    setBackgroundColor(kel::KelColors::background());
+    setBackground(kel::KelColors::background);
     analyticsManager_->trackScreen(ProductsCheckoutStatusAnalyticsScreen());
 }
 

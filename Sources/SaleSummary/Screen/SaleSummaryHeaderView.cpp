@@ -6,7 +6,7 @@ SaleSummaryHeaderView::SaleSummaryHeaderView(SaleSummaryHeaderPresenter presente
     : pointsInProgressLabel_(std::make_unique<PointsLabel>(presenter.pointsInProgressPresenter, 5)) {
     if (const auto& cycle = presenter.cycle) {
         cycleLabel_ = std::make_unique<CycleLabel>(QString::fromStdString(Cycle::onlyCode(*cycle)));
-        cyclePeriodView_ = {cycle->startDate, cycle->endDate};
+        cyclePeriod_ = {cycle->startDate, cycle->endDate};
     }
 }
 

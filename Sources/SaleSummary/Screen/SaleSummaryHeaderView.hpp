@@ -20,17 +20,13 @@ public:
     explicit SaleSummaryHeaderView(SaleSummaryHeaderPresenter presenter);
 
     [[nodiscard]] CycleLabel* cycleLabel() const { return cycleLabel_.get(); }
-    [[nodiscard]] QString cycleStart() const {
-        return cyclePeriodView_ ? cyclePeriodView_->startText() : QString();
-    }
-    [[nodiscard]] QString cycleEnd() const {
-        return cyclePeriodView_ ? cyclePeriodView_->endText() : QString();
-    }
+    [[nodiscard]] QString cycleStart() const { return cyclePeriod_ ? cyclePeriod_->startText() : QString(); }
+    [[nodiscard]] QString cycleEnd() const { return cyclePeriod_ ? cyclePeriod_->endText() : QString(); }
     [[nodiscard]] PointsLabel* pointsInProgressLabel() const { return pointsInProgressLabel_.get(); }
 
 private:
     std::unique_ptr<CycleLabel> cycleLabel_;
-    std::optional<CyclePeriodPresenter> cyclePeriodView_;
+    std::optional<CyclePeriodPresenter> cyclePeriod_;
     std::unique_ptr<PointsLabel> pointsInProgressLabel_;
 };
 

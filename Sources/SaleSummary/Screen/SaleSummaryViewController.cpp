@@ -29,7 +29,7 @@ QUrl SaleSummaryViewController::viewUrl() const {
 }
 
 void SaleSummaryViewController::viewDidLoad() {
-    setBackgroundColor(colors_->background());
+    setBackground([this] { return colors_->background(); });
     viewModel_->trackAnalyticsScreen();
     viewModel_->doRequests();
 }

@@ -82,8 +82,8 @@ private:
     std::unique_ptr<SaleSummaryScreen, DeleteLater> contentView_;
     std::unique_ptr<TryAgainScreen, DeleteLater> tryAgainView_;
     std::unique_ptr<Dialog, DeleteLater> dialogMessage_;
-    QObject* shownContentView_ = nullptr;
-    QObject* shownTryAgainView_ = nullptr;
+    QPointer<QObject> shownContentView_;
+    QPointer<QObject> shownTryAgainView_;
 };
 
 } // namespace quillet

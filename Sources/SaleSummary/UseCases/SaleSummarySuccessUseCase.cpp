@@ -27,8 +27,9 @@ void SaleSummarySuccessUseCase::showContent() {
     if (!canShowContent()) {
         return;
     }
+    auto presenter = createPresenter(associateResult_->response->order);
     if (const auto screen = delegate_.lock()) {
-        auto view = screen->contentViewFactory().create(createPresenter(associateResult_->response->order));
+        auto view = screen->contentViewFactory().create(std::move(presenter));
         view->setDelegate(screen->viewDelegate());
         screen->setContentView(std::move(view));
         screen->addContentView();

@@ -11,4 +11,5 @@ KelValueLabel {
     font: label?.font ?? KelFonts.font(6, 0)
     color: label?.color ?? KelColors.highEmphasis
     wrapMode: Text.Wrap
+    Accessible.ignored: !visible
 }

@@ -9,8 +9,8 @@ using Indicator = ProgressIndicatorCircular;
 LoadingView::LoadingView(std::unique_ptr<Coloring> colors, std::unique_ptr<Sizing> sizer)
     : colors_(std::move(colors)), sizer_(std::move(sizer)) {}
 
-Overlay& LoadingView::overlay() {
-    return overlay_ ? *overlay_ : overlay_.emplace();
+Overlay& LoadingView::overylay() {
+    return overylay_ ? *overylay_ : overylay_.emplace();
 }
 
 ProgressIndicatorCircular* LoadingView::progressIndicator() {

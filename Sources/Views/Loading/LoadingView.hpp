@@ -33,18 +33,18 @@ public:
     /// Made on first use.
     [[nodiscard]] ProgressIndicatorCircular* progressIndicator();
     [[nodiscard]] QColor backgroundColor() const { return colors_->background(); }
-    [[nodiscard]] QColor overlayColor() { return overlay().color(); }
+    [[nodiscard]] QColor overlayColor() { return overylay().color(); }
     [[nodiscard]] int indicatorSize() const { return sizer_->mediumX(); }
 
 Q_SIGNALS:
     void onScreenChanged();
 
 private:
-    [[nodiscard]] Overlay& overlay();
+    [[nodiscard]] Overlay& overylay();
     void setOnScreen(bool onScreen);
 
     std::unique_ptr<ProgressIndicatorCircular> progressIndicator_;
-    std::optional<Overlay> overlay_;
+    std::optional<Overlay> overylay_;
     std::unique_ptr<Coloring> colors_;
     std::unique_ptr<Sizing> sizer_;
     bool onScreen_ = false;

@@ -24,11 +24,6 @@ KelCover {
         anchors.fill: parent
         color: loading.loadingView.overlayColor
     }
-    MouseArea {
-        anchors.fill: parent
-        hoverEnabled: true
-        onWheel: wheel => wheel.accepted = true
-    }
     ProgressIndicatorItem {
         anchors.centerIn: parent
         width: loading.loadingView.indicatorSize

@@ -14,7 +14,6 @@ namespace quillet {
 /// knows what to draw; a ProgressIndicatorItem draws it. Main thread only.
 class ProgressIndicatorCircular final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(bool visible READ isVisible NOTIFY changed FINAL)
 
 public:
     enum class Action { showAndStartAnimation, hideAndStopAnimation };
@@ -31,8 +30,6 @@ public:
     void draw(const QSizeF& bounds);
 
     [[nodiscard]] bool isVisible() const { return isVisible_; }
-    /// Whether there is anything to draw at the next frame.
-    [[nodiscard]] bool isAnimating() const { return action_ == Action::showAndStartAnimation; }
     /// Holds the circle layer while the indicator shows, else nothing.
     [[nodiscard]] const ShapeLayer& layer() const { return layer_; }
     /// Null until it is first drawn.

@@ -25,7 +25,12 @@ QQmlEngine* NavigationController::engine() const {
 }
 
 QQuickItem* NavigationController::coverArea() const {
-    return stackView_ && stackView_->parentItem() ? stackView_->parentItem() : stackView_.data();
+    QQuickItem* area = stackView_ ? stackView_->parentItem() : nullptr;
+    // What arranges its children would arrange an overlay as one more of them.
+    while (area && (area->inherits("QQuickLayout") || area->inherits("QQuickBasePositioner"))) {
+        area = area->parentItem();
+    }
+    return area ? area : stackView_.data();
 }
 
 bool NavigationController::push(const std::shared_ptr<QuickViewController>& screen) {

@@ -2,9 +2,14 @@
 
 #include "Views/Screen/NavigationController.hpp"
 
+#include <utility>
+
 namespace quillet {
 
-QuickViewController::QuickViewController() = default;
+QuickViewController::QuickViewController() {
+    connect(this, &ThemedView::themeChanged, this, &QuickViewController::backgroundColorChanged);
+}
+
 QuickViewController::~QuickViewController() = default;
 
 void QuickViewController::setTitle(const QString& title) {
@@ -21,11 +26,9 @@ void QuickViewController::setHidesBackButton(bool hides) {
     }
 }
 
-void QuickViewController::setBackgroundColor(const QColor& color) {
-    if (color != backgroundColor_) {
-        backgroundColor_ = color;
-        Q_EMIT backgroundColorChanged();
-    }
+void QuickViewController::setBackground(std::function<QColor()> color) {
+    background_ = std::move(color);
+    Q_EMIT backgroundColorChanged();
 }
 
 void QuickViewController::setContinuesBar(bool continues) {

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "Views/Tokens/ThemedView.hpp"
+
 #include <QColor>
 #include <QObject>
 #include <QPointer>
 #include <QUrl>
 
+#include <functional>
 #include <memory>
 
 namespace quillet {
@@ -18,7 +21,7 @@ class NavigationController;
 ///
 /// Lifecycle, all on the main thread: `viewDidLoad` once, when the item has been made; `viewWillAppear` and
 /// `viewWillDisappear` on each entering and leaving of the top of the stack.
-class QuickViewController : public QObject, public std::enable_shared_from_this<QuickViewController> {
+class QuickViewController : public ThemedView, public std::enable_shared_from_this<QuickViewController> {
     Q_OBJECT
     Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
     Q_PROPERTY(bool hidesBackButton READ hidesBackButton NOTIFY hidesBackButtonChanged FINAL)
@@ -34,7 +37,7 @@ public:
     [[nodiscard]] bool hidesBackButton() const { return hidesBackButton_; }
     /// Whether the screen goes on where the host's bar ends, as with a tab bar: no line belongs between them.
     [[nodiscard]] bool continuesBar() const { return continuesBar_; }
-    [[nodiscard]] QColor backgroundColor() const { return backgroundColor_; }
+    [[nodiscard]] QColor backgroundColor() const { return background_ ? background_() : QColor(); }
     void setTitle(const QString& title);
     void setHidesBackButton(bool hides);
 
@@ -57,7 +60,8 @@ Q_SIGNALS:
 
 protected:
     QuickViewController();
-    void setBackgroundColor(const QColor& color);
+    /// A colour to be read anew when the theme changes.
+    void setBackground(std::function<QColor()> color);
     void setContinuesBar(bool continues);
 
     /// A view that is on screen may be in the middle of telling about a tap when it is replaced: it goes once
@@ -68,7 +72,7 @@ protected:
 
 private:
     QString title_;
-    QColor backgroundColor_;
+    std::function<QColor()> background_;
     bool hidesBackButton_ = false;
     bool continuesBar_ = false;
     QPointer<NavigationController> navigation_;
