@@ -91,6 +91,19 @@ TEST_F(CheckoutScreen, TakesEverythingAlongWhenItIsClosedBeforeTheAnswer) {
     EXPECT_THAT(*log, IsEmpty());
 }
 
+TEST_F(CheckoutScreen, ShowsNoResultOnceItIsOnItsWayOut) {
+    open();
+    ASSERT_TRUE(turnUntil([&] { return settled(); }));
+    stage.pop();
+    ASSERT_FALSE(settled());
+    answer(success());
+    EXPECT_EQ(stage.depth(), 1);
+    ASSERT_TRUE(turnUntil([&] { return settled(); }));
+    EXPECT_EQ(stage.depth(), 1);
+    // It was made all the same, and says so.
+    EXPECT_THAT(*log, ElementsAre("screen Feedback de produtos"));
+}
+
 TEST_F(CheckoutScreen, SetsItsTitleOnEachAppearanceAndChecksOutOnce) {
     const auto screen = open();
     EXPECT_EQ(screen.lock()->title(), "Envío al carrito");

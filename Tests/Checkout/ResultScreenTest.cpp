@@ -9,6 +9,8 @@
 
 #include <gmock/gmock.h>
 
+#include <limits>
+
 extern void qml_register_types_Quillet_Checkout();
 static void initCheckoutResources() {
     Q_INIT_RESOURCE(qmake_Quillet_Checkout);
@@ -62,6 +64,10 @@ struct ResultScreen : ::testing::Test {
             products[i].productCode = i;
             products[i].status = i % 2 ? ProductErrorStatus::none : ProductErrorStatus::unavailable;
         }
+        show(products);
+    }
+
+    void show(const std::vector<Product>& products) {
         const auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
             std::make_unique<LoggingDisplayer>(log), std::make_shared<FakeAnalytics>(log));
         screen->setView(ProductsPartiallyAddedFactory({}).view({"05", 1, 1, 1, products, products}, *screen));
@@ -113,6 +119,56 @@ TEST_F(ResultScreen, BeginsAtItsTopFromTheFirstFrameOn) {
     show(10);
     QObject::disconnect(look);
     EXPECT_THAT(offsets, AllOf(Not(IsEmpty()), Each(0)));
+}
+
+TEST_F(ResultScreen, KeepsItsPlaceWhileSectionsOpenAndCloseAndTheWindowChanges) {
+    show(40);
+    QQuickItem* list = stage.item("result");
+    const auto offset = [&] {
+        return list->property("contentY").toDouble() - list->property("originY").toDouble();
+    };
+    const auto hasRows = [&](int rows) {
+        return turnUntil([&] { return list->property("count").toInt() == rows; });
+    };
+    list->setProperty("contentY", list->property("originY").toDouble() + 200);
+    const QPointF head = stage.middle("Productos enviados");
+    stage.click("Productos enviados");
+    ASSERT_TRUE(hasRows(22));
+    EXPECT_EQ(offset(), 200);
+    EXPECT_EQ(stage.middle("Productos enviados"), head);
+    stage.click("Productos enviados");
+    ASSERT_TRUE(hasRows(42));
+    EXPECT_EQ(offset(), 200);
+    stage.stack().window()->resize(320, 700);
+    ASSERT_TRUE(turnUntil([&] { return list->width() == 320; }));
+    EXPECT_NEAR(offset(), 200, 60);
+}
+
+TEST_F(ResultScreen, LeavesNoNumberOnTopOfAnother) {
+    stage.stack().window()->resize(320, 844);
+    constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
+    Product product;
+    product.productCode = product.quantity = product.totalPoints = largest;
+    show({product});
+    const auto text = QString::number(largest);
+    const QQuickItem& badge = *stage.item(text)->parentItem();
+    const QQuickItem& points = *stage.item(text + " puntos");
+    const auto area = [](const QQuickItem& item) {
+        return item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
+    };
+    EXPECT_FALSE(area(badge).intersects(area(points)));
+    EXPECT_LE(area(points).right(), 320);
+}
+
+TEST_F(ResultScreen, BringsIntoViewWhatTheKeysGoTo) {
+    show(40);
+    for (int i = 0; i < 2; ++i) {
+        stage.key(Qt::Key_Tab);
+    }
+    ASSERT_EQ(stage.focus()->objectName(), "Botón ir al carrito");
+    EXPECT_TRUE(turnUntil([&] { return stage.middle("Botón ir al carrito").y() < 844; }));
+    stage.key(Qt::Key_Up);
+    EXPECT_EQ(stage.focus()->objectName(), "Botón ir al carrito");
 }
 
 TEST_F(ResultScreen, MakesTheRowsInViewOnlyHoweverManyProductsThereAre) {

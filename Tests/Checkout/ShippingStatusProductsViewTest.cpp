@@ -158,26 +158,35 @@ TEST_F(Sections, ShowWhatIsAboveTheCutWhileTheyMove) {
     EXPECT_DOUBLE_EQ(list.shownHeight(1, 80, 0), 0);
 }
 
-TEST_F(Sections, AnswerATapInTheMiddleOfAMoveAndLetTheOvertakenOneRunOut) {
+TEST_F(Sections, TurnRoundAtATapInTheMiddleOfAMove) {
     auto& list = show(sent(3), notSent(2));
     list.toggle(0, 2);
     animating->running[0].step(0.5);
     EXPECT_EQ(shape(list), "cmMopP");
+    list.toggle(0, 2);
+    EXPECT_EQ(shape(list), "omMopP");
+    EXPECT_DOUBLE_EQ(list.reveal(), 0.125);
+    animating->running[0].finish();
+    EXPECT_DOUBLE_EQ(list.reveal(), 0.125);
+    animating->running[1].step(0.5);
+    EXPECT_DOUBLE_EQ(list.reveal(), 0.125 + 0.875 * 0.875);
+    animating->running[1].finish();
+    EXPECT_EQ(shape(list), "oppPopP");
+    EXPECT_THAT(taken(log), ElementsAre("sent hidden", "sent expanded"));
+}
+
+TEST_F(Sections, ComeToRestWhenAnotherIsTappedAndOutliveNothing) {
+    auto& list = show(sent(3), notSent(2));
+    list.toggle(0, 2);
     // The head of the lower section, as the list counts its rows at this moment.
     list.toggle(3, 1);
     EXPECT_EQ(shape(list), "CcM");
     animating->running[0].finish();
     EXPECT_EQ(shape(list), "CcM");
-    list.toggle(1, 2);
-    EXPECT_EQ(shape(list), "ComM");
-    animating->running[1].finish();
-    animating->running[2].finish();
-    EXPECT_EQ(shape(list), "CopP");
-    EXPECT_THAT(taken(log), ElementsAre("sent hidden", "not sent hidden", "not sent expanded"));
-    list.toggle(0, 2);
-    view.reset();
+    EXPECT_THAT(taken(log), ElementsAre("sent hidden", "not sent hidden"));
     tester.reset();
-    animating->running[3].finish();
+    view.reset();
+    animating->running[1].finish();
 }
 
 TEST_F(Sections, IgnoreTapsBesideTheHeadsAndADelegateThatHasGone) {

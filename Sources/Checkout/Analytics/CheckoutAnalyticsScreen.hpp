@@ -2,6 +2,7 @@
 
 #include "KelCommon/KelAnalytics.hpp"
 
+#include <functional>
 #include <optional>
 #include <string_view>
 
@@ -21,6 +22,8 @@ public:
     [[nodiscard]] std::string name() const override { return "Error"; }
     bool operator==(const CheckoutAnalyticsScreen& other) const { return case_ == other.case_; }
 
+    [[nodiscard]] Case asCase() const { return case_; }
+
 private:
     Case case_;
 };
@@ -32,3 +35,10 @@ public:
 };
 
 } // namespace quillet
+
+template <>
+struct std::hash<quillet::CheckoutAnalyticsScreen> {
+    std::size_t operator()(const quillet::CheckoutAnalyticsScreen& value) const noexcept {
+        return std::hash<int>{}(value.asCase());
+    }
+};

@@ -2,6 +2,8 @@
 
 #include "KelCommon/KelAnalytics.hpp"
 
+#include <functional>
+
 namespace quillet {
 
 /// The events of a result screen.
@@ -16,8 +18,17 @@ public:
     [[nodiscard]] std::optional<std::string> label() const override;
     bool operator==(const ProductsCheckoutStatusAnalyticsEvent& other) const { return case_ == other.case_; }
 
+    [[nodiscard]] Case asCase() const { return case_; }
+
 private:
     Case case_;
 };
 
 } // namespace quillet
+
+template <>
+struct std::hash<quillet::ProductsCheckoutStatusAnalyticsEvent> {
+    std::size_t operator()(const quillet::ProductsCheckoutStatusAnalyticsEvent& value) const noexcept {
+        return std::hash<int>{}(value.asCase());
+    }
+};

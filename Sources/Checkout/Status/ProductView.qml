@@ -13,8 +13,8 @@ Item {
     required property string reasonTag
     required property bool first
 
-    // A number of twenty digits leaves no room beside its badge: the texts then go below.
-    readonly property bool crowded: badge.width + pointsLabel.width > product.width / 2
+    // Numbers of twenty digits leave no room for the texts between them: points and texts then go below the badge.
+    readonly property bool crowded: badge.width + pointsLabel.implicitWidth > product.width / 2
 
     implicitHeight: Math.max(tile.y + tile.height, texts.y + texts.height) + KelSpacing.small
 
@@ -55,6 +55,7 @@ Item {
             text: product.quantity
             size: 11
             weight: 2
+            // On amber, text is dark in either theme.
             color: KelColors.inkOnPrimary
         }
     }
@@ -62,7 +63,7 @@ Item {
         id: texts
 
         x: product.crowded ? badge.x : badge.x + badge.width + 12
-        y: product.crowded ? pointsLabel.y + Math.max(badge.height, pointsLabel.height) + KelSpacing.tiny : tile.y
+        y: product.crowded ? pointsLabel.y + pointsLabel.height + KelSpacing.micro : tile.y
         width: (product.crowded ? product.width - KelSpacing.small : pointsLabel.x - 12) - x
         spacing: KelSpacing.micro
 
@@ -97,10 +98,9 @@ Item {
     KelLabel {
         id: pointsLabel
 
-        anchors.right: parent.right
-        anchors.rightMargin: KelSpacing.small
-        y: tile.y
-        width: Math.min(implicitWidth, product.width / 3)
+        x: product.crowded ? badge.x : parent.width - KelSpacing.small - width
+        y: product.crowded ? badge.y + badge.height + KelSpacing.micro : tile.y
+        width: product.crowded ? parent.width - KelSpacing.small - x : implicitWidth
         text: product.points
         size: 7
         // As the description's, so that both begin on one line.
@@ -108,6 +108,6 @@ Item {
         weight: 1
         color: KelColors.success
         wrapMode: Text.Wrap
-        horizontalAlignment: Text.AlignRight
+        horizontalAlignment: product.crowded ? Text.AlignLeft : Text.AlignRight
     }
 }

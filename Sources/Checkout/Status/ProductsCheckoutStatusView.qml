@@ -13,19 +13,24 @@ ListView {
 
     required property var status
 
-    function beginAtHeader() {
-        if (list.contentY - list.originY < list.headerItem.height) {
-            list.positionViewAtBeginning()
-        }
-    }
     // How many products there is room for below a row.
     function roomBelow(row) {
         const room = list.contentY + list.height - row.y - KelSizes.mediumX
-        return Math.max(0, Math.ceil(room / list.status.leastRowHeight))
+        return Math.ceil(Math.max(0, Math.min(room, list.height)) / list.status.leastRowHeight)
+    }
+    function scrollBy(distance) {
+        const end = Math.max(list.originY, list.originY + list.contentHeight - list.height)
+        list.contentY = Math.max(list.originY, Math.min(end, list.contentY + distance))
     }
 
     objectName: "result"
     boundsBehavior: Flickable.StopAtBounds
+    // No row is the current one: it would be kept when it is out of view, and arrow keys would go to rows, which have
+    // nothing to do. They scroll instead.
+    currentIndex: -1
+    keyNavigationEnabled: false
+    Keys.onUpPressed: list.scrollBy(-KelSizes.large)
+    Keys.onDownPressed: list.scrollBy(KelSizes.large)
     // Rows that are being made ahead of time must not be taken away meanwhile, as closing a section does.
     cacheBuffer: 0
     model: list.status.products
@@ -34,13 +39,11 @@ ListView {
         sideSpacing: list.status.sideSpacing
         products: list.status.products
         onHeadTapped: list.status.products.toggle(index, list.roomBelow(this))
+        onHeadFocused: list.positionViewAtIndex(index, ListView.Contain)
     }
     header: ProductsHeaderView {
         width: ListView.view.width
         status: list.status
-        // It takes its final height in the course of the first layout, and the list would then begin in the middle of
-        // it. A list must not be moved while it lays itself out.
-        onHeightChanged: Qt.callLater(list.beginAtHeader)
     }
     footer: Item {
         id: end
@@ -58,6 +61,7 @@ ListView {
             reminder: list.status.reminder
             button: list.status.goToCartButton
             onTapped: list.status.tapGoToCart()
+            onButtonFocused: list.positionViewAtEnd()
         }
     }
 }

@@ -33,6 +33,8 @@ Item {
         ? row.products.shownHeight(row.index, content.height, row.products.reveal) : content.height
 
     signal headTapped
+    // The keys go to the head now.
+    signal headFocused
 
     height: frame.height + (row.last ? row.sideSpacing : 0)
 
@@ -62,6 +64,7 @@ Item {
             tone: row.tone
             expanded: row.expanded
             onActivated: row.headTapped()
+            onVisualFocusChanged: if (visualFocus) row.headFocused()
         }
     }
     Component {

@@ -136,29 +136,27 @@ QHash<int, QByteArray> ShippingStatusProductsView::roleNames() const {
 }
 
 void ShippingStatusProductsView::toggle(int row, int rowsInView) {
-    if (moving_) {
-        // What the row number means depends on the rows that are in the list, so the section is found first.
-        const auto [section, below] = position(row);
-        row = section && below == 0 ? (finishMove(), headOf(*section)) : -1;
-    }
     const auto found = std::ranges::find_if(sections_, [&](const Section& s) { return headOf(s) == row; });
     if (found == sections_.end()) {
         return;
     }
     Section& section = *found;
+    const bool moves = !kel::KelAppearance::current().hasReducedMotion() && section.products() > 0;
+    if (moving_ != &section || !moves) {
+        finishMove();
+    }
     section.panel.expanded = !section.panel.expanded;
     const bool expands = section.panel.expanded;
-    const bool moves = !kel::KelAppearance::current().hasReducedMotion() && section.products() > 0;
-    const int inView = std::clamp(rowsInView, 0, section.products());
-    if (moves) {
+    if (!moves) {
+        setShown(section, expands ? section.products() : 0);
+    } else if (moving_ != &section) {
         moving_ = &section;
         panelReveal_.begin();
         setReveal(expands ? 0 : 1);
-        setShown(section, inView);
-    } else {
-        setShown(section, expands ? section.products() : 0);
+        setShown(section, std::clamp(rowsInView, 0, section.products()));
     }
-    Q_EMIT dataChanged(index(row), index(row + section.shown), {ExpandedRole, LastRole, MovingRole});
+    const int head = headOf(section);
+    Q_EMIT dataChanged(index(head), index(head + section.shown), {ExpandedRole, LastRole, MovingRole});
     if (const auto delegate = delegate_.lock()) {
         ((*delegate).*(expands ? section.didExpand : section.didHide))();
     }
@@ -193,13 +191,12 @@ void ShippingStatusProductsView::setReveal(double reveal) {
 
 void ShippingStatusProductsView::move(Section& section) {
     const QPointer<ShippingStatusProductsView> self(this);
-    const bool expands = section.panel.expanded;
     const int number = ++moves_;
     viewAnimating_->animate(
         kMove,
-        [self, expands, number](double progress) {
+        [self, number, from = reveal_, to = section.panel.expanded ? 1.0 : 0.0](double progress) {
             if (self && self->moving_ && self->moves_ == number) {
-                self->setReveal(expands ? easeOut(progress) : 1 - easeOut(progress));
+                self->setReveal(from + (to - from) * easeOut(progress));
             }
         },
         [self, number] {

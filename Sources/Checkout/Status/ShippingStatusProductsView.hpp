@@ -29,8 +29,8 @@ public:
 /// cost no more to show than ten. Sections start open.
 ///
 /// A section opens and closes in 200 ms, in which only the rows that can be seen take part: those further
-/// down are put into the list after it has opened, and taken out before it closes. With reduced motion it is
-/// open or closed at once. Main thread only.
+/// down are put into the list after it has opened, and taken out before it closes. A tap meanwhile turns it
+/// round. With reduced motion it is open or closed at once. Main thread only.
 class ShippingStatusProductsView final : public QAbstractListModel {
     Q_OBJECT
     /// How much of the moving section shows, from 0 to 1.

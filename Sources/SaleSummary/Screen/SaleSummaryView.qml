@@ -51,6 +51,7 @@ Flickable {
             reminder: root.summary.reminder
             button: root.summary.sendProductsButton
             onTapped: root.summary.tapSendProducts()
+            onButtonFocused: root.contentY = root.contentHeight - root.height
         }
     }
 }

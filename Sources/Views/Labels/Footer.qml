@@ -11,6 +11,8 @@ Rectangle {
     required property var button
 
     signal tapped
+    // The keys go to the button now.
+    signal buttonFocused
 
     implicitHeight: column.height
     color: KelColors.surface
@@ -38,6 +40,7 @@ Rectangle {
             identifier: footer.button.identifier
             outlined: footer.button.outlined
             onActivated: footer.tapped()
+            onVisualFocusChanged: if (visualFocus) footer.buttonFocused()
         }
     }
 }

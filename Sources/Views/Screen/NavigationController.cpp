@@ -1,6 +1,7 @@
 #include "Views/Screen/NavigationController.hpp"
 
 #include "Views/Screen/QuickViewController.hpp"
+#include "Views/Screen/ScreenItem.hpp"
 
 #include <QLoggingCategory>
 #include <QQmlComponent>
@@ -18,6 +19,22 @@ NavigationController::NavigationController(QQuickItem& stackView)
 NavigationController& NavigationController::of(QQuickItem& stackView) {
     auto* existing = stackView.findChild<NavigationController*>(QString(), Qt::FindDirectChildrenOnly);
     return existing ? *existing : *new NavigationController(stackView);
+}
+
+bool NavigationController::holds(const QuickViewController& screen) const {
+    QQmlEngine* const ours = engine();
+    if (!ours) {
+        return false;
+    }
+    const QJSValue stack = ours->toScriptValue<QObject*>(stackView_.data());
+    const QJSValue get = stack.property(QStringLiteral("get"));
+    for (int page = stack.property(QStringLiteral("depth")).toInt() - 1; page >= 0; --page) {
+        const auto* item = qobject_cast<ScreenItem*>(get.callWithInstance(stack, {page}).toQObject());
+        if (item && item->viewController() == &screen) {
+            return true;
+        }
+    }
+    return false;
 }
 
 QQmlEngine* NavigationController::engine() const {

@@ -26,6 +26,10 @@ public:
     /// is logged.
     bool push(const std::shared_ptr<QuickViewController>& screen);
 
+    /// Whether the screen is among the stack's pages. One that is being popped is not, from the start of its
+    /// way out.
+    [[nodiscard]] bool holds(const QuickViewController& screen) const;
+
     /// The engine that the host's stack was made with; null once the stack is gone.
     [[nodiscard]] QQmlEngine* engine() const;
     /// What an overlay covers: the item in which the host keeps the StackView together with its bar.

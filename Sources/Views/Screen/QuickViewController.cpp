@@ -39,6 +39,10 @@ void QuickViewController::setContinuesBar(bool continues) {
 }
 
 NavigationController* QuickViewController::navigationController() const {
+    return navigation_ && navigation_->holds(*this) ? navigation_ : nullptr;
+}
+
+NavigationController* QuickViewController::pushingController() const {
     return navigation_;
 }
 

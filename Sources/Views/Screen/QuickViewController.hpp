@@ -41,8 +41,11 @@ public:
     void setTitle(const QString& title);
     void setHidesBackButton(bool hides);
 
-    /// The stack that this screen was pushed on; null before that, and when the stack is gone.
+    /// The stack that this screen is on; null before it was pushed, once it has left (though it may still be
+    /// fading out), and when the stack is gone.
     [[nodiscard]] NavigationController* navigationController() const;
+    /// The stack that this screen was pushed on, whether or not it is there yet or still.
+    [[nodiscard]] NavigationController* pushingController() const;
     void setNavigationController(NavigationController* navigation);
 
     /// The QML file that draws this screen.

@@ -15,6 +15,8 @@ ScreenItem {
     readonly property bool onTop: StackView.status === StackView.Active || StackView.status === StackView.Activating
 
     viewController: screen.controller
+    // What is scrolled must not reach over the host's bar, whether or not the host cuts its pages off.
+    clip: true
     StackView.onActivating: screen.viewWillAppear()
     StackView.onDeactivating: screen.viewWillDisappear()
 

@@ -21,7 +21,7 @@ void ScreenItem::setViewController(QObject* controller) {
 }
 
 QQuickItem* ScreenItem::coverArea() const {
-    const NavigationController* navigation = controller_ ? controller_->navigationController() : nullptr;
+    const NavigationController* navigation = controller_ ? controller_->pushingController() : nullptr;
     return navigation ? navigation->coverArea() : nullptr;
 }
 
