@@ -33,6 +33,7 @@ function(quillet_qml_room room)
         set_source_files_properties("${file}" PROPERTIES QT_RESOURCE_ALIAS "${name}")
     endforeach()
     qt_add_library(${target} STATIC)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
     qt_add_qml_module(${target}
         URI Quillet.${room}
         VERSION 1.0
@@ -61,13 +62,18 @@ function(quillet_qml_room room)
 endfunction()
 
 # Most of the time a QML target takes to compile goes into the same few Qt headers, in our sources and in what Qt
-# generates from the QML files alike.
+# generates from the QML files alike. They are compiled once for all such targets, with the flags that these share.
 function(quillet_precompile_qt target)
-    quillet_precompile(${target}
-        <QtQuick/QQuickItem> <QtQml/QQmlEngine> <QtQml/qqmlprivate.h> <functional> <memory> <optional> <string>)
+    if(NOT TARGET QuilletQtHeaders)
+        file(GENERATE OUTPUT "${PROJECT_BINARY_DIR}/QuilletQtHeaders.cpp" CONTENT "")
+        add_library(QuilletQtHeaders STATIC "${PROJECT_BINARY_DIR}/QuilletQtHeaders.cpp")
+        target_link_libraries(QuilletQtHeaders PRIVATE Qt6::Quick QuilletQmlWarnings)
+        quillet_precompile(QuilletQtHeaders
+            <QtQuick/QQuickItem> <QtQml/QQmlEngine> <QtQml/qqmlprivate.h> <functional> <memory> <optional> <string>)
+    endif()
+    target_precompile_headers(${target} REUSE_FROM QuilletQtHeaders)
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endfunction()
-
-# Headers that a target compiles once instead of once a file. ccache needs the flag to see into them.
 function(quillet_precompile target)
     target_precompile_headers(${target} PRIVATE ${ARGN})
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
