@@ -1,5 +1,6 @@
 #include "Views/Dialogs/ViewAnimating.hpp"
 
+#include <QCoreApplication>
 #include <QVariantAnimation>
 
 namespace quillet {
@@ -7,8 +8,8 @@ namespace quillet {
 void ViewAnimatingWrapper::animate(std::chrono::milliseconds duration,
                                    std::function<void(double progress)> step,
                                    std::function<void()> completion) {
-    // Nobody owns the animation: it deletes itself when it has ended.
-    auto* animation = new QVariantAnimation;
+    // The animation deletes itself when it has ended, at the latest with the application.
+    auto* animation = new QVariantAnimation(QCoreApplication::instance());
     animation->setStartValue(0.0);
     animation->setEndValue(1.0);
     animation->setDuration(static_cast<int>(duration.count()));
