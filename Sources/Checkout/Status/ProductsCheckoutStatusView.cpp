@@ -25,14 +25,6 @@ void ProductsCheckoutStatusView::setDelegate(std::weak_ptr<ProductsCheckoutStatu
     delegate_ = std::move(delegate);
 }
 
-QString ProductsCheckoutStatusView::remember() const {
-    return Localization::remember();
-}
-
-QString ProductsCheckoutStatusView::reminder() const {
-    return Localization::youCanKeepCollectingSales();
-}
-
 Button ProductsCheckoutStatusView::goToCartButton() const {
     return buttonFactory_->contained(Localization::goToCart(), Localization::goToCartButton());
 }

@@ -4,6 +4,7 @@
 #include "Checkout/Status/ShippingStatusProductsView.hpp"
 #include "Views/Labels/CycleLabel.hpp"
 #include "Views/Labels/PointsLabel.hpp"
+#include "Views/Labels/RememberLabel.hpp"
 #include "Views/Tokens/ButtonCreating.hpp"
 
 #include <memory>
@@ -25,10 +26,8 @@ class ProductsCheckoutStatusView final : public ThemedView {
     Q_PROPERTY(QObject* totalAddedProductPointsLabel READ totalAddedProductPointsLabel CONSTANT FINAL)
     Q_PROPERTY(QObject* headerView READ headerView CONSTANT FINAL)
     Q_PROPERTY(QAbstractItemModel* products READ products CONSTANT FINAL)
-    Q_PROPERTY(QString remember READ remember CONSTANT FINAL)
-    Q_PROPERTY(QString reminder READ reminder CONSTANT FINAL)
+    Q_PROPERTY(quillet::RememberLabel rememberLabel READ rememberLabel NOTIFY themeChanged FINAL)
     Q_PROPERTY(quillet::Button goToCartButton READ goToCartButton CONSTANT FINAL)
-    Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY themeChanged FINAL)
     Q_PROPERTY(int sideSpacing READ sideSpacing CONSTANT FINAL)
     Q_PROPERTY(int partSpacing READ partSpacing CONSTANT FINAL)
     Q_PROPERTY(int leastRowHeight READ leastRowHeight CONSTANT FINAL)
@@ -51,10 +50,8 @@ public:
     }
     [[nodiscard]] ProductsHeaderView* headerView() const { return headerView_.get(); }
     [[nodiscard]] ShippingStatusProductsView* products() const { return shippingStatusProductsView_.get(); }
-    [[nodiscard]] QString remember() const;
-    [[nodiscard]] QString reminder() const;
+    [[nodiscard]] RememberLabel rememberLabel() const { return RememberLabel::in(*colors_); }
     [[nodiscard]] Button goToCartButton() const;
-    [[nodiscard]] QColor backgroundColor() const { return colors_->background(); }
     /// Beside the parts, and between them from the header card on.
     [[nodiscard]] int sideSpacing() const { return spacing_->small(); }
     /// Above and below the labels at the top.

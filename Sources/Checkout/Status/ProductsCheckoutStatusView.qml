@@ -57,8 +57,7 @@ ListView {
             // Where the content is shorter than the screen the footer moves down to its bottom edge.
             y: KelSpacing.small + Math.max(0, list.height - (end.y - list.originY) - end.height)
             width: parent.width
-            remember: list.status.remember
-            reminder: list.status.reminder
+            rememberLabel: list.status.rememberLabel
             button: list.status.goToCartButton
             onTapped: list.status.tapGoToCart()
             onButtonFocused: list.positionViewAtEnd()

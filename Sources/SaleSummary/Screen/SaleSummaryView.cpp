@@ -1,7 +1,5 @@
 #include "SaleSummary/Screen/SaleSummaryView.hpp"
 
-#include "Resources/Localization.hpp"
-
 #include <utility>
 
 namespace quillet {
@@ -19,14 +17,6 @@ SaleSummaryView::SaleSummaryView(std::unique_ptr<ButtonCreating> buttonFactory,
 
 void SaleSummaryView::setDelegate(std::weak_ptr<SaleSummaryViewDelegate> delegate) {
     delegate_ = std::move(delegate);
-}
-
-QString SaleSummaryView::remember() const {
-    return Localization::remember();
-}
-
-QString SaleSummaryView::reminder() const {
-    return Localization::youCanKeepCollectingSales();
 }
 
 Button SaleSummaryView::sendProductsButton() const {

@@ -3,6 +3,7 @@
 #include "SaleSummary/Screen/HighlightedOrderView.hpp"
 #include "SaleSummary/Screen/SaleSummaryHeaderView.hpp"
 #include "SaleSummary/Screen/SaleSummaryScreen.hpp"
+#include "Views/Labels/RememberLabel.hpp"
 #include "Views/Tokens/ButtonCreating.hpp"
 #include "Views/Tokens/Coloring.hpp"
 #include "Views/Tokens/Sizing.hpp"
@@ -16,10 +17,8 @@ class SaleSummaryView final : public SaleSummaryScreen {
     Q_PROPERTY(QString inProgressTab READ inProgressTab CONSTANT FINAL)
     Q_PROPERTY(QObject* headerView READ headerView CONSTANT FINAL)
     Q_PROPERTY(QObject* highlightedOrderView READ highlightedOrderView CONSTANT FINAL)
-    Q_PROPERTY(QString remember READ remember CONSTANT FINAL)
-    Q_PROPERTY(QString reminder READ reminder CONSTANT FINAL)
+    Q_PROPERTY(quillet::RememberLabel rememberLabel READ rememberLabel NOTIFY themeChanged FINAL)
     Q_PROPERTY(quillet::Button sendProductsButton READ sendProductsButton CONSTANT FINAL)
-    Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY themeChanged FINAL)
     Q_PROPERTY(int sideSpacing READ sideSpacing CONSTANT FINAL)
     Q_PROPERTY(int partSpacing READ partSpacing CONSTANT FINAL)
     Q_PROPERTY(int rowHeight READ rowHeight CONSTANT FINAL)
@@ -35,10 +34,8 @@ public:
     [[nodiscard]] QString inProgressTab() const { return QStringLiteral("En Curso"); }
     [[nodiscard]] SaleSummaryHeaderView* headerView() { return &headerView_; }
     [[nodiscard]] HighlightedOrderView* highlightedOrderView() { return &highlightedOrderView_; }
-    [[nodiscard]] QString remember() const;
-    [[nodiscard]] QString reminder() const;
+    [[nodiscard]] RememberLabel rememberLabel() const { return RememberLabel::in(*colors_); }
     [[nodiscard]] Button sendProductsButton() const;
-    [[nodiscard]] QColor backgroundColor() const { return colors_->background(); }
     /// Beside the parts, and between and around them.
     [[nodiscard]] int sideSpacing() const { return spacing_->small(); }
     [[nodiscard]] int partSpacing() const { return spacing_->semi(); }

@@ -12,12 +12,11 @@ Flickable {
     contentHeight: page.height
     boundsBehavior: Flickable.StopAtBounds
 
-    Rectangle {
+    Item {
         id: page
 
         width: root.width
         height: Math.max(root.height, content.height + root.summary.partSpacing + footer.height)
-        color: root.summary.backgroundColor
 
         Column {
             id: content
@@ -47,8 +46,7 @@ Flickable {
 
             width: parent.width
             anchors.bottom: parent.bottom
-            remember: root.summary.remember
-            reminder: root.summary.reminder
+            rememberLabel: root.summary.rememberLabel
             button: root.summary.sendProductsButton
             onTapped: root.summary.tapSendProducts()
             onButtonFocused: root.contentY = root.contentHeight - root.height

@@ -5,9 +5,8 @@ import KelDS
 Rectangle {
     id: footer
 
-    required property string remember
-    required property string reminder
-    // A button of C++'s making.
+    // The reminder and the button, of C++'s making.
+    required property var rememberLabel
     required property var button
 
     signal tapped
@@ -31,8 +30,7 @@ Rectangle {
 
         RememberLabel {
             width: parent.width
-            remember: footer.remember
-            reminder: footer.reminder
+            label: footer.rememberLabel
         }
         KelButton {
             width: parent.width

@@ -1,17 +1,17 @@
 import QtQuick
 import KelDS
 
-// The reminder: its first word bolder, then the sentence.
+// Draws the reminder as C++ words it.
 KelLabel {
-    id: label
+    id: view
 
-    required property string remember
-    required property string reminder
+    required property var label
 
-    size: 11
+    text: view.label.styledText
+    textFormat: Text.StyledText
+    font: view.label.font
+    color: view.label.color
     lineHeight: 1.3
     wrapMode: Text.Wrap
-    textFormat: Text.StyledText
-    text: "<b>" + label.remember + ":</b> " + label.reminder
-    Accessible.name: label.remember + ": " + label.reminder
+    Accessible.name: view.label.plainText
 }
