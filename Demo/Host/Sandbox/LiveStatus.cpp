@@ -6,7 +6,6 @@ namespace demo {
 
 namespace {
 
-constexpr int kSuccess = 1, kAlert = 3, kLink = 4;
 constexpr qsizetype kCartStart = 8;
 
 QString countryName(const QString& code) {
@@ -29,15 +28,15 @@ QString environmentName(quillet::Environment environment) {
 } // namespace
 
 void LiveStatus::gatewayStarted() {
-    setGateway(QStringLiteral("gateway up"), kSuccess);
+    setGateway(QStringLiteral("gateway up"), kel::KelTagColor::success);
 }
 
 void LiveStatus::gatewayEnded() {
-    setGateway(QStringLiteral("gateway down"), kAlert);
+    setGateway(QStringLiteral("gateway down"), kel::KelTagColor::alert);
 }
 
 void LiveStatus::gatewayElsewhere(const GatewayAddress& address) {
-    setGateway(QStringLiteral("%1:%2").arg(address.host).arg(address.port), kLink);
+    setGateway(QStringLiteral("%1:%2").arg(address.host).arg(address.port), kel::KelTagColor::link);
 }
 
 void LiveStatus::opened(const quillet::CartForConsultant& cart, quillet::Environment environment) {
@@ -48,9 +47,9 @@ void LiveStatus::opened(const quillet::CartForConsultant& cart, quillet::Environ
     Q_EMIT changed();
 }
 
-void LiveStatus::setGateway(const QString& text, int color) {
+void LiveStatus::setGateway(const QString& text, kel::KelTagColor color) {
     gateway_ = text;
-    gatewayColor_ = color;
+    gatewayColor_ = int(color);
     Q_EMIT changed();
 }
 

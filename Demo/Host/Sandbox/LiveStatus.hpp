@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Entry/Environment.hpp"
+#include "KelDS/KelTokens.hpp"
 #include "Models/CartForConsultant.hpp"
 #include "Sandbox/GatewayProcess.hpp"
 
@@ -37,7 +38,7 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void setGateway(const QString& text, int color);
+    void setGateway(const QString& text, kel::KelTagColor color);
 
     QString order_;
     QString environment_ = QStringLiteral("dev");
