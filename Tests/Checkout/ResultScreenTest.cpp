@@ -167,7 +167,10 @@ TEST_F(ResultScreen, BringsIntoViewWhatTheKeysGoTo) {
     }
     ASSERT_EQ(stage.focus()->objectName(), "Botón ir al carrito");
     EXPECT_TRUE(turnUntil([&] { return stage.middle("Botón ir al carrito").y() < 844; }));
+    const QQuickItem* list = stage.item("result");
+    const double before = list->property("contentY").toDouble();
     stage.key(Qt::Key_Up);
+    EXPECT_LT(list->property("contentY").toDouble(), before);
     EXPECT_EQ(stage.focus()->objectName(), "Botón ir al carrito");
 }
 
