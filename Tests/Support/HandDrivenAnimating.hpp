@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Views/Dialogs/ViewAnimating.hpp"
+#include "Views/Animation/ViewAnimating.hpp"
 
 #include <vector>
 

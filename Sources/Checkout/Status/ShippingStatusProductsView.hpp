@@ -6,7 +6,7 @@
 
 #include "Checkout/Status/PanelReveal.hpp"
 #include "Checkout/Status/ProductsViewFactory.hpp"
-#include "Views/Dialogs/ViewAnimating.hpp"
+#include "Views/Animation/ViewAnimating.hpp"
 
 #include <memory>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Views/Animation/ViewAnimating.hpp"
 #include "Views/Dialogs/DialogPresenter.hpp"
-#include "Views/Dialogs/ViewAnimating.hpp"
 
 #include <QObject>
 #include <QUrl>

@@ -1,4 +1,4 @@
-#include "Views/Dialogs/ViewAnimating.hpp"
+#include "Views/Animation/ViewAnimating.hpp"
 
 #include <QCoreApplication>
 #include <QVariantAnimation>
