@@ -156,6 +156,10 @@ TEST_F(Sections, ShowWhatIsAboveTheCutWhileTheyMove) {
     EXPECT_DOUBLE_EQ(list.shownHeight(2, 100, 0.5), 70);
     EXPECT_DOUBLE_EQ(list.shownHeight(3, 120, 0.5), 0);
     EXPECT_DOUBLE_EQ(list.shownHeight(1, 80, 0), 0);
+    // The next section to move starts with heights of its own.
+    animating->running[0].finish();
+    list.toggle(1, 1);
+    EXPECT_DOUBLE_EQ(list.shownHeight(2, 80, 0.5), 40);
 }
 
 TEST_F(Sections, TurnRoundAtATapInTheMiddleOfAMove) {
