@@ -6,7 +6,7 @@
 
 namespace quillet {
 
-void DispatchMainQueueWrapper::async(std::move_only_function<void()> block) const {
+void DispatchMainQueueWrapper::async(std::function<void()> block) const {
     mainQueue().async(std::move(block));
 }
 

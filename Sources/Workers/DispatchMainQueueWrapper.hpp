@@ -7,7 +7,7 @@ namespace quillet {
 /// The process's main queue behind its role.
 class DispatchMainQueueWrapper final : public DispatchQueuing {
 public:
-    void async(std::move_only_function<void()> block) const override;
+    void async(std::function<void()> block) const override;
 };
 
 } // namespace quillet

@@ -11,7 +11,7 @@ public:
 
     /// Queues the block and returns at once; it runs later, once, after all blocks queued before it, and is
     /// freed after it ran. May be called on any thread.
-    virtual void async(std::move_only_function<void()> block) const = 0;
+    virtual void async(std::function<void()> block) const = 0;
 };
 
 } // namespace quillet

@@ -4,7 +4,7 @@
 
 namespace quillet {
 
-void MainQueue::async(std::move_only_function<void()> block) {
+void MainQueue::async(std::function<void()> block) {
     {
         const std::lock_guard lock(blocksMutex_);
         blocks_.push_back(std::move(block));

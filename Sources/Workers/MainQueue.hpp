@@ -11,7 +11,7 @@ namespace quillet {
 class MainQueue {
 public:
     /// Queues a block. May be called on any thread, also from within a block.
-    void async(std::move_only_function<void()> block);
+    void async(std::function<void()> block);
 
     /// Runs the blocks that are queued at this moment, in order, and returns how many ran. Blocks that are
     /// queued meanwhile wait for the next drain, so that the user interface gets its turn between them.
@@ -26,7 +26,7 @@ public:
 
 private:
     std::mutex blocksMutex_;
-    std::deque<std::move_only_function<void()>> blocks_;
+    std::deque<std::function<void()>> blocks_;
     std::mutex wakeUpMutex_;
     std::function<void()> wakeUp_;
 };

@@ -34,7 +34,7 @@ public:
     void setDelegate(std::weak_ptr<Delegate> delegate) { delegate_ = std::move(delegate); }
 
 protected:
-    using Completion = std::move_only_function<void(Result)>;
+    using Completion = std::function<void(Result)>;
 
     explicit ServiceWorker(std::unique_ptr<const DispatchQueuing> dispatchMainQueue)
         : dispatchMainQueue_(std::move(dispatchMainQueue)) {}
@@ -51,10 +51,11 @@ private:
     // whoever is told on the main queue; the flag is atomic for those who ask at other times.
     void didComplete(Result result) {
         isFinishedSuccessfully_.store(hasResponse(result), std::memory_order_release);
-        dispatchMainQueue_->async([self = this->weak_from_this(), outcome = std::move(result)] {
+        auto outcome = std::make_shared<const Result>(std::move(result));
+        dispatchMainQueue_->async([self = this->weak_from_this(), outcome = std::move(outcome)] {
             if (const auto worker = self.lock()) {
                 if (const auto target = worker->delegate()) {
-                    worker->deliver(*target, outcome);
+                    worker->deliver(*target, *outcome);
                 }
             }
         });

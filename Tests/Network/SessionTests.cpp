@@ -119,10 +119,11 @@ TEST_F(SessionTest, StartsACallWhoseSessionIsGone) {
 TEST_F(SessionTest, LetsACompletionFreeTheSessionAndStartAnotherCall) {
     server.enqueue(Answer::complete(200, "first"));
     server.enqueue(Answer::complete(200, "second"));
-    auto session = std::make_unique<URLSession>(configuration);
+    auto session = std::make_shared<URLSession>(configuration);
     auto second = std::make_shared<URLSessionDataTask>(task(*session));
     auto first = session->dataTask({.url = {testing::gatewayHost, "/"}},
-                                   [session = std::move(session), second](auto...) { second->resume(); });
+                                   [session, second](auto...) { second->resume(); });
+    session.reset();
     second.reset();
     first.resume();
     EXPECT_EQ(calls.wait().data, "second");

@@ -19,7 +19,7 @@ namespace quillet::testing {
 template <typename Result>
 struct Conversation {
     std::vector<std::string> log;
-    std::vector<std::move_only_function<void(Result)>> pending;
+    std::vector<std::function<void(Result)>> pending;
 };
 
 class FakeAssociateService final : public SellOutCartServiceRequestable {
@@ -100,7 +100,7 @@ public:
 class DrainedQueue final : public DispatchQueuing {
 public:
     explicit DrainedQueue(std::shared_ptr<MainQueue> queue) : queue_(std::move(queue)) {}
-    void async(std::move_only_function<void()> block) const override { queue_->async(std::move(block)); }
+    void async(std::function<void()> block) const override { queue_->async(std::move(block)); }
 
 private:
     std::shared_ptr<MainQueue> queue_;

@@ -9,7 +9,7 @@ namespace quillet {
 /// Sends the products of the consultant's open carts to her own shopping cart. May be called on any thread.
 class SellOutCartCheckoutServiceRequestable {
 public:
-    using Completion = std::move_only_function<void(CheckoutResult)>;
+    using Completion = std::function<void(CheckoutResult)>;
 
     virtual ~SellOutCartCheckoutServiceRequestable() = default;
 

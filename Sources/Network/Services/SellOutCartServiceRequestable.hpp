@@ -11,7 +11,7 @@ namespace quillet {
 /// Associates the consultant with the customer's cart. May be called on any thread.
 class SellOutCartServiceRequestable {
 public:
-    using Completion = std::move_only_function<void(OrderResult)>;
+    using Completion = std::function<void(OrderResult)>;
 
     virtual ~SellOutCartServiceRequestable() = default;
 

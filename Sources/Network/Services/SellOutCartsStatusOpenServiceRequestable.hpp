@@ -9,7 +9,7 @@ namespace quillet {
 /// Lists the consultant's open carts. May be called on any thread.
 class SellOutCartsStatusOpenServiceRequestable {
 public:
-    using Completion = std::move_only_function<void(OpenOrdersResult)>;
+    using Completion = std::function<void(OpenOrdersResult)>;
 
     virtual ~SellOutCartsStatusOpenServiceRequestable() = default;
 
