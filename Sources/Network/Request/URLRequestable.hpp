@@ -11,17 +11,14 @@
 
 namespace quillet {
 
-/// Something that holds a request that can be sent.
-class URLRequestHolding {
-public:
-    virtual ~URLRequestHolding() = default;
-
-    [[nodiscard]] virtual const URLRequest& urlRequest() const = 0;
-};
-
 /// A request in the making. Used by one thread at a time; every operation is done when it returns.
-class URLRequestable : public URLRequestHolding {
+class URLRequestable {
 public:
+    virtual ~URLRequestable() = default;
+
+    /// As it is so far.
+    [[nodiscard]] virtual const URLRequest& urlRequest() const = 0;
+
     /// Absent until set.
     [[nodiscard]] const std::optional<std::string>& httpMethod() const { return urlRequest().httpMethod; }
     virtual void setHttpMethod(std::string method) = 0;

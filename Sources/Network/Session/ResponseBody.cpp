@@ -22,7 +22,7 @@ std::expected<void, URLError> ResponseBody::begin(std::string_view encoding, std
         // The announced length is the server's word only: it saves copying, but no more than this is set
         // aside for it.
         constexpr std::size_t mostSetAside = 16 << 20;
-        bytes_.reserve(std::min(announcedBytes, mostSetAside) + padding);
+        bytes_.reserve(std::min(announcedBytes, mostSetAside));
         return {};
     }
     if (!equalIgnoringCase(encoding, "gzip") && !equalIgnoringCase(encoding, "x-gzip")) {
@@ -79,7 +79,6 @@ std::expected<std::string, URLError> ResponseBody::take() {
     if (isInsidePacking_) {
         return damaged();
     }
-    bytes_.reserve(bytes_.size() + padding);
     return std::move(bytes_);
 }
 

@@ -16,9 +16,6 @@ namespace quillet {
 /// early for a whole one.
 class ResponseBody {
 public:
-    /// Spare capacity behind a body, for parsers that read in wide steps.
-    static constexpr std::size_t padding = 64;
-
     /// `maximumBytes` counts after unpacking.
     explicit ResponseBody(std::size_t maximumBytes) : maximumBytes_(maximumBytes) {}
 

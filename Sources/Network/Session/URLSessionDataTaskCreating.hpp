@@ -13,8 +13,7 @@
 namespace quillet {
 
 /// Takes a call's outcome: either body and response, or the transport error alone. The body of a complete
-/// answer is always there, if need be empty (as for a 204); it has at least 64 bytes of spare capacity, which
-/// a parser may use as padding.
+/// answer is always there, if need be empty (as for a 204).
 using URLSessionDataTaskCompletion = std::function<void(
     std::optional<std::string> data, std::optional<HTTPURLResponse> response, std::optional<URLError> error)>;
 

@@ -19,8 +19,9 @@ struct URLSessionExchangeEnd {
     std::chrono::milliseconds duration{0};
 };
 
-/// Watches the traffic of all sessions that were made with it, for a developer to look at. Called on the
-/// sessions' threads, by several at a time; must return soon.
+/// Watches the traffic of all sessions that were made with it, for a developer to look at. The request that it
+/// is given holds everything that is sent, also the consultant's token: take care where that is shown or kept.
+/// Called on the sessions' threads, by several at a time; must return soon.
 class URLSessionObserving {
 public:
     virtual ~URLSessionObserving() = default;

@@ -54,15 +54,9 @@ URLSessionOutcome CurlTransfer::outcome(CURLcode code) {
 }
 
 HTTPURLResponse CurlTransfer::response() const {
-    HTTPURLResponse response;
     long status = 0;
     curl_easy_getinfo(easy_, CURLINFO_RESPONSE_CODE, &status);
-    response.statusCode = status;
-    const curl_header* field = nullptr;
-    while ((field = curl_easy_nextheader(easy_, CURLH_HEADER, -1, const_cast<curl_header*>(field)))) {
-        response.headerFields.push_back({field->name, field->value});
-    }
-    return response;
+    return {.statusCode = status};
 }
 
 URLError CurlTransfer::error(CURLcode code) const {
