@@ -5,36 +5,35 @@
 namespace quillet {
 
 void MainQueue::async(std::function<void()> block) {
-    {
-        const std::lock_guard lock(blocksMutex_);
-        blocks_.push_back(std::move(block));
-    }
-    const std::lock_guard lock(wakeUpMutex_);
+    Blocks queued;
+    queued.push_back(std::move(block));
+    const std::lock_guard lock(mutex_);
+    // First what may throw: without the wake-up, nobody might ever look at the block.
     if (wakeUp_) {
         wakeUp_();
     }
+    blocks_.splice(blocks_.end(), queued);
 }
 
 std::size_t MainQueue::drain() {
-    std::unique_lock lock(blocksMutex_);
+    std::unique_lock lock(mutex_);
     const std::size_t waiting = blocks_.size();
     std::size_t ran = 0;
     // Blocks are taken one by one, so that a drain from within a block goes on with the next one in order.
     for (; ran < waiting && !blocks_.empty(); ++ran) {
-        auto block = std::move(blocks_.front());
-        blocks_.pop_front();
+        Blocks next;
+        next.splice(next.end(), blocks_, blocks_.begin());
         lock.unlock();
-        block();
-        block = nullptr;
+        next.front()();
+        next.clear();
         lock.lock();
     }
     return ran;
 }
 
 void MainQueue::setWakeUp(std::function<void()> wakeUp) {
-    const std::lock_guard wakeUpLock(wakeUpMutex_);
+    const std::lock_guard lock(mutex_);
     wakeUp_ = std::move(wakeUp);
-    const std::lock_guard blocksLock(blocksMutex_);
     if (wakeUp_ && !blocks_.empty()) {
         wakeUp_();
     }

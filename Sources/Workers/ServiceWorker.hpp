@@ -1,18 +1,23 @@
 #pragma once
 
+#include "Network/Services/ServiceCall.hpp"
 #include "Workers/DispatchQueuing.hpp"
 #include "Workers/Executable.hpp"
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <memory>
+#include <new>
+#include <thread>
 #include <utility>
 
 namespace quillet {
 
 /// What the workers have in common: run one service call, remember whether it brought a response, and take
 /// the outcome to the delegate on the main queue. Held by std::shared_ptr; pending calls and queued blocks
-/// hold it weakly, so a worker that is freed takes its outstanding outcomes with it.
+/// hold it weakly, so a worker that is freed takes its outstanding outcomes with it. Where memory runs out
+/// the outcome is an error.
 template <typename Result, typename Delegate>
 class ServiceWorker : public Executable,
                       public std::enable_shared_from_this<ServiceWorker<Result, Delegate>> {
@@ -23,11 +28,15 @@ public:
 
     void execute() final {
         willCall();
-        call([self = this->weak_from_this()](Result result) {
-            if (const auto worker = self.lock()) {
-                worker->didComplete(std::move(result));
-            }
-        });
+        try {
+            call([self = this->weak_from_this()](Result result) {
+                if (const auto worker = self.lock()) {
+                    worker->didComplete(std::move(result));
+                }
+            });
+        } catch (const std::bad_alloc&) {
+            didComplete(resultWithoutMemory<Result>());
+        }
     }
 
     /// Set once by whoever assembles the worker, before the first run.
@@ -43,13 +52,23 @@ protected:
 
 private:
     virtual void willCall() {}
+    /// Has the completion called once, on any thread; or throws std::bad_alloc, and never has it called.
     virtual void call(Completion completion) = 0;
     [[nodiscard]] virtual bool hasResponse(const Result& result) const = 0;
     virtual void deliver(Delegate& delegate, const Result& result) const = 0;
 
-    // Runs wherever the service calls back. Queueing the block after the write makes the flag visible to
-    // whoever is told on the main queue; the flag is atomic for those who ask at other times.
-    void didComplete(Result result) {
+    // Runs wherever the service calls back. Somebody waits for every outcome, so where there is no memory to
+    // queue one, the response makes room for an error, and that is tried until it succeeds.
+    void didComplete(Result result) noexcept {
+        while (!queue(std::move(result))) {
+            result = resultWithoutMemory<Result>();
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        }
+    }
+
+    // False where there is no memory. Queueing the block after the write makes the flag visible to whoever is
+    // told on the main queue; the flag is atomic for those who ask at other times.
+    bool queue(Result result) noexcept try {
         isFinishedSuccessfully_.store(hasResponse(result), std::memory_order_release);
         auto outcome = std::make_shared<const Result>(std::move(result));
         dispatchMainQueue_->async([self = this->weak_from_this(), outcome = std::move(outcome)] {
@@ -59,6 +78,9 @@ private:
                 }
             }
         });
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
     }
 
     std::weak_ptr<Delegate> delegate_;

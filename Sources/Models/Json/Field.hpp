@@ -15,6 +15,10 @@ struct Field {
     Value Record::*member;
 };
 
+// Clang before 17 does not deduce an aggregate's arguments by itself.
+template <typename Record, typename Value>
+Field(std::string_view, Value Record::*) -> Field<Record, Value>;
+
 } // namespace json
 
 /// A record's table: a std::tuple of json::Field in the order in which the fields are read. Specialising it

@@ -2,6 +2,8 @@
 
 #include <simdjson.h>
 
+#include <new>
+
 namespace quillet::json {
 
 std::optional<StructuralIndex> StructuralIndex::of(const std::string& body) {
@@ -10,8 +12,15 @@ std::optional<StructuralIndex> StructuralIndex::of(const std::string& body) {
     // and it never reads past the end, so that the body needs no padding and no copy.
     std::unique_ptr<simdjson::internal::dom_parser_implementation> parser;
     const std::size_t depthOfUnusedSecondPass = 1;
-    if (body.empty() || simdjson::get_active_implementation()->create_dom_parser_implementation(
-                            body.size(), depthOfUnusedSecondPass, parser) != simdjson::SUCCESS) {
+    if (body.empty()) {
+        return std::nullopt;
+    }
+    const auto made = simdjson::get_active_implementation()->create_dom_parser_implementation(
+        body.size(), depthOfUnusedSecondPass, parser);
+    if (made == simdjson::MEMALLOC) {
+        throw std::bad_alloc();
+    }
+    if (made != simdjson::SUCCESS) {
         return std::nullopt;
     }
     const auto* bytes = reinterpret_cast<const std::uint8_t*>(body.data());

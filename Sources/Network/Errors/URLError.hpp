@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace quillet {
 
@@ -38,6 +39,11 @@ struct URLError {
     Code code = Code::unknown;
     /// One line for a developer, from the HTTP client; may name host and file, never a header or a body.
     std::string message;
+
+    /// Never throws: where there is no memory for the message, the error goes without one.
+    [[nodiscard]] static URLError of(Code code, std::string_view message) noexcept;
+    /// For what could not be done because an allocation failed.
+    [[nodiscard]] static URLError outOfMemory() noexcept;
 
     bool operator==(const URLError&) const = default;
 };

@@ -5,13 +5,39 @@
 
 #include <expected>
 #include <memory>
+#include <new>
 #include <optional>
 #include <utility>
 
 namespace quillet {
 
-/// The road that all three services take: send the request, decode the answer as a `Response`, classify its
-/// error, and hand a `Result` to the completion. Keeps what it needs by itself until then.
+/// The `Result` of a call that there was no memory for.
+template <typename Result>
+[[nodiscard]] Result resultWithoutMemory() noexcept {
+    return {std::nullopt, URLError::outOfMemory(), 0};
+}
+
+/// What an exchange came to: the answer decoded as a `Response`, and its error classified.
+template <typename Response, typename Result>
+[[nodiscard]] Result serviceResult(const NetworkErrorParser& errorParser,
+                                   const std::optional<std::string>& data,
+                                   const std::optional<HTTPURLResponse>& response,
+                                   std::optional<URLError> transportError) noexcept {
+    try {
+        std::optional<Response> decoded;
+        if (auto record = Response::create(data)) {
+            decoded = *std::move(record);
+        }
+        return {std::move(decoded), errorParser.parse(data, response, std::move(transportError)),
+                response ? response->statusCode : 0};
+    } catch (const std::bad_alloc&) {
+        return resultWithoutMemory<Result>();
+    }
+}
+
+/// The road that all three services take: send the request, decode the answer, and hand a `Result` to the
+/// completion, which must not throw. Keeps what it needs by itself until then. Throws std::bad_alloc where
+/// there is no memory to begin; the completion is not called then.
 template <typename Response, typename Result, typename Completion>
 void performServiceCall(std::expected<URLRequest, ServiceError> request,
                         const URLSessionDataTaskCreating& session,
@@ -23,13 +49,8 @@ void performServiceCall(std::expected<URLRequest, ServiceError> request,
     auto completionHandler = [errorParser = NetworkErrorParser(std::move(httpErrorFactory)),
                               done = std::move(completion)](const std::optional<std::string>& data,
                                                             const std::optional<HTTPURLResponse>& response,
-                                                            std::optional<URLError> transportError) mutable {
-        std::optional<Response> decoded;
-        if (auto record = Response::create(data)) {
-            decoded = *std::move(record);
-        }
-        done(Result{std::move(decoded), errorParser.parse(data, response, std::move(transportError)),
-                    response ? response->statusCode : 0});
+                                                            std::optional<URLError> transportError) {
+        done(serviceResult<Response, Result>(errorParser, data, response, std::move(transportError)));
     };
     session.dataTask(*request, std::move(completionHandler))->resume();
 }
