@@ -1,8 +1,10 @@
 #include "Network/Session/URLSession.hpp"
 #include "Support/SandboxedSession.hpp"
+#include "Support/SilentPort.hpp"
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cstdlib>
 
 namespace quillet {
@@ -26,6 +28,29 @@ private:
     bool isThere_;
 };
 
+class BeginningsCounter final : public URLSessionObserving {
+public:
+    void willSend(std::uint64_t, const URLRequest&) override { ++beginnings; }
+    void didEnd(std::uint64_t, const URLRequest&, const URLSessionExchangeEnd&) override {}
+
+    std::atomic<int> beginnings = 0;
+};
+
+class FailingPath final : public NetworkPathMonitoring {
+public:
+    bool isSatisfied(const std::string&, bool) const override { throw std::bad_alloc(); }
+};
+
+struct SessionReach : ::testing::Test {
+    // What the machine's own proxy would be is not of interest here.
+    void SetUp() override {
+        for (const char* const name :
+             {"https_proxy", "HTTPS_PROXY", "all_proxy", "ALL_PROXY", "no_proxy", "NO_PROXY"}) {
+            unsetenv(name);
+        }
+    }
+};
+
 URLError::Code errorOf(const URLSessionConfiguration& configuration,
                        const std::string& host = testing::gatewayHost) {
     testing::CallRecorder calls;
@@ -37,36 +62,120 @@ URLError::Code errorOf(const URLSessionConfiguration& configuration,
 
 } // namespace
 
-TEST(SessionReach, SendsNothingWithoutANetwork) {
+// A label of 64 letters is no name, so nobody is asked for it.
+const std::string noName = std::string(64, 'a') + ".test";
+// Nobody listens there.
+constexpr std::uint16_t closedPort = 1;
+
+TEST_F(SessionReach, AsksForANetworkOnlyWhereTheHostIsNotReached) {
     testing::SandboxedSession sandbox;
     const auto path = std::make_shared<ScriptedPath>(false);
     sandbox.configuration.networkPath = path;
+    sandbox.server.enqueue(testing::Answer::complete(200, "{}"));
+    EXPECT_EQ(errorOf(sandbox.configuration), URLError::Code{});
+    EXPECT_EQ(path->asked.count(), 0u);
+
+    sandbox.configuration.hostMappings[0].port = closedPort;
     EXPECT_EQ(errorOf(sandbox.configuration), notConnectedToInternet);
     EXPECT_EQ(path->asked.wait(), "gateway.test mapped");
     EXPECT_NE(path->asked.threadOf(), std::this_thread::get_id());
-    EXPECT_EQ(errorOf(sandbox.configuration, "elsewhere.test"), notConnectedToInternet);
-    EXPECT_EQ(path->asked.wait(1), "elsewhere.test");
-    EXPECT_EQ(sandbox.server.connections(), 0u);
+    EXPECT_EQ(errorOf(sandbox.configuration, noName), notConnectedToInternet);
+    EXPECT_EQ(path->asked.wait(1), noName);
 }
 
-TEST(SessionReach, TellsAHostThatIsNotReachedFromNoNetwork) {
+TEST_F(SessionReach, TellsAHostThatIsNotReachedFromNoNetwork) {
     testing::SandboxedSession sandbox;
     auto& mapping = sandbox.configuration.hostMappings[0];
-    // Nobody listens at port 1, and a label of 64 letters is no name.
-    mapping.port = 1;
+    mapping.port = closedPort;
     EXPECT_EQ(errorOf(sandbox.configuration), cannotConnectToHost);
-    mapping.address = std::string(64, 'a') + ".test";
+    mapping.address = noName;
     EXPECT_EQ(errorOf(sandbox.configuration), cannotFindHost);
     // The system calls a network unreachable that is asked to connect to everybody.
-    mapping.address = "255.255.255.255";
-    EXPECT_EQ(errorOf(sandbox.configuration), cannotConnectToHost);
-    setenv("no_proxy", "*", 1);
     sandbox.configuration.networkPath = std::make_shared<ScriptedPath>(true);
-    EXPECT_EQ(errorOf(sandbox.configuration, mapping.address), notConnectedToInternet);
-    unsetenv("no_proxy");
+    EXPECT_EQ(errorOf(sandbox.configuration, "255.255.255.255"), cannotConnectToHost);
+    // A monitor that fails has not said that there is no network.
+    sandbox.configuration.networkPath = std::make_shared<FailingPath>();
+    EXPECT_EQ(errorOf(sandbox.configuration, noName), cannotFindHost);
 }
 
-TEST(SessionReach, TrustsOnlyACertificateOfTheAuthorityForTheHost) {
+// The first attempts go where packets are dropped; then a server takes the port over.
+class ServerFoundLate final : public NetworkPathMonitoring {
+public:
+    bool isSatisfied(const std::string&, bool) const override {
+        if (++failures == 2) {
+            const auto port = dead->port();
+            dead.reset();
+            server = std::make_unique<testing::FaultServer>(authority.serverContext(testing::gatewayHost),
+                                                            testing::ServerPlace{.port = port});
+            server->enqueue(testing::Answer::complete(200, "{}"));
+        }
+        return true;
+    }
+
+    testing::TestAuthority authority;
+    mutable std::unique_ptr<testing::SilentPort> dead =
+        std::make_unique<testing::SilentPort>(testing::SilentPort::Kind::dropping);
+    mutable std::unique_ptr<testing::FaultServer> server;
+    mutable std::atomic<int> failures = 0;
+};
+
+TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
+    const auto path = std::make_shared<ServerFoundLate>();
+    const auto clock = std::make_shared<testing::VirtualClock>();
+    const auto observer = std::make_shared<BeginningsCounter>();
+    testing::CallRecorder calls;
+    const URLSession session(
+        {.caBundleFile = path->authority.bundleFile(),
+         .hostMappings = {{.host = testing::gatewayHost, .address = "127.0.0.1", .port = path->dead->port()}},
+         .networkPath = path,
+         .clock = clock,
+         .observer = observer,
+         // Less than the second after which the system would repeat its own packet.
+         .connectTimeout = std::chrono::milliseconds(200)});
+    session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
+    EXPECT_EQ(calls.wait().data, "{}");
+    EXPECT_EQ(path->failures, 2);
+    EXPECT_EQ(path->server->requests().size(), 1u);
+    EXPECT_EQ(observer->beginnings, 1);
+
+    const testing::SilentPort dead(testing::SilentPort::Kind::dropping);
+    const auto stillThere = std::make_shared<ScriptedPath>(true);
+    const URLSession other(
+        {.caBundleFile = path->authority.bundleFile(),
+         .hostMappings = {{.host = testing::gatewayHost, .address = "127.0.0.1", .port = dead.port()}},
+         .networkPath = stillThere,
+         .clock = clock,
+         .connectTimeout = std::chrono::milliseconds(20)});
+    other.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
+    static_cast<void>(stillThere->asked.wait(2));
+    EXPECT_EQ(calls.count(), 1u);
+    clock->advance(std::chrono::seconds(60));
+    EXPECT_EQ(calls.wait(1).error->code, timedOut);
+}
+
+// One call is connected and hears nothing; the other, on the same thread, finds out five times that it is
+// not.
+TEST_F(SessionReach, KeepsAConnectionThatIsSlowToSpeak) {
+    testing::SandboxedSession sandbox;
+    const testing::SilentPort slow;
+    const testing::SilentPort dead(testing::SilentPort::Kind::dropping);
+    const auto path = std::make_shared<ScriptedPath>(true);
+    sandbox.configuration.hostMappings = {
+        {.host = testing::gatewayHost, .address = "127.0.0.1", .port = slow.port()},
+        {.host = "dead.test", .address = "127.0.0.1", .port = dead.port()}};
+    sandbox.configuration.networkPath = path;
+    sandbox.configuration.connectTimeout = std::chrono::milliseconds(50);
+    testing::CallRecorder calls;
+    const URLSession session(sandbox.configuration);
+    session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
+    session.dataTask({.url = {"dead.test", "/"}}, calls.completion()).resume();
+    for (std::size_t attempt = 0; attempt < 5; ++attempt) {
+        EXPECT_EQ(path->asked.wait(attempt), "dead.test mapped");
+    }
+    EXPECT_EQ(calls.count(), 0u);
+}
+
+TEST_F(SessionReach, TrustsOnlyACertificateOfTheAuthorityForTheHost) {
     testing::SandboxedSession sandbox;
     const testing::TestAuthority stranger;
     const auto real = sandbox.configuration;
@@ -87,7 +196,7 @@ TEST(SessionReach, TrustsOnlyACertificateOfTheAuthorityForTheHost) {
     EXPECT_EQ(sandbox.server.requests().size(), 0u);
 }
 
-TEST(SessionReach, ReachesAMappedHostPastTheProxyOfTheEnvironment) {
+TEST_F(SessionReach, ReachesAMappedHostPastTheProxyOfTheEnvironment) {
     testing::SandboxedSession sandbox;
     sandbox.server.enqueue(testing::Answer::complete(200, "{}"));
     sandbox.configuration.hostMappings[0].host = "GATEWAY.test";
@@ -101,7 +210,7 @@ TEST(SessionReach, ReachesAMappedHostPastTheProxyOfTheEnvironment) {
     unsetenv("https_proxy");
 }
 
-TEST(SessionReach, RefusesAMethodThatIsNone) {
+TEST_F(SessionReach, RefusesAMethodThatIsNone) {
     const testing::SandboxedSession sandbox;
     testing::CallRecorder calls;
     const URLSession session(sandbox.configuration);

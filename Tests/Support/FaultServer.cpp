@@ -36,6 +36,22 @@ std::optional<std::string> readRequest(SSL* tls) {
     return request;
 }
 
+// The client waits for the answer before it says more, so no byte of TLS is lost here.
+void giveTunnel(int socket) {
+    std::string request;
+    std::array<char, 4096> buffer{};
+    while (!request.ends_with("\r\n\r\n")) {
+        const auto count = read(socket, buffer.data(), buffer.size());
+        if (count <= 0) {
+            return;
+        }
+        request.append(buffer.data(), static_cast<std::size_t>(count));
+    }
+    const std::string_view answer =
+        request.starts_with("CONNECT ") ? "HTTP/1.1 200 Here it is\r\n\r\n" : "HTTP/1.1 400 No\r\n\r\n";
+    static_cast<void>(send(socket, answer.data(), answer.size(), MSG_NOSIGNAL));
+}
+
 } // namespace
 
 Answer Answer::complete(int status, const std::string& body, const std::string& headers) {
@@ -43,13 +59,17 @@ Answer Answer::complete(int status, const std::string& body, const std::string& 
              std::to_string(body.size()) + "\r\n" + headers + "\r\n" + body}};
 }
 
-FaultServer::FaultServer(ContextPointer context) : context_(std::move(context)) {
+FaultServer::FaultServer(ContextPointer context, ServerPlace place)
+    : context_(std::move(context)), place_(place) {
     std::signal(SIGPIPE, SIG_IGN);
     listener_ = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in address{};
     address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    address.sin_addr.s_addr = htonl(place_.port == 0 ? INADDR_LOOPBACK : INADDR_ANY);
+    address.sin_port = htons(place_.port);
     socklen_t size = sizeof(address);
+    const int again = 1;
+    setsockopt(listener_, SOL_SOCKET, SO_REUSEADDR, &again, sizeof(again));
     bind(listener_, reinterpret_cast<sockaddr*>(&address), size);
     getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size);
     listen(listener_, 16);
@@ -110,6 +130,9 @@ void FaultServer::acceptConnections() {
 }
 
 void FaultServer::serve(int socket) {
+    if (place_.isProxy) {
+        giveTunnel(socket);
+    }
     const std::unique_ptr<SSL, decltype(&SSL_free)> tls(SSL_new(context_.get()), &SSL_free);
     SSL_set_fd(tls.get(), socket);
     if (SSL_accept(tls.get()) == 1) {

@@ -35,12 +35,20 @@ struct Answer {
     static Answer complete(int status, const std::string& body, const std::string& headers = "");
 };
 
-/// An HTTPS server on a free loopback port that answers from a script, one Answer a request, whichever
+/// Where a server is found.
+struct ServerPlace {
+    /// On all addresses; 0 for a free port of the loopback.
+    std::uint16_t port = 0;
+    /// The client has to ask for a tunnel first, which leads to this server wherever it should lead.
+    bool isProxy = false;
+};
+
+/// An HTTPS server that answers from a script, one Answer a request, whichever
 /// connection it comes on, and keeps every request it received. A request beyond the script is kept and never
 /// answered.
 class FaultServer {
 public:
-    explicit FaultServer(ContextPointer context);
+    explicit FaultServer(ContextPointer context, ServerPlace place = {});
     ~FaultServer();
 
     [[nodiscard]] std::uint16_t port() const { return port_; }
@@ -58,6 +66,7 @@ private:
     [[nodiscard]] bool answerOneRequest(SSL* tls);
 
     ContextPointer context_;
+    const ServerPlace place_;
     int listener_ = -1;
     std::uint16_t port_ = 0;
     std::mutex mutex_;

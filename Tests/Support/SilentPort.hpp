@@ -8,26 +8,41 @@
 
 namespace quillet::testing {
 
-/// A port on which connections come about and nothing is ever said.
+/// A port on which nothing is ever said: connections come about, or not even that.
 class SilentPort {
 public:
-    SilentPort() : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+    enum class Kind { accepting, dropping };
+
+    explicit SilentPort(Kind kind = Kind::accepting) : socket_(newSocket()) {
         sockaddr_in address{};
         address.sin_family = AF_INET;
         address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         socklen_t length = sizeof address;
         ::bind(socket_, reinterpret_cast<sockaddr*>(&address), length);
-        ::listen(socket_, 8);
+        ::listen(socket_, kind == Kind::dropping ? 0 : 8);
         ::getsockname(socket_, reinterpret_cast<sockaddr*>(&address), &length);
         port_ = ntohs(address.sin_port);
+        if (kind == Kind::dropping) {
+            // One connection fills the queue; whoever comes after it is not answered.
+            queued_ = newSocket();
+            ::connect(queued_, reinterpret_cast<sockaddr*>(&address), length);
+        }
     }
-    ~SilentPort() { ::close(socket_); }
+    ~SilentPort() {
+        ::close(socket_);
+        if (queued_ >= 0) {
+            ::close(queued_);
+        }
+    }
     SilentPort(const SilentPort&) = delete;
     SilentPort& operator=(const SilentPort&) = delete;
     [[nodiscard]] std::uint16_t port() const { return port_; }
 
 private:
+    static int newSocket() { return ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0); }
+
     int socket_;
+    int queued_ = -1;
     std::uint16_t port_ = 0;
 };
 

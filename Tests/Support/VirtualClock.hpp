@@ -2,7 +2,10 @@
 
 #include "Network/Session/SessionClock.hpp"
 
+#include <condition_variable>
+#include <cstddef>
 #include <mutex>
+#include <stdexcept>
 #include <vector>
 
 namespace quillet::testing {
@@ -12,6 +15,8 @@ class VirtualClock final : public SessionClock {
 public:
     [[nodiscard]] std::chrono::steady_clock::time_point now() const override {
         const std::lock_guard lock(mutex_);
+        ++reads_;
+        wasRead_.notify_all();
         return now_;
     }
 
@@ -32,8 +37,26 @@ public:
         }
     }
 
+    /// Waits until a session has done all that is due at this time. A session looks at the clock twice in
+    /// each round: for the calls that are over, and for how long it may sleep. So two wake-ups and twice two
+    /// looks take it through at least one whole round.
+    void settle() {
+        for (int round = 0; round < 2; ++round) {
+            std::unique_lock lock(mutex_);
+            const auto whole = reads_ + 2;
+            lock.unlock();
+            advance({});
+            lock.lock();
+            if (!wasRead_.wait_for(lock, std::chrono::seconds(30), [&] { return reads_ >= whole; })) {
+                throw std::runtime_error("No session looks at the clock.");
+            }
+        }
+    }
+
 private:
     mutable std::mutex mutex_;
+    mutable std::condition_variable wasRead_;
+    mutable std::size_t reads_ = 0;
     std::chrono::steady_clock::time_point now_;
     std::vector<std::weak_ptr<SessionClockListening>> listeners_;
 };

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <utility>
 
 namespace quillet {
@@ -19,10 +20,8 @@ std::unexpected<URLError> damaged() {
 
 std::expected<void, URLError> ResponseBody::begin(std::string_view encoding, std::size_t announcedBytes) {
     if (encoding.empty() || equalIgnoringCase(encoding, "identity")) {
-        // The announced length is the server's word only: it saves copying, but no more than this is set
-        // aside for it.
-        constexpr std::size_t mostSetAside = 16 << 20;
-        bytes_.reserve(std::min(announcedBytes, mostSetAside));
+        // The announced length is the server's word only: it saves copying.
+        bytes_.reserve(std::min(announcedBytes, maximumBytes_));
         return {};
     }
     if (!equalIgnoringCase(encoding, "gzip") && !equalIgnoringCase(encoding, "x-gzip")) {
@@ -31,7 +30,7 @@ std::expected<void, URLError> ResponseBody::begin(std::string_view encoding, std
     constexpr int gzipOnly = 16 + MAX_WBITS;
     auto stream = std::make_unique<z_stream>();
     if (inflateInit2(stream.get(), gzipOnly) != Z_OK) {
-        return damaged();
+        throw std::bad_alloc();
     }
     unpacking_.reset(stream.release());
     isInsidePacking_ = true;
@@ -64,6 +63,9 @@ std::expected<void, URLError> ResponseBody::appendPacked(std::string_view bytes)
         stream.next_out = reinterpret_cast<Bytef*>(unpacked.data());
         stream.avail_out = static_cast<uInt>(unpacked.size());
         const int result = inflate(&stream, Z_NO_FLUSH);
+        if (result == Z_MEM_ERROR) {
+            throw std::bad_alloc();
+        }
         if (result != Z_OK && result != Z_STREAM_END && result != Z_BUF_ERROR) {
             return damaged();
         }

@@ -13,7 +13,7 @@
 namespace quillet {
 
 /// Collects an answer's body and unpacks it. libcurl could unpack too, but takes a packed body that ends
-/// early for a whole one.
+/// early for a whole one. Throws std::bad_alloc where there is no memory.
 class ResponseBody {
 public:
     /// `maximumBytes` counts after unpacking.

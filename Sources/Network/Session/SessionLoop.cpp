@@ -7,7 +7,7 @@
 
 #include <algorithm>
 #include <atomic>
-#include <limits>
+#include <new>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -34,37 +34,43 @@ URLSessionConfiguration completed(URLSessionConfiguration configuration) {
 
 SessionLoop::SessionLoop(URLSessionConfiguration configuration)
     : configuration_(completed(std::move(configuration))) {
-    initialiseCurl();
+    // As early as possible, for the sake of the order in which the process ends. Each call asks for the
+    // error.
+    static_cast<void>(initialiseCurl());
 }
 
 void SessionLoop::start(URLSessionExchange exchange) {
     const auto now = configuration_.clock->now();
     const auto deadline =
         now + std::min<std::chrono::milliseconds>(exchange.request.timeoutInterval, longestTimeout);
-    Call call{.exchange = std::move(exchange), .number = ++exchangeCount, .start = now, .deadline = deadline};
+    Calls call;
+    call.push_back(
+        {.exchange = std::move(exchange), .number = ++exchangeCount, .start = now, .deadline = deadline});
     {
         const std::lock_guard lock(mutex_);
         if (multi_ || startThread()) {
-            arrived_.push_back(std::move(call));
-            curl_multi_wakeup(multi_);
+            arrived_.splice(arrived_.end(), call);
+            wakeUp();
             return;
         }
     }
-    call.exchange.completionHandler({}, {}, URLError{URLError::Code::unknown, "No thread for the session"});
+    call.front().exchange.completionHandler(
+        {}, {}, URLError::of(URLError::Code::unknown, "No thread for the session"));
 }
 
 bool SessionLoop::startThread() {
     multi_ = curl_multi_init();
-    if (!multi_) {
-        return false;
-    }
     try {
-        std::thread([self = shared_from_this()] { self->run(); }).detach();
+        // A multi handle that found no file descriptors for waking it up would sleep through every call.
+        if (multi_ && curl_multi_wakeup(multi_) == CURLM_OK) {
+            std::thread([self = shared_from_this()] { self->run(); }).detach();
+            return true;
+        }
     } catch (const std::system_error&) {
-        curl_multi_cleanup(std::exchange(multi_, nullptr));
-        return false;
+    } catch (const std::bad_alloc&) {
     }
-    return true;
+    curl_multi_cleanup(std::exchange(multi_, nullptr));
+    return false;
 }
 
 void SessionLoop::ownerIsGone() {
@@ -86,9 +92,24 @@ void SessionLoop::wakeUp() {
 
 template <typename Foreign>
 void SessionLoop::outside(Foreign foreign) {
-    work_.unlock();
+    struct Outside {
+        explicit Outside(ProcessEnd::Lock& work) : work_(work) { work_.unlock(); }
+        ~Outside() { work_.lock(); }
+        ProcessEnd::Lock& work_;
+    };
+    const Outside guard(work_);
     foreign();
-    work_.lock();
+}
+
+template <typename Tell>
+void SessionLoop::tellObserver(Tell tell) {
+    if (configuration_.observer) {
+        try {
+            outside([&] { tell(*configuration_.observer); });
+        } catch (...) {
+            // Watching must not change what is watched.
+        }
+    }
 }
 
 void SessionLoop::run() noexcept {
@@ -98,7 +119,7 @@ void SessionLoop::run() noexcept {
         beginArrivedCalls();
         int unfinished = 0;
         if (const CURLMcode code = curl_multi_perform(multi_, &unfinished); code != CURLM_OK) {
-            finishAllCalls({URLError::Code::unknown, curl_multi_strerror(code)});
+            finishAllCalls(code);
         }
         finishTransferredCalls();
         finishOverdueCalls();
@@ -106,58 +127,101 @@ void SessionLoop::run() noexcept {
             return;
         }
         // A wake-up that comes before the poll is not lost: it ends the poll at once.
-        outside([&] { curl_multi_poll(multi_, nullptr, 0, millisecondsToNextDeadline(), nullptr); });
+        outside([&] { curl_multi_poll(multi_, nullptr, 0, millisecondsToSleep(), nullptr); });
     }
 }
 
 void SessionLoop::beginArrivedCalls() {
-    std::vector<Call> arrived;
+    Calls arrived;
     {
         const std::lock_guard lock(mutex_);
         arrived.swap(arrived_);
     }
-    for (auto& call : arrived) {
-        begin(std::move(call));
+    while (!arrived.empty()) {
+        const auto call = arrived.begin();
+        running_.splice(running_.end(), arrived, call);
+        tellObserver([&](auto& observer) { observer.willSend(call->number, call->exchange.request); });
+        begin(call);
     }
 }
 
-void SessionLoop::begin(Call call) {
-    const auto& request = call.exchange.request;
-    const bool isMapped = configuration_.mapping(request.url.host) != nullptr;
-    bool isSatisfied = false;
-    outside([&] { isSatisfied = configuration_.networkPath->isSatisfied(request.url.host, isMapped); });
-    if (!isSatisfied) {
-        complete(call, {.error = URLError{URLError::Code::notConnectedToInternet, "There is no network"}});
-        return;
+void SessionLoop::begin(Calls::iterator call) {
+    std::optional<URLError> error;
+    try {
+        error = beginTransfer(*call);
+    } catch (const std::bad_alloc&) {
+        error = URLError::outOfMemory();
     }
-    // The transfer reads the request where it lies, so the call must be in its place first.
-    const auto place = running_.insert(running_.end(), std::move(call));
-    auto transfer = CurlTransfer::create(place->exchange.request, configuration_);
+    if (error) {
+        finish(call, {.error = std::move(error)});
+    }
+}
+
+std::optional<URLError> SessionLoop::beginTransfer(Call& call) {
+    if (auto error = initialiseCurl()) {
+        return error;
+    }
+    auto transfer = CurlTransfer::create(call.exchange.request, configuration_);
     if (!transfer) {
-        finish(place, {.error = std::move(transfer).error()});
-        return;
-    }
-    if (configuration_.observer) {
-        outside([&] { configuration_.observer->willSend(place->number, place->exchange.request); });
+        return std::move(transfer).error();
     }
     if (const CURLMcode code = curl_multi_add_handle(multi_, (*transfer)->handle()); code != CURLM_OK) {
-        finish(place, {.error = URLError{URLError::Code::unknown, curl_multi_strerror(code)}});
-        return;
+        return URLError::of(URLError::Code::unknown, curl_multi_strerror(code));
     }
-    place->transfer = *std::move(transfer);
+    call.transfer = *std::move(transfer);
+    return std::nullopt;
+}
+
+void SessionLoop::endTransfer(Call& call) {
+    if (call.transfer) {
+        curl_multi_remove_handle(multi_, call.transfer->handle());
+        call.transfer.reset();
+    }
 }
 
 void SessionLoop::finishTransferredCalls() {
     int left = 0;
     while (const CURLMsg* message = curl_multi_info_read(multi_, &left)) {
-        const auto place = std::ranges::find_if(running_, [&](const Call& call) {
-            return call.transfer && call.transfer->handle() == message->easy_handle;
+        const auto call = std::ranges::find_if(running_, [&](const Call& one) {
+            return one.transfer && one.transfer->handle() == message->easy_handle;
         });
-        if (message->msg == CURLMSG_DONE && place != running_.end()) {
-            const CURLcode code = message->data.result;
-            finish(place, place->transfer->outcome(code));
+        if (message->msg == CURLMSG_DONE && call != running_.end()) {
+            finishTransferredCall(call, message->data.result);
         }
     }
+}
+
+void SessionLoop::finishTransferredCall(Calls::iterator call, CURLcode code) {
+    const bool isConnectTimeout = code == CURLE_OPERATION_TIMEDOUT && call->transfer->isConnecting();
+    if ((isConnectTimeout || isFailureToConnect(code)) && !isNetworkThere(*call)) {
+        finish(call, {.error = URLError::of(URLError::Code::notConnectedToInternet, "There is no network")});
+        return;
+    }
+    if (isConnectTimeout) {
+        endTransfer(*call);
+        begin(call);
+        return;
+    }
+    URLSessionOutcome outcome;
+    try {
+        outcome = call->transfer->outcome(code);
+    } catch (const std::bad_alloc&) {
+        outcome = {.error = URLError::outOfMemory()};
+    }
+    finish(call, std::move(outcome));
+}
+
+bool SessionLoop::isNetworkThere(const Call& call) {
+    const std::string& host = call.exchange.request.url.host;
+    bool isThere = true;
+    try {
+        outside([&] {
+            isThere = configuration_.networkPath->isSatisfied(host, configuration_.mapping(host) != nullptr);
+        });
+    } catch (...) {
+        // Whoever cannot tell does not say that there is none.
+    }
+    return isThere;
 }
 
 void SessionLoop::finishOverdueCalls() {
@@ -165,49 +229,47 @@ void SessionLoop::finishOverdueCalls() {
     for (auto call = running_.begin(); call != running_.end();) {
         const auto next = std::next(call);
         if (call->deadline <= now) {
-            finish(call, {.error = URLError{URLError::Code::timedOut, "The request timed out"}});
+            finish(call, {.error = URLError::of(URLError::Code::timedOut, "The request timed out")});
         }
         call = next;
     }
 }
 
-void SessionLoop::finishAllCalls(const URLError& error) {
+void SessionLoop::finishAllCalls(CURLMcode code) {
     while (!running_.empty()) {
-        finish(running_.begin(), {.error = error});
+        finish(running_.begin(), {.error = URLError::of(URLError::Code::unknown, curl_multi_strerror(code))});
     }
 }
 
-void SessionLoop::finish(std::list<Call>::iterator place, URLSessionOutcome outcome) {
-    std::list<Call> finished;
-    finished.splice(finished.end(), running_, place);
-    if (place->transfer) {
-        curl_multi_remove_handle(multi_, place->transfer->handle());
-        place->transfer.reset();
-    }
-    complete(*place, std::move(outcome));
-}
-
-void SessionLoop::complete(Call& call, URLSessionOutcome outcome) {
-    if (configuration_.observer) {
+void SessionLoop::finish(Calls::iterator call, URLSessionOutcome outcome) {
+    Calls finished;
+    finished.splice(finished.end(), running_, call);
+    endTransfer(*call);
+    tellObserver([&](auto& observer) {
         URLSessionExchangeEnd end;
         end.statusCode = outcome.response ? outcome.response->statusCode : 0;
         end.errorCode = outcome.error ? std::optional(outcome.error->code) : std::nullopt;
         end.duration =
-            std::chrono::duration_cast<std::chrono::milliseconds>(configuration_.clock->now() - call.start);
-        outside([&] { configuration_.observer->didEnd(call.number, call.exchange.request, end); });
-    }
+            std::chrono::duration_cast<std::chrono::milliseconds>(configuration_.clock->now() - call->start);
+        observer.didEnd(call->number, call->exchange.request, end);
+    });
     outside([&] {
-        auto completionHandler = std::move(call.exchange.completionHandler);
+        auto completionHandler = std::move(call->exchange.completionHandler);
         completionHandler(std::move(outcome.data), std::move(outcome.response), std::move(outcome.error));
     });
 }
 
-int SessionLoop::millisecondsToNextDeadline() const {
+int SessionLoop::millisecondsToSleep() const {
     // Without a call there is nothing to wait for but a wake-up.
     std::chrono::milliseconds wait = std::chrono::hours(1);
     const auto now = configuration_.clock->now();
     for (const auto& call : running_) {
         wait = std::min(wait, std::chrono::ceil<std::chrono::milliseconds>(call.deadline - now));
+        if (call.transfer && call.transfer->isConnecting()) {
+            // libcurl 7.88 gives an address up in time, but goes on to the next one only when it is called
+            // again, and does not ask for that.
+            wait = std::min(wait, std::chrono::milliseconds(250));
+        }
     }
     return static_cast<int>(std::max(wait, std::chrono::milliseconds(0)).count());
 }

@@ -10,7 +10,7 @@
 #include <list>
 #include <memory>
 #include <mutex>
-#include <vector>
+#include <optional>
 
 namespace quillet {
 
@@ -21,7 +21,8 @@ public:
     explicit SessionLoop(URLSessionConfiguration configuration);
 
     /// Starts a call; the first one starts the thread. Any thread, as long as the owner is there. Where the
-    /// system gives no thread the completion is called at once, on the caller's.
+    /// system gives no thread the completion is called at once, on the caller's. Throws std::bad_alloc where
+    /// there is no memory for the call, which then is forgotten and never completed.
     void start(URLSessionExchange exchange);
 
     /// No call will be started any more. Any thread, once.
@@ -39,6 +40,9 @@ private:
         TimePoint deadline;
         std::unique_ptr<CurlTransfer> transfer = nullptr;
     };
+    // A call stays in its node from start to end: libcurl reads the request where it lies, and moving nodes
+    // takes no memory.
+    using Calls = std::list<Call>;
 
     bool startThread();
     void wakeUp();
@@ -46,29 +50,34 @@ private:
     // From here on: on the session's thread only.
     void run() noexcept;
     void beginArrivedCalls();
-    void begin(Call call);
+    void begin(Calls::iterator call);
+    std::optional<URLError> beginTransfer(Call& call);
+    void endTransfer(Call& call);
     void finishTransferredCalls();
+    void finishTransferredCall(Calls::iterator call, CURLcode code);
     void finishOverdueCalls();
-    void finishAllCalls(const URLError& error);
-    void finish(std::list<Call>::iterator call, URLSessionOutcome outcome);
-    void complete(Call& call, URLSessionOutcome outcome);
+    void finishAllCalls(CURLMcode code);
+    void finish(Calls::iterator call, URLSessionOutcome outcome);
+    [[nodiscard]] bool isNetworkThere(const Call& call);
     template <typename Foreign>
     void outside(Foreign foreign);
-    [[nodiscard]] int millisecondsToNextDeadline() const;
+    template <typename Tell>
+    void tellObserver(Tell tell);
+    [[nodiscard]] int millisecondsToSleep() const;
     [[nodiscard]] bool endIfDone();
 
     const URLSessionConfiguration configuration_;
 
     std::mutex mutex_;
     // Guarded by the mutex. The multi handle itself belongs to the session's thread; others only wake it up.
-    std::vector<Call> arrived_;
+    Calls arrived_;
     CURLM* multi_ = nullptr;
     bool ownerIsGone_ = false;
 
     // The session's thread's own. The lock is held while libcurl works, and neither while the thread waits
     // nor while it is in somebody else's code.
     ProcessEnd::Lock work_;
-    std::list<Call> running_;
+    Calls running_;
 };
 
 /// What a session and its tasks share: as long as one of them is there, calls may be started.

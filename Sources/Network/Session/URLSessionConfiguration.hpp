@@ -4,6 +4,7 @@
 #include "Network/Session/SessionClock.hpp"
 #include "Network/Session/URLSessionObserving.hpp"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -37,9 +38,14 @@ struct URLSessionConfiguration {
     std::shared_ptr<SessionClock> clock = nullptr;
     /// Null for nobody.
     std::shared_ptr<URLSessionObserving> observer = nullptr;
-    /// The largest body that is taken, in bytes after unpacking; a larger one ends the call with an error. 64
-    /// MiB is seven times a list of two thousand orders.
-    std::size_t maximumBodyBytes = std::size_t{64} << 20;
+    /// The largest body that is taken, in bytes after unpacking; a larger one ends the call with an error. 16
+    /// MiB is nearly twice a list of two thousand orders of twelve lines each. Decoding may take several
+    /// times as much memory, which a phone must have.
+    std::size_t maximumBodyBytes = std::size_t{16} << 20;
+    /// How long one attempt to connect may take, from resolving the name until TLS begins, by the system's
+    /// clock. Of several addresses the first one gets half of it. A call of which nothing was sent yet begins
+    /// again after it, with the name resolved anew, for as long as the request's time-out lets it.
+    std::chrono::milliseconds connectTimeout = std::chrono::seconds(15);
 
     /// The mapping for a host; null if there is none.
     [[nodiscard]] const HostMapping* mapping(std::string_view host) const;

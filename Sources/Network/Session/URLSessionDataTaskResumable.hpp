@@ -8,7 +8,8 @@ class URLSessionDataTaskResumable {
 public:
     virtual ~URLSessionDataTaskResumable() = default;
 
-    /// Starts the call and returns at once. Starting twice starts once. May be called on any thread.
+    /// Starts the call and returns at once. Starting twice starts once. May be called on any thread. Where
+    /// there is no memory it throws std::bad_alloc, and the call's completion will not be called.
     virtual void resume() = 0;
 };
 

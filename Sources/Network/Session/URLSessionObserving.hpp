@@ -19,15 +19,16 @@ struct URLSessionExchangeEnd {
     std::chrono::milliseconds duration{0};
 };
 
-/// Watches the traffic of all sessions that were made with it, for a developer to look at. The request that it
-/// is given holds everything that is sent, also the consultant's token: take care where that is shown or kept.
-/// Called on the sessions' threads, by several at a time; must return soon.
+/// Watches the traffic of all sessions that were made with it, for a developer to look at. The request that
+/// it is given holds everything that is sent, also the consultant's token: take care where that is shown or
+/// kept. Called on the sessions' threads, by several at a time; must return soon. An exception that it throws
+/// is dropped.
 class URLSessionObserving {
 public:
     virtual ~URLSessionObserving() = default;
 
-    /// A request goes to the network. Not called for one that is refused because there is no network. The
-    /// number is the exchange's own in this process.
+    /// A call begins, once: its request is about to go to the network. The number is the exchange's own in
+    /// this process.
     virtual void willSend(std::uint64_t exchange, const URLRequest& request) = 0;
 
     /// Called once for each started call, just before its completion.

@@ -16,6 +16,8 @@ std::shared_timed_mutex& gate() {
 } // namespace
 
 void ProcessEnd::watch() {
+    // Made now: at the process's end there may be no memory for it.
+    gate();
     // What is registered later is called earlier.
     std::atexit([] { static_cast<void>(gate().try_lock_for(std::chrono::seconds(1))); });
 }

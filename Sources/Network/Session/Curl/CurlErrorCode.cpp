@@ -1,10 +1,20 @@
 #include "Network/Session/Curl/CurlErrorCode.hpp"
 
-#include <cerrno>
-
 namespace quillet {
 
-URLError::Code urlErrorCode(CURLcode code, long osError) {
+namespace {
+
+// CURLE_TOO_LARGE, which libcurl has since 8.6.
+constexpr int tooLarge = 100;
+
+} // namespace
+
+bool isFailureToConnect(CURLcode code) {
+    return code == CURLE_COULDNT_RESOLVE_HOST || code == CURLE_COULDNT_RESOLVE_PROXY ||
+           code == CURLE_COULDNT_CONNECT;
+}
+
+URLError::Code urlErrorCode(CURLcode code) {
     using enum URLError::Code;
     // libcurl has a hundred codes, most of them for protocols that are never spoken here.
     switch (static_cast<int>(code)) {
@@ -16,7 +26,6 @@ URLError::Code urlErrorCode(CURLcode code, long osError) {
     case CURLE_COULDNT_RESOLVE_PROXY:
         return cannotFindHost;
     case CURLE_COULDNT_CONNECT:
-        return osError == ENETUNREACH || osError == ENETDOWN ? notConnectedToInternet : cannotConnectToHost;
     case CURLE_PROXY:
         return cannotConnectToHost;
     case CURLE_GOT_NOTHING:
@@ -24,8 +33,7 @@ URLError::Code urlErrorCode(CURLcode code, long osError) {
     case CURLE_RECV_ERROR:
     case CURLE_SEND_ERROR:
         return networkConnectionLost;
-    case CURLE_OUT_OF_MEMORY:
-        // What libcurl says to a single header line of more than 100 KiB.
+    case tooLarge:
         return dataLengthExceedsMaximum;
     case CURLE_BAD_CONTENT_ENCODING:
         return cannotDecodeContentData;

@@ -6,7 +6,10 @@
 
 namespace quillet {
 
-/// The code that stands for one of libcurl's. `osError` is the errno of the connection, 0 for none.
-[[nodiscard]] URLError::Code urlErrorCode(CURLcode code, long osError);
+/// The code that stands for one of libcurl's.
+[[nodiscard]] URLError::Code urlErrorCode(CURLcode code);
+
+/// Whether the code says that the host, or the proxy before it, was not reached.
+[[nodiscard]] bool isFailureToConnect(CURLcode code);
 
 } // namespace quillet

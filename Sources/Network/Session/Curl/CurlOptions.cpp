@@ -4,7 +4,7 @@
 
 namespace quillet {
 
-void CurlOptions::setTransport() {
+void CurlOptions::setTransport(std::chrono::milliseconds connectTimeout) {
     set(CURLOPT_PROTOCOLS_STR, "https");
     // HTTP/2 lets a server refuse a stream that it has seen, and libcurl then sends the request again by
     // itself.
@@ -16,8 +16,8 @@ void CurlOptions::setTransport() {
     set(CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
     set(CURLOPT_BUFFERSIZE, 128L << 10);
     set(CURLOPT_NOSIGNAL, 1L);
-    // The session keeps the time by its own clock; libcurl's own five minutes for connecting must not cut in.
-    set(CURLOPT_CONNECTTIMEOUT, 24L * 60 * 60);
+    // Where a name has several addresses, each but the last gets half of the time that is left.
+    set(CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(connectTimeout.count()));
     // A name lookup that hangs is left behind when its call is over, instead of holding up the session.
     set(CURLOPT_QUICK_EXIT, 1L);
 }
@@ -33,18 +33,18 @@ void CurlOptions::setTrust(const std::string& caBundleFile) {
     }
 }
 
-void CurlOptions::setRoute(const HostMapping* mapping, curl_slist*& connectTo) {
+void CurlOptions::setRoute(const HostMapping* mapping, CurlList& connectTo) {
     if (!mapping) {
         return;
     }
     const bool isIPv6 = mapping->address.contains(':');
     const std::string address = isIPv6 ? "[" + mapping->address + "]" : mapping->address;
     append(connectTo, "::" + address + ":" + std::to_string(mapping->port));
-    set(CURLOPT_CONNECT_TO, connectTo);
+    set(CURLOPT_CONNECT_TO, connectTo.get());
     set(CURLOPT_PROXY, "");
 }
 
-void CurlOptions::setRequest(const URLRequest& request, curl_slist*& headers) {
+void CurlOptions::setRequest(const URLRequest& request, CurlList& headers) {
     const std::string method = request.httpMethod.value_or("GET");
     if (!isHTTPToken(method)) {
         failure_ = CURLE_BAD_FUNCTION_ARGUMENT;
@@ -68,7 +68,7 @@ void CurlOptions::setRequest(const URLRequest& request, curl_slist*& headers) {
     setHeaders(request, headers);
 }
 
-void CurlOptions::setHeaders(const URLRequest& request, curl_slist*& headers) {
+void CurlOptions::setHeaders(const URLRequest& request, CurlList& headers) {
     append(headers, "Accept-Encoding: gzip");
     for (const auto& [name, value] : request.headerFields.all()) {
         const bool isBlank = value.find_first_not_of(" \t") == std::string::npos;
@@ -82,12 +82,13 @@ void CurlOptions::setHeaders(const URLRequest& request, curl_slist*& headers) {
             append(headers, std::string(name) + ":");
         }
     }
-    set(CURLOPT_HTTPHEADER, headers);
+    set(CURLOPT_HTTPHEADER, headers.get());
 }
 
-void CurlOptions::append(curl_slist*& list, const std::string& text) {
-    if (curl_slist* const longer = curl_slist_append(list, text.c_str())) {
-        list = longer;
+void CurlOptions::append(CurlList& list, const std::string& text) {
+    if (curl_slist* const longer = curl_slist_append(list.get(), text.c_str())) {
+        static_cast<void>(list.release());
+        list.reset(longer);
     } else if (failure_ == CURLE_OK) {
         failure_ = CURLE_OUT_OF_MEMORY;
     }

@@ -5,7 +5,15 @@
 
 #include <curl/curl.h>
 
+#include <chrono>
+#include <memory>
+
 namespace quillet {
+
+struct CurlListEnd {
+    void operator()(curl_slist* list) const { curl_slist_free_all(list); }
+};
+using CurlList = std::unique_ptr<curl_slist, CurlListEnd>;
 
 /// Tells libcurl how to make one exchange. Remembers the first option that was refused: an exchange that
 /// lacks one, verification above all, must not take place.
@@ -21,20 +29,20 @@ public:
         }
     }
 
-    /// What holds for every exchange.
-    void setTransport();
+    /// What holds for every exchange, and how long connecting may take.
+    void setTransport(std::chrono::milliseconds connectTimeout);
     /// Whom to trust; an empty file name for the system's authorities.
     void setTrust(const std::string& caBundleFile);
-    /// Where to connect to. `connectTo` is the caller's to free.
-    void setRoute(const HostMapping* mapping, curl_slist*& connectTo);
-    /// What to send. `request` is not copied; `headers` is the caller's to free.
-    void setRequest(const URLRequest& request, curl_slist*& headers);
+    /// Where to connect to. libcurl goes on reading `connectTo`.
+    void setRoute(const HostMapping* mapping, CurlList& connectTo);
+    /// What to send. libcurl goes on reading `request` and `headers`.
+    void setRequest(const URLRequest& request, CurlList& headers);
 
     [[nodiscard]] CURLcode failure() const { return failure_; }
 
 private:
-    void append(curl_slist*& list, const std::string& text);
-    void setHeaders(const URLRequest& request, curl_slist*& headers);
+    void append(CurlList& list, const std::string& text);
+    void setHeaders(const URLRequest& request, CurlList& headers);
 
     CURL* easy_;
     CURLcode failure_;

@@ -1,7 +1,7 @@
 #include "Network/Session/Curl/CurlTransfer.hpp"
 
+#include "Network/Request/HTTPSyntax.hpp"
 #include "Network/Session/Curl/CurlErrorCode.hpp"
-#include "Network/Session/Curl/CurlOptions.hpp"
 
 #include <algorithm>
 #include <new>
@@ -11,20 +11,18 @@ namespace quillet {
 
 std::expected<std::unique_ptr<CurlTransfer>, URLError>
 CurlTransfer::create(const URLRequest& request, const URLSessionConfiguration& configuration) {
-    const auto* const mapping = configuration.mapping(request.url.host);
-    std::unique_ptr<CurlTransfer> transfer(
-        new CurlTransfer(mapping != nullptr, configuration.maximumBodyBytes));
-    CurlOptions options(transfer->easy_);
+    std::unique_ptr<CurlTransfer> transfer(new CurlTransfer(configuration.maximumBodyBytes));
+    CurlOptions options(transfer->handle());
     options.set(CURLOPT_ERRORBUFFER, transfer->message_.data());
     options.set(CURLOPT_WRITEFUNCTION, &callback<&CurlTransfer::receiveBody>);
     options.set(CURLOPT_WRITEDATA, transfer.get());
     options.set(CURLOPT_HEADERFUNCTION, &callback<&CurlTransfer::receiveHeader>);
     options.set(CURLOPT_HEADERDATA, transfer.get());
-    options.set(CURLOPT_SSL_CTX_FUNCTION, &TlsState::watch);
-    options.set(CURLOPT_SSL_CTX_DATA, &transfer->newConnection_);
-    options.setTransport();
+    options.set(CURLOPT_SSL_CTX_FUNCTION, &CurlTransfer::tlsBegins);
+    options.set(CURLOPT_SSL_CTX_DATA, transfer.get());
+    options.setTransport(configuration.connectTimeout);
     options.setTrust(configuration.caBundleFile);
-    options.setRoute(mapping, transfer->connectTo_);
+    options.setRoute(configuration.mapping(request.url.host), transfer->connectTo_);
     options.setRequest(request, transfer->headers_);
     if (options.failure() != CURLE_OK) {
         return std::unexpected(transfer->error(options.failure()));
@@ -32,19 +30,36 @@ CurlTransfer::create(const URLRequest& request, const URLSessionConfiguration& c
     return transfer;
 }
 
-CurlTransfer::~CurlTransfer() {
-    curl_easy_cleanup(easy_);
-    curl_slist_free_all(headers_);
-    curl_slist_free_all(connectTo_);
+CURLcode CurlTransfer::tlsBegins(CURL* easy, void* tlsContext, void* transfer) {
+    auto& self = *static_cast<CurlTransfer*>(transfer);
+    self.hasTlsBegun_ = true;
+    // The time for connecting is over. From here on only the session keeps the time, by its own clock;
+    // libcurl's default of five minutes must not cut in either.
+    constexpr long oneDayInSeconds = 24L * 60 * 60;
+    if (const CURLcode code = curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT, oneDayInSeconds);
+        code != CURLE_OK) {
+        return code;
+    }
+    return TlsState::watch(tlsContext, self.newConnection_);
+}
+
+bool CurlTransfer::isConnecting() const {
+    // On a connection that was made before, TLS does not begin again.
+    return !hasTlsBegun_ && !isRequestBegun();
+}
+
+bool CurlTransfer::isRequestBegun() const {
+    curl_off_t timeUntilRequest = 0;
+    curl_easy_getinfo(handle(), CURLINFO_PRETRANSFER_TIME_T, &timeUntilRequest);
+    return timeUntilRequest > 0;
 }
 
 URLSessionOutcome CurlTransfer::outcome(CURLcode code) {
     if (code != CURLE_OK) {
         return {.error = error(code)};
     }
-    // libcurl takes an answer that ends within its head for a whole one too.
-    if (!isHeadComplete_ || (delimiter_ && !delimiter_->isEndedProperly)) {
-        return {.error = URLError{URLError::Code::networkConnectionLost, "The answer was cut off"}};
+    if (auto fault = faultOfFraming()) {
+        return {.error = std::move(fault)};
     }
     auto body = body_.take();
     if (!body) {
@@ -53,24 +68,50 @@ URLSessionOutcome CurlTransfer::outcome(CURLcode code) {
     return {.data = *std::move(body), .response = response()};
 }
 
+// libcurl takes an answer for whole that ends within its head, and a body that nothing delimits for whole
+// wherever its connection is cut.
+std::optional<URLError> CurlTransfer::faultOfFraming() const {
+    if (isHeadComplete_ && isWithoutBody()) {
+        return std::nullopt;
+    }
+    const std::string coding = headerValues("Transfer-Encoding");
+    const bool isChunked = equalIgnoringCase(coding, "chunked");
+    if (!isChunked && !coding.empty() && !equalIgnoringCase(coding, "identity")) {
+        return URLError{URLError::Code::cannotParseResponse, "The answer's transfer coding is unknown"};
+    }
+    // A transfer coding, even that of none, overrides the length. libcurl announces none that is not a number
+    // of its own size.
+    curl_off_t announced = -1;
+    curl_easy_getinfo(handle(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
+    const bool isLengthKept = coding.empty() && announced >= 0;
+    const bool isLengthMissed = coding.empty() && announced < 0 && !headerValues("Content-Length").empty();
+    const bool isEndedByTls = connection_ && connection_->isEndedProperly && !isLengthMissed;
+    if (isHeadComplete_ && (isChunked || isLengthKept || isEndedByTls)) {
+        return std::nullopt;
+    }
+    return URLError{URLError::Code::networkConnectionLost, "The answer was cut off"};
+}
+
 HTTPURLResponse CurlTransfer::response() const {
     long status = 0;
-    curl_easy_getinfo(easy_, CURLINFO_RESPONSE_CODE, &status);
+    curl_easy_getinfo(handle(), CURLINFO_RESPONSE_CODE, &status);
     return {.statusCode = status};
 }
 
-URLError CurlTransfer::error(CURLcode code) const {
+URLError CurlTransfer::error(CURLcode code) {
     if (refusal_) {
-        return *refusal_;
+        return *std::move(refusal_);
     }
-    long osError = 0;
-    curl_easy_getinfo(easy_, CURLINFO_OS_ERRNO, &osError);
-    const std::string message = message_[0] ? message_.data() : curl_easy_strerror(code);
+    const std::string_view message = message_[0] ? message_.data() : curl_easy_strerror(code);
     if (code == CURLE_SSL_CONNECT_ERROR && newConnection_->isCertificateRefused) {
-        return {URLError::Code::serverCertificateUntrusted, message};
+        return URLError::of(URLError::Code::serverCertificateUntrusted, message);
     }
-    // The address that a host is mapped to says nothing about the network.
-    return {urlErrorCode(code, isMapped_ ? 0 : osError), message};
+    if (code == CURLE_OUT_OF_MEMORY && isRequestBegun() && !isHeadComplete_) {
+        // What libcurl before 8.6 says to a single header line of more than 100 KiB.
+        return URLError::of(URLError::Code::dataLengthExceedsMaximum,
+                            "A line of the answer's head is too long");
+    }
+    return URLError::of(urlErrorCode(code), message);
 }
 
 std::expected<void, URLError> CurlTransfer::receiveHeader(std::string_view line) {
@@ -85,24 +126,26 @@ std::expected<void, URLError> CurlTransfer::receiveHeader(std::string_view line)
         isHeadComplete_ = false;
     } else if (!isHeadComplete_ && (line == "\r\n" || line == "\n")) {
         isHeadComplete_ = true;
-        delimiter_ = isDelimitedByItsEnd() ? TlsState::of(easy_) : nullptr;
+        connection_ = TlsState::of(handle());
     }
     return {};
 }
 
-bool CurlTransfer::isDelimitedByItsEnd() const {
+bool CurlTransfer::isWithoutBody() const {
     long status = 0;
     const char* method = nullptr;
-    curl_easy_getinfo(easy_, CURLINFO_RESPONSE_CODE, &status);
-    curl_easy_getinfo(easy_, CURLINFO_EFFECTIVE_METHOD, &method);
-    if (status < 200 || status == 204 || status == 304 || method == std::string_view("HEAD")) {
-        return false;
-    }
+    curl_easy_getinfo(handle(), CURLINFO_RESPONSE_CODE, &status);
+    curl_easy_getinfo(handle(), CURLINFO_EFFECTIVE_METHOD, &method);
+    return status < 200 || status == 204 || status == 304 || method == std::string_view("HEAD");
+}
+
+std::string CurlTransfer::headerValues(const char* name) const {
+    std::string values;
     curl_header* field = nullptr;
-    const auto has = [&](const char* name) {
-        return curl_easy_header(easy_, name, 0, CURLH_HEADER, -1, &field) == CURLHE_OK;
-    };
-    return !has("Content-Length") && !has("Transfer-Encoding");
+    for (std::size_t i = 0; curl_easy_header(handle(), name, i, CURLH_HEADER, -1, &field) == CURLHE_OK; ++i) {
+        values.append(values.empty() ? "" : ",").append(field->value);
+    }
+    return values;
 }
 
 std::expected<void, URLError> CurlTransfer::receiveBody(std::string_view bytes) {
@@ -116,14 +159,9 @@ std::expected<void, URLError> CurlTransfer::receiveBody(std::string_view bytes) 
 
 std::expected<void, URLError> CurlTransfer::beginBody() {
     curl_off_t announced = 0;
-    curl_easy_getinfo(easy_, CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
-    std::string encoding;
-    curl_header* field = nullptr;
-    for (std::size_t i = 0;
-         curl_easy_header(easy_, "Content-Encoding", i, CURLH_HEADER, -1, &field) == CURLHE_OK; ++i) {
-        encoding.append(encoding.empty() ? "" : ",").append(field->value);
-    }
-    return body_.begin(encoding, static_cast<std::size_t>(std::max<curl_off_t>(announced, 0)));
+    curl_easy_getinfo(handle(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
+    return body_.begin(headerValues("Content-Encoding"),
+                       static_cast<std::size_t>(std::max<curl_off_t>(announced, 0)));
 }
 
 template <std::expected<void, URLError> (CurlTransfer::*receive)(std::string_view)>
@@ -132,13 +170,13 @@ std::size_t CurlTransfer::callback(char* bytes, std::size_t size, std::size_t co
     // No exception may pass through libcurl, which takes any other number than the one it gave as an order to
     // end.
     try {
-        const auto received = (self.*receive)({bytes, size * count});
+        auto received = (self.*receive)({bytes, size * count});
         if (received) {
             return size * count;
         }
-        self.refusal_ = received.error();
+        self.refusal_ = std::move(received).error();
     } catch (const std::bad_alloc&) {
-        self.refusal_ = URLError{URLError::Code::unknown, {}};
+        self.refusal_ = URLError::outOfMemory();
     }
     return size * count + 1;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Network/Session/Curl/CurlOptions.hpp"
 #include "Network/Session/Curl/TlsState.hpp"
 #include "Network/Session/ResponseBody.hpp"
 #include "Network/Session/URLSessionConfiguration.hpp"
@@ -22,46 +23,57 @@ public:
     /// All headers of an answer together may have this many bytes. Real ones have a few thousand.
     static constexpr std::size_t maximumHeaderBytes = 256 << 10;
 
-    /// `request` must stay where it is for as long as the transfer lives.
+    /// `request` must stay where it is for as long as the transfer lives. Throws std::bad_alloc.
     [[nodiscard]] static std::expected<std::unique_ptr<CurlTransfer>, URLError>
     create(const URLRequest& request, const URLSessionConfiguration& configuration);
 
     /// It must not be in a multi handle any more.
-    ~CurlTransfer();
+    ~CurlTransfer() = default;
     CurlTransfer(const CurlTransfer&) = delete;
     CurlTransfer& operator=(const CurlTransfer&) = delete;
 
-    [[nodiscard]] CURL* handle() const { return easy_; }
+    [[nodiscard]] CURL* handle() const { return easy_.get(); }
+
+    /// Whether there is no connection yet on which TLS could begin. Nothing of the request was sent then.
+    [[nodiscard]] bool isConnecting() const;
 
     /// What the exchange came to, once libcurl is done with it. Gives the body away.
     [[nodiscard]] URLSessionOutcome outcome(CURLcode code);
 
 private:
-    CurlTransfer(bool isMapped, std::size_t maximumBodyBytes)
-        : isMapped_(isMapped), body_(maximumBodyBytes) {}
+    struct End {
+        void operator()(CURL* easy) const { curl_easy_cleanup(easy); }
+    };
+
+    explicit CurlTransfer(std::size_t maximumBodyBytes) : body_(maximumBodyBytes) {}
 
     [[nodiscard]] std::expected<void, URLError> receiveHeader(std::string_view line);
     [[nodiscard]] std::expected<void, URLError> receiveBody(std::string_view bytes);
     [[nodiscard]] std::expected<void, URLError> beginBody();
-    [[nodiscard]] bool isDelimitedByItsEnd() const;
+    [[nodiscard]] bool isRequestBegun() const;
+    [[nodiscard]] bool isWithoutBody() const;
+    [[nodiscard]] std::string headerValues(const char* name) const;
+    [[nodiscard]] std::optional<URLError> faultOfFraming() const;
     [[nodiscard]] HTTPURLResponse response() const;
-    [[nodiscard]] URLError error(CURLcode code) const;
+    [[nodiscard]] URLError error(CURLcode code);
+    static CURLcode tlsBegins(CURL* easy, void* tlsContext, void* transfer);
 
     // libcurl hands over what it receives as `count` pieces of `size` bytes.
     template <std::expected<void, URLError> (CurlTransfer::*receive)(std::string_view)>
     static std::size_t callback(char* bytes, std::size_t size, std::size_t count, void* transfer);
 
-    CURL* easy_ = curl_easy_init();
-    curl_slist* headers_ = nullptr;
-    curl_slist* connectTo_ = nullptr;
+    // libcurl keeps reading these for as long as it has the handle, so they are freed after it.
+    CurlList headers_;
+    CurlList connectTo_;
     std::array<char, CURL_ERROR_SIZE> message_{};
-    const bool isMapped_;
+    std::unique_ptr<CURL, End> easy_{curl_easy_init()};
     std::size_t headerBytes_ = 0;
     bool isHeadComplete_ = false;
     /// Of the connection that is made for this transfer, if one is.
     std::shared_ptr<TlsState> newConnection_ = std::make_shared<TlsState>();
-    /// Set with the head, for an answer whose body nothing but the connection's end delimits.
-    std::shared_ptr<const TlsState> delimiter_;
+    bool hasTlsBegun_ = false;
+    /// Of the connection that brings the answer, from the end of its head on.
+    std::shared_ptr<const TlsState> connection_;
     bool hasBody_ = false;
     ResponseBody body_;
     /// Why the answer was refused, if it was.

@@ -2,6 +2,9 @@
 
 #include <openssl/ssl.h>
 
+#include <mutex>
+#include <new>
+
 namespace quillet {
 
 namespace {
@@ -13,8 +16,14 @@ void release(void*, void* shared, CRYPTO_EX_DATA*, int, long, void*) {
 }
 
 // The place in a context, of which libcurl makes one for each connection, that holds a Shared.
+// Negative where there was no memory for it; the next one to ask tries again.
 int place() {
-    static const int index = SSL_CTX_get_ex_new_index(0, nullptr, nullptr, nullptr, &release);
+    static std::mutex mutex;
+    static int index = -1;
+    const std::lock_guard lock(mutex);
+    if (index < 0) {
+        index = SSL_CTX_get_ex_new_index(0, nullptr, nullptr, nullptr, &release);
+    }
     return index;
 }
 
@@ -34,10 +43,10 @@ void noteAlert(const SSL* tls, int event, int alert) {
 
 } // namespace
 
-CURLcode TlsState::watch(CURL*, void* tlsContext, void* state) {
+CURLcode TlsState::watch(void* tlsContext, const Shared& state) noexcept {
     auto* const context = static_cast<SSL_CTX*>(tlsContext);
-    auto shared = std::make_unique<Shared>(*static_cast<const Shared*>(state));
-    if (!SSL_CTX_set_ex_data(context, place(), shared.get())) {
+    std::unique_ptr<Shared> shared(new (std::nothrow) Shared(state));
+    if (!shared || !SSL_CTX_set_ex_data(context, place(), shared.get())) {
         return CURLE_OUT_OF_MEMORY;
     }
     static_cast<void>(shared.release());

@@ -16,9 +16,9 @@ struct TlsState {
     /// OpenSSL complained first, as it does about a signature that is not the authority's.
     bool isCertificateRefused = false;
 
-    /// For CURLOPT_SSL_CTX_FUNCTION, with a std::shared_ptr<TlsState> as its data: that one becomes the state
-    /// of the connection that is about to be made.
-    static CURLcode watch(CURL*, void* tlsContext, void* state);
+    /// Makes `state` that of the connection that is about to be made with the context, an SSL_CTX. To be
+    /// called within CURLOPT_SSL_CTX_FUNCTION, whose result it gives.
+    [[nodiscard]] static CURLcode watch(void* tlsContext, const std::shared_ptr<TlsState>& state) noexcept;
 
     /// The state of the connection that the transfer is using, which may be older than the transfer; null if
     /// it uses none. To be asked while the transfer runs.

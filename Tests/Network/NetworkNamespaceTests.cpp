@@ -1,0 +1,116 @@
+#include "Network/Session/URLSession.hpp"
+#include "Support/NetworkNamespace.hpp"
+#include "Support/SandboxedSession.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <iostream>
+
+namespace quillet {
+
+namespace {
+
+using testing::Answer;
+using testing::FaultServer;
+
+// An interface that is up, with a link-local address in both families, and leads nowhere.
+const std::vector<std::string> link = {"link add near type veth peer name far", "link set near up",
+                                       "link set far up", "address add 169.254.7.7/16 dev near"};
+
+std::vector<std::string> linkAnd(std::initializer_list<std::string> commands) {
+    std::vector<std::string> all = link;
+    all.insert(all.end(), commands);
+    return all;
+}
+
+/// A device in some network, on which the gateway's name means what the hosts file says and nothing is
+/// mapped.
+struct Place {
+    std::string name;
+    std::string hosts;
+    std::vector<std::string> commands;
+    testing::ServerPlace server;
+    /// The status that a call gets, or its error's code.
+    std::string outcome;
+};
+
+std::ostream& operator<<(std::ostream& stream, const Place& place) {
+    return stream << place.name;
+}
+
+const testing::ServerPlace nowhere{.port = 0};
+const testing::ServerPlace httpsPort{.port = 443};
+const testing::ServerPlace proxy{.port = 0, .isProxy = true};
+
+const Place places[] = {
+    {"NothingButLoopback", "203.0.113.5 gateway.test\n", {}, nowhere, "-1009"},
+    {"ALinkThatLeadsNowhere", "203.0.113.5 gateway.test\n", link, nowhere, "-1009"},
+    {"ALinkThatLeadsNowhereAndNoName", "", link, nowhere, "-1009"},
+    {"ARouteAndNoName", "", linkAnd({"route add default dev near"}), nowhere, "-1003"},
+    {"ARouteAndAClosedPort", "127.0.0.1 gateway.test\n", linkAnd({"route add default dev near"}), nowhere,
+     "-1004"},
+    {"ARouteOfTheOtherFamilyAndAClosedPort", "2001:db8::5 gateway.test\n127.0.0.1 gateway.test\n",
+     linkAnd({"route add default dev near"}), nowhere, "-1004"},
+    {"ARouteOfTheNewerFamilyAndNoName", "",
+     linkAnd({"-6 route add default dev near", "-6 address add 2001:db8::7/64 dev near nodad"}), nowhere,
+     "-1003"},
+    {"AServerWithoutARoute", "127.0.0.1 gateway.test\n", {}, httpsPort, "200"},
+    {"AProxyWithoutARoute", "", {}, proxy, "200"},
+    // The route to the first address leads back here, where nobody knows it, so what is sent there is
+    // dropped. The system sorts addresses; it leaves these two as they stand because neither is this
+    // machine's own.
+    {"ADeadAddressFirst",
+     "198.51.100.9 gateway.test\n203.0.113.10 gateway.test\n",
+     {"address add 198.51.100.77/32 dev lo", "route add 198.51.100.0/24 dev lo",
+      "route add local 203.0.113.10 dev lo src 198.51.100.77"},
+     httpsPort,
+     "200"},
+};
+
+class SessionPlace : public ::testing::TestWithParam<Place> {
+protected:
+    void SetUp() override {
+        if (!testing::mayMakeNetworkNamespace()) {
+            GTEST_SKIP() << "This machine lets no process have a network of its own.";
+        }
+        GTEST_FLAG_SET(death_test_style, "threadsafe");
+    }
+};
+
+// Says on the standard error what a POST comes to, how often it was sent, and whether that took too long.
+void tryPlace(const Place& place) {
+    testing::enterNetworkNamespace(place.hosts, place.commands);
+    const testing::TestAuthority authority;
+    FaultServer server(authority.serverContext(testing::gatewayHost), place.server);
+    server.enqueue(Answer::complete(200, "{}"));
+    if (place.server.isProxy) {
+        setenv("https_proxy", ("http://127.0.0.1:" + std::to_string(server.port())).c_str(), 1);
+    }
+    const auto start = std::chrono::steady_clock::now();
+    testing::CallRecorder calls;
+    const URLSession session({.caBundleFile = authority.bundleFile()});
+    session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
+    const auto& outcome = calls.wait();
+    const bool isLate = std::chrono::steady_clock::now() - start > std::chrono::seconds(10);
+    std::cerr << (outcome.error ? static_cast<std::int64_t>(outcome.error->code)
+                                : outcome.response->statusCode)
+              << " after " << server.requests().size() << (isLate ? ", late" : "") << std::endl;
+    std::_Exit(0);
+}
+
+} // namespace
+
+TEST_P(SessionPlace, TellsWhereACallFails) {
+    for (const char* const name : {"https_proxy", "HTTPS_PROXY", "all_proxy", "ALL_PROXY"}) {
+        unsetenv(name);
+    }
+    const std::string requests = GetParam().outcome == "200" ? " after 1\n" : " after 0\n";
+    EXPECT_EXIT(tryPlace(GetParam()), ::testing::ExitedWithCode(0),
+                "^" + GetParam().outcome + requests + "$");
+}
+
+INSTANTIATE_TEST_SUITE_P(, SessionPlace, ::testing::ValuesIn(places),
+                         [](const auto& parameter) { return parameter.param.name; });
+
+} // namespace quillet
