@@ -129,6 +129,22 @@ TEST(Session, TakesABodyUpToTheLimitPackedOrNot) {
     }
 }
 
+TEST(Session, TakesSixteenMebibytesUnlessToldOtherwise) {
+    testing::SandboxedSession sandbox;
+    testing::CallRecorder calls;
+    const URLSession session(sandbox.configuration);
+    const std::size_t limit = 16'777'216;
+    for (const std::size_t size : {limit, limit + 1}) {
+        sandbox.server.enqueue(Answer::complete(200, std::string(size, ' ')));
+        session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
+        const auto& outcome = calls.wait(size - limit);
+        EXPECT_EQ(outcome.data.has_value(), size == limit);
+        EXPECT_EQ(outcome.data.value_or("").size(), size == limit ? limit : 0);
+        EXPECT_EQ(outcome.error.value_or(URLError{}).code,
+                  size == limit ? unknown : dataLengthExceedsMaximum);
+    }
+}
+
 TEST(Session, SendsAPostAndAPatchOnAConnectionOfTheirOwn) {
     for (const std::string method : {"POST", "PATCH"}) {
         testing::SandboxedSession sandbox;

@@ -1,8 +1,10 @@
+#include "Network/Session/Curl/CurlLibrary.hpp"
 #include "Network/Session/URLSession.hpp"
 #include "Support/SandboxedSession.hpp"
 #include "Support/SilentPort.hpp"
 
 #include <gtest/gtest.h>
+#include <openssl/opensslv.h>
 
 #include <atomic>
 #include <cstdlib>
@@ -219,6 +221,23 @@ TEST_F(SessionReach, RefusesAMethodThatIsNone) {
                   calls.completion())
         .resume();
     EXPECT_TRUE(calls.wait().error);
+}
+
+TEST(CurlLibrary, NeedsTheTlsLibraryThatTheModuleWasBuiltWith) {
+    const std::string own = "OpenSSL/" + std::to_string(OPENSSL_VERSION_MAJOR) + ".";
+    const std::string other = "OpenSSL/" + std::to_string(OPENSSL_VERSION_MAJOR + 1) + ".";
+    for (const auto& fit : {own + "0.17", own + "5.4+quic", "(GnuTLS/3.7.9) " + own + "0.17"}) {
+        EXPECT_FALSE(faultOfTlsLibrary(fit)) << fit;
+    }
+    for (const auto& unfit :
+         {std::string(), std::string("GnuTLS/3.7.9"), std::string("BoringSSL"), std::string("LibreSSL/3.8.2"),
+          other + "0.0", std::string("OpenSSL/1.1.1w"), "GnuTLS/3.7.9 (" + own + "0.17)"}) {
+        const auto fault = faultOfTlsLibrary(unfit);
+        ASSERT_TRUE(fault) << unfit;
+        EXPECT_EQ(fault->code, secureConnectionFailed);
+        EXPECT_EQ(fault->message,
+                  "libcurl uses \"" + unfit + "\" for TLS, but this module needs " + own + "x");
+    }
 }
 
 TEST(SystemNetworkPathMonitor, NeedsNoNetworkForAMappedHost) {

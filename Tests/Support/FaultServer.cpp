@@ -60,7 +60,7 @@ Answer Answer::complete(int status, const std::string& body, const std::string& 
 }
 
 FaultServer::FaultServer(ContextPointer context, ServerPlace place)
-    : context_(std::move(context)), place_(place) {
+    : context_(std::move(context)), place_(std::move(place)) {
     std::signal(SIGPIPE, SIG_IGN);
     listener_ = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in address{};
@@ -74,7 +74,7 @@ FaultServer::FaultServer(ContextPointer context, ServerPlace place)
     getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size);
     listen(listener_, 16);
     port_ = ntohs(address.sin_port);
-    acceptor_ = std::thread([this] { acceptConnections(); });
+    acceptor_ = newThread([this] { acceptConnections(); });
 }
 
 FaultServer::~FaultServer() {
@@ -115,6 +115,15 @@ bool FaultServer::waitForRequests(std::size_t count) {
     return changed_.wait_for(lock, std::chrono::seconds(30), [&] { return requests_.size() >= count; });
 }
 
+std::thread FaultServer::newThread(std::function<void()> work) const {
+    return std::thread([prepare = place_.onThread, work = std::move(work)] {
+        if (prepare) {
+            prepare();
+        }
+        work();
+    });
+}
+
 void FaultServer::acceptConnections() {
     while (true) {
         const int socket = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
@@ -125,7 +134,7 @@ void FaultServer::acceptConnections() {
         setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &atOnce, sizeof(atOnce));
         const std::lock_guard lock(mutex_);
         sockets_.push_back(socket);
-        servers_.emplace_back([this, socket] { serve(socket); });
+        servers_.push_back(newThread([this, socket] { serve(socket); }));
     }
 }
 

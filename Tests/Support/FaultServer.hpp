@@ -5,6 +5,7 @@
 #include <condition_variable>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <latch>
 #include <list>
 #include <memory>
@@ -41,6 +42,8 @@ struct ServerPlace {
     std::uint16_t port = 0;
     /// The client has to ask for a tunnel first, which leads to this server wherever it should lead.
     bool isProxy = false;
+    /// Called first on each of the server's threads, if given.
+    std::function<void()> onThread = {};
 };
 
 /// An HTTPS server that answers from a script, one Answer a request, whichever
@@ -61,6 +64,7 @@ public:
     [[nodiscard]] bool waitForRequests(std::size_t count);
 
 private:
+    [[nodiscard]] std::thread newThread(std::function<void()> work) const;
     void acceptConnections();
     void serve(int socket);
     [[nodiscard]] bool answerOneRequest(SSL* tls);

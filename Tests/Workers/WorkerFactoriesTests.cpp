@@ -1,3 +1,8 @@
+#include "Network/Errors/HttpErrorFactory.hpp"
+#include "Network/Request/URLRequestFactory.hpp"
+#include "Network/Services/SellOutCartCheckoutService.hpp"
+#include "Network/Session/URLSessionWrapper.hpp"
+#include "Network/Url/UrlCreator.hpp"
 #include "Support/FakeWorkerCollaborators.hpp"
 #include "Support/SandboxedSession.hpp"
 #include "Workers/AssociateConsultantToCartWorker.hpp"
@@ -6,7 +11,9 @@
 
 #include <gmock/gmock.h>
 
+#include <latch>
 #include <semaphore>
+#include <thread>
 
 namespace quillet {
 
@@ -56,6 +63,53 @@ TEST(WorkerFactories, BuildWorkersThatTalkToTheBackEnd) {
     EXPECT_THAT(checkoutTalk->log, ElementsAre("starting", "result 203"));
     EXPECT_TRUE(open->isFinishedSuccessfully());
     EXPECT_FALSE(checkout->isFinishedSuccessfully());
+}
+
+namespace {
+
+// Queues nothing, and on the session's thread waits until the test has let go of the worker.
+class ReleasingQueue final : public DispatchQueuing {
+public:
+    explicit ReleasingQueue(std::shared_ptr<std::latch> isReleased, std::shared_ptr<std::latch> isGone)
+        : isReleased_(std::move(isReleased)), isGone_(std::move(isGone)) {}
+    ~ReleasingQueue() override {
+        EXPECT_EQ(std::this_thread::get_id(), sessionsThread_);
+        isGone_->count_down();
+    }
+
+    void async(std::function<void()>) const override {
+        sessionsThread_ = std::this_thread::get_id();
+        isReleased_->wait();
+    }
+
+private:
+    std::shared_ptr<std::latch> isReleased_;
+    std::shared_ptr<std::latch> isGone_;
+    mutable std::thread::id sessionsThread_;
+};
+
+} // namespace
+
+// The worker owns its session, whose thread then frees both.
+TEST(Worker, MayBeReleasedLastOnItsSessionsThread) {
+    testing::SandboxedSession sandbox;
+    sandbox.server.enqueue(testing::Answer::complete(200, "{}"));
+    const auto isReleased = std::make_shared<std::latch>(1);
+    const auto isGone = std::make_shared<std::latch>(1);
+    auto worker = std::make_shared<CheckoutWorker>(
+        std::make_unique<SellOutCartCheckoutService>(
+            Authorization{"token", "provider"}, "PE", 7, testing::gatewayHost,
+            std::make_shared<URLRequestFactory>(),
+            std::make_shared<URLSessionWrapper>(std::make_shared<URLSession>(sandbox.configuration)),
+            std::make_shared<HttpErrorFactory>(), std::make_shared<UrlCreator>()),
+        std::make_unique<ReleasingQueue>(isReleased, isGone));
+    worker->execute();
+    while (worker.use_count() == 1) {
+        std::this_thread::yield();
+    }
+    worker.reset();
+    isReleased->count_down();
+    isGone->wait();
 }
 
 } // namespace quillet

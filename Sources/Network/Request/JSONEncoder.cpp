@@ -4,6 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <concepts>
 #include <string_view>
 #include <utility>
 
@@ -11,64 +12,59 @@ namespace quillet {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
+// `path` leads to the value, with a dot before each name but the first.
+using Written = std::expected<void, EncodingError>;
+Written write(std::string& json, const JSONValue& value, const std::string& path);
 
-std::expected<Json, EncodingError> checked(const JSONValue& value, const std::string& path);
-
-std::expected<Json, EncodingError> checked(const JSONValue::Object& members, const std::string& path) {
-    Json object = Json::object();
-    for (const auto& [key, member] : members) {
-        if (!isUtf8(key)) {
-            return std::unexpected(EncodingError{path});
-        }
-        auto json = checked(member, path.empty() ? key : path + "." + key);
-        if (!json) {
-            return json;
-        }
-        object[key] = *std::move(json);
-    }
-    return object;
-}
-
-std::expected<Json, EncodingError> checked(const std::string& text, const std::string& path) {
+Written write(std::string& json, const std::string& text, const std::string& path) {
     if (!isUtf8(text)) {
         return std::unexpected(EncodingError{path});
     }
-    return Json(text);
-}
-
-std::expected<Json, EncodingError> checked(std::uint64_t number, const std::string&) {
-    return Json(number);
-}
-std::expected<Json, EncodingError> checked(std::int64_t number, const std::string&) {
-    return Json(number);
-}
-
-std::expected<Json, EncodingError> checked(const JSONValue& value, const std::string& path) {
-    return std::visit([&](const auto& one) { return checked(one, path); }, value.value());
-}
-
-// JSON has slashes only inside strings, so they can be escaped in the finished text.
-std::string escapingSlashes(std::string_view text) {
-    std::string escaped;
-    escaped.reserve(text.size() + 16);
-    for (const char c : text) {
+    // The library writes the texts only. A whole tree of its values allocates when it is destroyed, where
+    // nothing can be done about an allocation that fails.
+    for (const char c : nlohmann::json(text).dump()) {
         if (c == '/') {
-            escaped += '\\';
+            json += '\\';
         }
-        escaped += c;
+        json += c;
     }
-    return escaped;
+    return {};
+}
+
+template <std::integral Number>
+Written write(std::string& json, Number number, const std::string&) {
+    json += std::to_string(number);
+    return {};
+}
+
+Written write(std::string& json, const JSONValue::Object& members, const std::string& path) {
+    json += '{';
+    for (std::string_view separator; const auto& [key, member] : members) {
+        json += std::exchange(separator, ",");
+        if (auto written = write(json, key, path); !written) {
+            return written;
+        }
+        json += ':';
+        if (auto written = write(json, member, path.empty() ? key : path + "." + key); !written) {
+            return written;
+        }
+    }
+    json += '}';
+    return {};
+}
+
+Written write(std::string& json, const JSONValue& value, const std::string& path) {
+    return std::visit([&](const auto& one) { return write(json, one, path); }, value.value());
 }
 
 } // namespace
 
 std::expected<std::string, EncodingError> encodeJSON(const JSONValue& value) {
-    const auto json = checked(value, {});
-    if (!json) {
-        return std::unexpected(json.error());
+    std::string json;
+    if (auto written = write(json, value, {}); !written) {
+        return std::unexpected(std::move(written).error());
     }
-    return escapingSlashes(json->dump());
+    return json;
 }
 
 } // namespace quillet

@@ -1,0 +1,162 @@
+#include "Models/Bodies.hpp"
+#include "Network/Session/URLSessionConfiguration.hpp"
+#include "Support/FailingAllocations.hpp"
+#include "Support/FaultServer.hpp"
+#include "Support/VirtualClock.hpp"
+#include "Workers/AssociateConsultantToCartWorker.hpp"
+#include "Workers/MainQueue.hpp"
+
+#include <gtest/gtest.h>
+
+#include <pthread.h>
+
+#include <limits>
+#include <semaphore>
+#include <thread>
+
+namespace quillet {
+
+namespace {
+
+using testing::Allocator;
+using testing::Answer;
+using testing::FailingAllocation;
+
+/// Whose allocations fail, one in each run: the first one, then every so many further on.
+struct Scarcity {
+    std::string name;
+    Allocator allocator;
+    std::size_t step;
+};
+
+std::ostream& operator<<(std::ostream& stream, const Scarcity& scarcity) {
+    return stream << scarcity.name;
+}
+
+// Only counts: a delegate that writes down what it is told would need memory too.
+class CountingDelegate final : public AssociateConsultantToCartWorkerDelegate {
+public:
+    void didAssociate(const OrderResult& result) override {
+        ++outcomes;
+        complete += result.response && !result.error && result.httpStatusCode == 200;
+        failed += !result.response && result.error && result.httpStatusCode == 0;
+    }
+
+    std::size_t outcomes = 0;
+    std::size_t complete = 0;
+    std::size_t failed = 0;
+};
+
+/// A worker that talks to a server of its own, whose two answers are complete.
+class WorkerTrial {
+public:
+    explicit WorkerTrial(const testing::TestAuthority& authority)
+        : server(authority.serverContext("gateway.test"), {.onThread = &FailingAllocation::spareThisThread}) {
+        server.enqueue(Answer::complete(200, tests::orderJson));
+        server.enqueue(Answer::complete(200, tests::orderJson));
+        URLSessionConfiguration::setDefaultConfiguration(
+            {.caBundleFile = authority.bundleFile(),
+             .hostMappings = {{.host = "gateway.test", .address = "127.0.0.1", .port = server.port()}},
+             .clock = clock});
+        worker =
+            AssociateConsultantToCartWorker::factoryMethod("cart", 7, "gateway.test", {"token", "provider"});
+        worker->setDelegate(delegate);
+        mainQueue().setWakeUp([this] { waiting.release(); });
+    }
+    ~WorkerTrial() { mainQueue().setWakeUp(nullptr); }
+
+    /// Waits for an outcome and has it delivered. OpenSSL may have lost a message for want of memory, so that
+    /// both sides wait; such a call is over when its time is.
+    void deliver() {
+        if (!waiting.try_acquire_for(std::chrono::seconds(5))) {
+            clock->advance(std::chrono::seconds(60));
+            ASSERT_TRUE(waiting.try_acquire_for(std::chrono::seconds(30))) << "no outcome";
+        }
+        // Not on this thread, which is spared.
+        std::thread([] { mainQueue().drain(); }).join();
+    }
+
+    /// One more call, which is to bring its answer.
+    void expectNextCallComplete() {
+        const auto complete = delegate->complete;
+        const auto outcomes = delegate->outcomes;
+        worker->execute();
+        ASSERT_NO_FATAL_FAILURE(deliver());
+        EXPECT_EQ(delegate->complete, complete + 1);
+        EXPECT_EQ(delegate->outcomes, outcomes + 1);
+        EXPECT_TRUE(worker->isFinishedSuccessfully());
+    }
+
+    testing::FaultServer server;
+    std::shared_ptr<testing::VirtualClock> clock = std::make_shared<testing::VirtualClock>();
+    std::counting_semaphore<> waiting{0};
+    std::shared_ptr<CountingDelegate> delegate = std::make_shared<CountingDelegate>();
+    std::shared_ptr<AssociateConsultantToCartWorker> worker;
+};
+
+struct OutOfThreads : ::testing::Test {
+    OutOfThreads() { FailingAllocation::spareThisThread(); }
+
+    testing::TestAuthority authority;
+};
+
+struct OutOfMemory : OutOfThreads, ::testing::WithParamInterface<Scarcity> {};
+
+// From here on no thread is started: each would need a stack larger than the address space.
+class NoThreads {
+public:
+    NoThreads() {
+        pthread_getattr_default_np(&before_);
+        pthread_attr_t attributes;
+        pthread_attr_init(&attributes);
+        pthread_attr_setstacksize(&attributes, std::numeric_limits<std::size_t>::max() / 2);
+        pthread_setattr_default_np(&attributes);
+    }
+    ~NoThreads() { pthread_setattr_default_np(&before_); }
+
+private:
+    pthread_attr_t before_;
+};
+
+} // namespace
+
+// One allocation fails, each in its turn. The call brings its answer all the same or an error, and once; the
+// next call brings its answer.
+TEST_P(OutOfMemory, FailsTheCallAndNotTheNextOne) {
+    std::size_t failed = 0;
+    bool wasReached = true;
+    for (std::size_t place = 1; wasReached; place += GetParam().step) {
+        SCOPED_TRACE(place);
+        WorkerTrial trial(authority);
+        {
+            const FailingAllocation failing(GetParam().allocator, place);
+            std::thread([&] { trial.worker->execute(); }).join();
+            ASSERT_NO_FATAL_FAILURE(trial.deliver());
+            wasReached = failing.hasFailed();
+        }
+        EXPECT_EQ(trial.delegate->complete + trial.delegate->failed, 1u);
+        EXPECT_LE(trial.server.requests().size(), 1u);
+        failed += trial.delegate->failed;
+        ASSERT_NO_FATAL_FAILURE(trial.expectNextCallComplete());
+    }
+    EXPECT_GT(failed, 0u);
+}
+
+TEST_F(OutOfThreads, FailsTheCallAndNotTheNextOne) {
+    WorkerTrial trial(authority);
+    {
+        const NoThreads none;
+        trial.worker->execute();
+    }
+    ASSERT_NO_FATAL_FAILURE(trial.deliver());
+    EXPECT_EQ(trial.delegate->failed, 1u);
+    ASSERT_NO_FATAL_FAILURE(trial.expectNextCallComplete());
+}
+
+INSTANTIATE_TEST_SUITE_P(, OutOfMemory,
+                         ::testing::Values(Scarcity{"Cpp", Allocator::cpp, 1},
+                                           Scarcity{"Curl", Allocator::curl, 1},
+                                           Scarcity{"OpenSsl", Allocator::openSsl, 23}),
+                         [](const auto& parameter) { return parameter.param.name; });
+
+} // namespace quillet
