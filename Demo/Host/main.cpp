@@ -5,6 +5,7 @@
 #include "Options.hpp"
 #include "Play/PlayRunner.hpp"
 #include "Play/WarningCounter.hpp"
+#include "Sandbox/NetworkSwitch.hpp"
 #include "Sandbox/Platform.hpp"
 
 #include <QDir>
@@ -116,7 +117,9 @@ int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& p
     }
 
     const auto journal = std::make_shared<demo::Journal>();
-    const auto network = demo::configurePlatform(address, journal);
+    // A person in front of the window has a network of her own to switch off.
+    const auto network = inWindow ? nullptr : std::make_shared<demo::NetworkSwitch>(address);
+    demo::configurePlatform(network ? network->address() : address, journal, network);
     const auto host = std::make_shared<demo::HostApplication>(*journal, status, orders);
     if (!host->load(host, !inWindow)) {
         return complain(QStringLiteral("the window does not load"), kFailed);
@@ -124,7 +127,7 @@ int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& p
     if (inWindow) {
         return QGuiApplication::exec();
     }
-    demo::PlayRunner runner(*host, *journal, network, options.outFolder);
+    demo::PlayRunner runner(*host, *journal, *network, options.outFolder);
     const int result = perform(plays, runner, options.outFolder);
     if (!options.gatewayHost) {
         const QString log = options.outFolder + QStringLiteral("/gateway.log");

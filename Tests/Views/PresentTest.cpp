@@ -44,6 +44,10 @@ struct PresentTest : ::testing::Test {
     /// Lets all sessions made from now on use this; it lives as long as the last of them and their calls.
     std::weak_ptr<const NetworkPathMonitoring> use(std::shared_ptr<const NetworkPathMonitoring> network,
                                                    std::vector<HostMapping> mappings = {}) {
+        if (mappings.empty()) {
+            // Nobody listens there, so it is for the monitor to say why nobody was reached.
+            mappings = {{gateway(), "127.0.0.1", 1}, {"gateway.test", "127.0.0.1", 1}};
+        }
         URLSessionConfiguration::setDefaultConfiguration(
             {.hostMappings = std::move(mappings), .networkPath = network});
         return network;

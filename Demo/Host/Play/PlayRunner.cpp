@@ -43,18 +43,17 @@ bool isCalled(const ScreenElement& element, const QString& name) {
 
 } // namespace
 
-PlayRunner::PlayRunner(HostApplication& host, Journal& journal,
-                       std::shared_ptr<SwitchableNetworkPath> network, QString shots)
+PlayRunner::PlayRunner(HostApplication& host, Journal& journal, NetworkSwitch& network, QString shots)
     : host_(host),
       journal_(journal),
-      network_(std::move(network)),
+      network_(network),
       shots_(std::move(shots)),
       reader_(*host.phone()),
       hands_(*host.window()) {}
 
 QJsonObject PlayRunner::run(const PlayScript& play) {
     journal_.clear();
-    network_->setOn(true);
+    network_.setOn(true);
     QJsonArray reports;
     bool ok = true;
     for (const PlayLine& line : play.lines) {
@@ -200,7 +199,7 @@ QString PlayRunner::perform(const steps::Shot& step) {
 }
 
 QString PlayRunner::perform(const steps::Network& step) {
-    network_->setOn(step.on);
+    network_.setOn(step.on);
     return {};
 }
 

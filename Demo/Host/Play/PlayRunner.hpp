@@ -4,7 +4,7 @@
 #include "Play/Hands.hpp"
 #include "Play/PlayScript.hpp"
 #include "Play/ScreenReader.hpp"
-#include "Sandbox/Recorders.hpp"
+#include "Sandbox/NetworkSwitch.hpp"
 
 #include <QJsonObject>
 #include <QString>
@@ -19,8 +19,7 @@ namespace demo {
 class PlayRunner {
 public:
     /// `shots` is the folder that takes the pictures.
-    PlayRunner(HostApplication& host, Journal& journal, std::shared_ptr<SwitchableNetworkPath> network,
-               QString shots);
+    PlayRunner(HostApplication& host, Journal& journal, NetworkSwitch& network, QString shots);
 
     /// Runs a play in a nested event loop, until its end or the first step that is not met, and returns its
     /// part of the report, with "ok". What the play opened is taken away at its end.
@@ -57,7 +56,7 @@ private:
 
     HostApplication& host_;
     Journal& journal_;
-    std::shared_ptr<SwitchableNetworkPath> network_;
+    NetworkSwitch& network_;
     QString shots_;
     ScreenReader reader_;
     Hands hands_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Network/Session/NetworkPathMonitoring.hpp"
 #include "Sandbox/GatewayProcess.hpp"
 #include "Sandbox/Recorders.hpp"
 
@@ -8,9 +9,9 @@
 namespace demo {
 
 /// Sets the platform's process-wide defaults, as a host does once before it uses the module: whom to trust,
-/// where the gateways of all three environments are, who watches, and whether there is a network. The module
-/// itself is the same here as in production. Returns the switch of the network.
-[[nodiscard]] std::shared_ptr<SwitchableNetworkPath>
-configurePlatform(const GatewayAddress& gateway, const std::shared_ptr<Journal>& journal);
+/// where the gateways of all three environments are, who watches, and who knows whether there is a network
+/// (null for the system). The module itself is the same here as in production.
+void configurePlatform(const GatewayAddress& gateway, const std::shared_ptr<Journal>& journal,
+                       const std::shared_ptr<const quillet::NetworkPathMonitoring>& networkPath);
 
 } // namespace demo

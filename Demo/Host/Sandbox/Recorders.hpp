@@ -1,12 +1,10 @@
 #pragma once
 
 #include "KelCommon/KelAnalytics.hpp"
-#include "Network/Session/NetworkPathMonitoring.hpp"
 #include "Network/Session/URLSessionObserving.hpp"
 #include "Sandbox/Journal.hpp"
 #include "Workers/MainQueue.hpp"
 
-#include <atomic>
 #include <memory>
 #include <utility>
 
@@ -48,19 +46,6 @@ public:
 
 private:
     std::shared_ptr<Journal> journal_;
-};
-
-/// A network that can be switched off, as a consultant on the underground would have it.
-class SwitchableNetworkPath final : public quillet::NetworkPathMonitoring {
-public:
-    [[nodiscard]] bool isSatisfied(const std::string& host, bool isMapped) const override {
-        return on_ && system_.isSatisfied(host, isMapped);
-    }
-    void setOn(bool on) { on_ = on; }
-
-private:
-    std::atomic<bool> on_ = true;
-    quillet::SystemNetworkPathMonitor system_;
 };
 
 } // namespace demo
