@@ -2,6 +2,7 @@
 
 #include <concepts>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <utility>
 #include <variant>
@@ -10,24 +11,27 @@
 namespace quillet {
 
 /// A value that is to be written as JSON: a text, a whole number, or an object whose members keep their
-/// order.
+/// order. Copies share what they hold.
 class JSONValue {
 public:
     using Object = std::vector<std::pair<std::string, JSONValue>>;
+    using Value = std::variant<std::string, std::uint64_t, std::int64_t, Object>;
 
-    JSONValue(std::string text) : value_(std::move(text)) {}
-    JSONValue(const char* text) : value_(std::string(text)) {}
-    JSONValue(std::unsigned_integral auto number) : value_(std::uint64_t{number}) {}
-    JSONValue(std::signed_integral auto number) : value_(std::int64_t{number}) {}
-    JSONValue(Object members) : value_(std::move(members)) {}
+    JSONValue(std::string text) : JSONValue(Value(std::move(text))) {}
+    JSONValue(const char* text) : JSONValue(std::string(text)) {}
+    JSONValue(std::unsigned_integral auto number) : JSONValue(Value(std::uint64_t{number})) {}
+    JSONValue(std::signed_integral auto number) : JSONValue(Value(std::int64_t{number})) {}
+    JSONValue(Object members) : JSONValue(Value(std::move(members))) {}
     JSONValue(bool) = delete;
 
-    [[nodiscard]] const std::variant<std::string, std::uint64_t, std::int64_t, Object>& value() const {
-        return value_;
-    }
+    [[nodiscard]] const Value& value() const { return *value_; }
 
 private:
-    std::variant<std::string, std::uint64_t, std::int64_t, Object> value_;
+    explicit JSONValue(Value value) : value_(std::make_shared<const Value>(std::move(value))) {}
+
+    // A list in braces is copied, and libstdc++ 12 mishandles a variant of these types whose copying fails
+    // for want of memory.
+    std::shared_ptr<const Value> value_;
 };
 
 } // namespace quillet
