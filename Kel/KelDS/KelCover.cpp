@@ -82,7 +82,8 @@ void KelCover::takeKeys() {
 void KelCover::giveKeysBack() {
     QQuickItem* previous = std::exchange(previous_, nullptr);
     hasTakenKeys_ = false;
-    if (!previous || !previous->window()) {
+    // A window that is being destroyed has let go of its content, and focuses nothing any more.
+    if (!previous || !previous->window() || !previous->window()->contentItem()) {
         return;
     }
     // A cover that came over this one has to give back past it.

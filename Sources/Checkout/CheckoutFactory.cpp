@@ -27,7 +27,6 @@ std::shared_ptr<QuickViewController> CheckoutFactory::create() const {
 
     const auto worker = checkoutWorkerFactory_->create();
     auto viewModel = std::make_shared<CheckoutViewModel>(worker, kel::KelAnalyticsManager::shared());
-    worker->setDelegate(viewModel);
     viewModel->setNavigationDelegate(navigationDelegate_);
     auto router =
         std::make_unique<CheckoutRouter>(std::make_unique<AllProductsAddedFactory>(navigationDelegate_),
@@ -37,7 +36,8 @@ std::shared_ptr<QuickViewController> CheckoutFactory::create() const {
         std::make_unique<Colors>(), viewModel, std::move(router),
         std::make_unique<ViewControllerWrapperFactory>(), std::make_unique<TryAgainFactory>(),
         std::make_unique<DialogFactory>(), navigationDelegate_);
-    viewModel->setDelegate(screen);
+    worker->setDelegate(screen->wayBackTo(*viewModel));
+    viewModel->setDelegate(screen->wayBackTo(*screen));
     screen->setHidesBackButton(true);
     return screen;
 }

@@ -3,17 +3,17 @@
 #include "Workers/MainQueue.hpp"
 
 #include <QCoreApplication>
-#include <QPointer>
+
+#include <utility>
 
 namespace quillet {
 
 namespace {
 
-/// Lives as long as the application, and takes the wake-up with it: after that, blocks wait in the queue
-/// unheard.
+/// Takes the wake-up with it: after that, blocks wait in the queue unheard.
 class Pump final : public QObject {
 public:
-    explicit Pump(QObject* application) : QObject(application) {
+    Pump() {
         mainQueue().setWakeUp([this] {
             QMetaObject::invokeMethod(
                 this, [] { mainQueue().drain(); }, Qt::QueuedConnection);
@@ -25,9 +25,12 @@ public:
 } // namespace
 
 void pumpMainQueue() {
-    static QPointer<Pump> pump;
+    static Pump* pump = nullptr;
     if (!pump) {
-        pump = new Pump(QCoreApplication::instance());
+        pump = new Pump;
+        // A child of the application would go last of all, after the event dispatcher that it wakes on other
+        // threads. This runs before Qt takes anything down, and waits for a wake-up that is under way.
+        qAddPostRoutine([] { delete std::exchange(pump, nullptr); });
     }
 }
 

@@ -44,11 +44,12 @@ private:
     std::weak_ptr<QuilletNavigationDelegate> navigationDelegate_;
 };
 
-/// Pushes a screen of the module on a host's StackView, which owns it from then on: popping it frees
-/// everything behind it. Overlays cover the item in which the host keeps the StackView (the
-/// nearest that is no layout), so the bar belongs in there as well. The host's bar binds
-/// to `title` and `hidesBackButton` of the current item's `viewController`. Returns false, with the reason in
-/// the log, if the screen could not be shown. Main thread only.
+/// Pushes a screen of the module on a host's StackView, which owns it from then on: popping it ends it at
+/// once and frees everything behind it once its animation is over. A screen is presented once. Overlays cover
+/// the item in which the host keeps the StackView (the nearest that is no layout), so the bar belongs in
+/// there as well. The host's bar binds to `title` and `hidesBackButton` of the current item's
+/// `viewController`. Returns false, with the reason in the log, if the screen could not be shown. Main thread
+/// only.
 bool present(const std::shared_ptr<QuickViewController>& screen, QQuickItem& stackView);
 
 } // namespace quillet

@@ -35,8 +35,6 @@ std::shared_ptr<QuickViewController> SaleSummaryFactory::createViewController() 
     auto viewModel = std::make_shared<SaleSummaryViewModel>(kel::KelAnalyticsManager::shared(),
                                                             associateWorker, openOrdersWorker,
                                                             std::make_unique<SaleSummaryUseCaseFactory>());
-    associateWorker->setDelegate(viewModel);
-    openOrdersWorker->setDelegate(viewModel);
 
     auto router = std::make_unique<SaleSummaryRouter>(
         std::make_unique<CheckoutFactory>(std::make_unique<CheckoutWorkerFactory>(
@@ -46,7 +44,9 @@ std::shared_ptr<QuickViewController> SaleSummaryFactory::createViewController() 
         viewModel, std::make_unique<Colors>(), std::move(router),
         std::make_unique<ViewControllerWrapperFactory>(), std::make_unique<SaleSummaryViewFactory>(),
         navigationDelegate_, std::make_unique<DialogFactory>(), std::make_unique<TryAgainFactory>());
-    viewModel->setDelegate(screen);
+    associateWorker->setDelegate(screen->wayBackTo(*viewModel));
+    openOrdersWorker->setDelegate(screen->wayBackTo(*viewModel));
+    viewModel->setDelegate(screen->wayBackTo(*screen));
     return screen;
 }
 

@@ -7,6 +7,8 @@
 #include "Views/Screen/NavigationController.hpp"
 #include "Workers/CheckoutWorker.hpp"
 
+#include <QPointer>
+
 #include <gmock/gmock.h>
 
 namespace quillet::testing {
@@ -35,6 +37,17 @@ private:
     std::vector<std::weak_ptr<CheckoutWorker>>& made_;
 };
 
+/// A host that does something of its own at each screen view.
+class ActingAnalytics final : public kel::KelAnalyticsManagerType {
+public:
+    explicit ActingAnalytics(std::function<void()> act) : act_(std::move(act)) {}
+    void trackScreen(const kel::KelAnalyticsScreenType&) override { act_(); }
+    void trackEvent(const kel::KelAnalyticsEventType&) override {}
+
+private:
+    std::function<void()> act_;
+};
+
 struct CheckoutScreen : ::testing::Test {
     CheckoutScreen() {
         kel::KelAnalyticsManager::shared()->setSink(std::make_shared<FakeAnalytics>(log));
@@ -53,9 +66,9 @@ struct CheckoutScreen : ::testing::Test {
         return screen;
     }
 
-    void answer(CheckoutResult result) {
-        std::exchange(talk->pending.back(), nullptr)(std::move(result));
-        talk->pending.pop_back();
+    /// Answers the call of that number.
+    void answer(CheckoutResult result, std::size_t call = 0) {
+        std::exchange(talk->pending.at(call), nullptr)(std::move(result));
         queue->drain();
     }
 
@@ -63,6 +76,9 @@ struct CheckoutScreen : ::testing::Test {
         CheckoutResponse response;
         response.message = CheckoutResponseMessage::cartSubmittedSuccess;
         return {.checkoutResponse = response, .error = {}, .httpStatusCode = 200};
+    }
+    static CheckoutResult failure() {
+        return {.checkoutResponse = {}, .error = HttpStatusCodeError{500}, .httpStatusCode = 500};
     }
 
     [[nodiscard]] bool settled() const { return !stage.stack().property("busy").toBool(); }
@@ -86,22 +102,61 @@ TEST_F(CheckoutScreen, TakesEverythingAlongWhenItIsClosedBeforeTheAnswer) {
     EXPECT_TRUE(workers[0].expired());
     // The service held the other end.
     EXPECT_EQ(talk.use_count(), 1);
-    answer({.checkoutResponse = {}, .error = HttpStatusCodeError{500}, .httpStatusCode = 500});
+    answer(failure());
     EXPECT_EQ(stage.depth(), 1);
     EXPECT_THAT(*log, IsEmpty());
 }
 
-TEST_F(CheckoutScreen, ShowsNoResultOnceItIsOnItsWayOut) {
+TEST_F(CheckoutScreen, HearsNoAnswerOnceTheHostHasTakenItOff) {
+    const std::function<void()> ways[] = {
+        [&] { stage.pop(); },
+        [&] { stage.popAll(); },
+        // From under another one.
+        [&] { open(), stage.popAll(); },
+    };
+    for (const auto& takeOff : ways) {
+        for (const CheckoutResult& result : {success(), failure()}) {
+            talk->pending.clear();
+            const auto screen = open();
+            ASSERT_TRUE(turnUntil([&] { return settled(); }));
+            takeOff();
+            // The page is still there.
+            ASSERT_FALSE(screen.expired());
+            answer(result);
+            EXPECT_EQ(stage.depth(), 1);
+            ASSERT_TRUE(turnUntil([&] { return settled() && screen.expired(); }));
+            EXPECT_EQ(stage.depth(), 1);
+            EXPECT_THAT(taken(log), IsEmpty());
+        }
+    }
+}
+
+TEST_F(CheckoutScreen, LivesToTheEndOfAnAnswerInWhoseMiddleTheHostTakesItOff) {
+    const auto screen = open();
+    const QPointer<QQuickItem> page = stage.stack().property("currentItem").value<QQuickItem*>();
+    bool lives = false;
+    kel::KelAnalyticsManager::shared()->setSink(std::make_shared<ActingAnalytics>([&] {
+        stage.popAll();
+        EXPECT_TRUE(turnUntil([&] { return !page; }));
+        lives = !screen.expired();
+    }));
+    answer(failure());
+    EXPECT_TRUE(lives);
+    EXPECT_TRUE(screen.expired());
+}
+
+TEST_F(CheckoutScreen, GoesOnUnderAPageThatCoversIt) {
+    open();
     open();
     ASSERT_TRUE(turnUntil([&] { return settled(); }));
+    answer(failure());
+    EXPECT_THAT(taken(log), ElementsAre("screen Error"));
+    EXPECT_FALSE(stage.shows("Actualizar"));
     stage.pop();
-    ASSERT_FALSE(settled());
-    answer(success());
-    EXPECT_EQ(stage.depth(), 1);
     ASSERT_TRUE(turnUntil([&] { return settled(); }));
-    EXPECT_EQ(stage.depth(), 1);
-    // It was made all the same, and says so.
-    EXPECT_THAT(*log, ElementsAre("screen Feedback de produtos"));
+    stage.click("Actualizar");
+    EXPECT_TRUE(turnUntil([&] { return talk->pending.size() == 3; }));
+    // The window goes now, with an overlay on it that has keys to give back.
 }
 
 TEST_F(CheckoutScreen, SetsItsTitleOnEachAppearanceAndChecksOutOnce) {

@@ -1,5 +1,6 @@
 #include "Support/Stage.hpp"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QQmlComponent>
@@ -16,9 +17,11 @@ constexpr auto kHost = R"(
     import QtQuick
     import QtQuick.Controls.Basic
     ApplicationWindow {
+        id: host
         width: 390; height: 844; visible: true
         property alias stack: stack
         property alias bar: bar
+        property int wayOut: 400
         function back() { stack.pop() }
         function clear() { stack.pop(null, StackView.Immediate) }
         Rectangle {
@@ -31,6 +34,7 @@ constexpr auto kHost = R"(
             id: stack
             anchors.fill: parent; anchors.topMargin: bar.height
             initialItem: Item {}
+            popExit: Transition { XAnimator { from: 0; to: stack.width; duration: host.wayOut } }
         }
     })";
 
@@ -110,6 +114,11 @@ QQuickItem& Stage::bar() const {
     return *window_->property("bar").value<QQuickItem*>();
 }
 
+void Stage::popSlowly(std::chrono::milliseconds wayOut) {
+    window_->setProperty("wayOut", static_cast<int>(wayOut.count()));
+    pop();
+}
+
 void Stage::pop() {
     QMetaObject::invokeMethod(window_.get(), "back");
 }
@@ -151,6 +160,12 @@ void Stage::touchWhileResting(QPointF resting, QPointF tapped) {
     QTest::touchEvent(window_.get(), &fingers()).stationary(0).press(1, other);
     QTest::touchEvent(window_.get(), &fingers()).stationary(0).release(1, other);
     QTest::touchEvent(window_.get(), &fingers()).release(0, still);
+}
+
+void Stage::pressByScreenReader(const QString& textOrName) {
+    QAccessible::queryAccessibleInterface(item(textOrName))
+        ->actionInterface()
+        ->doAction(QAccessibleActionInterface::pressAction());
 }
 
 void Stage::key(Qt::Key key) {

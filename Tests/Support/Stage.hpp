@@ -5,6 +5,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -30,6 +31,8 @@ public:
     [[nodiscard]] int barClicks() const { return bar().property("clicks").toInt(); }
     /// Takes the topmost screen away, as the host's way back does.
     void pop();
+    /// The same, with a while in which the screen is still to be seen.
+    void popSlowly(std::chrono::milliseconds wayOut);
     /// Takes everything above the host's own page away, without an animation.
     void popAll();
 
@@ -48,6 +51,8 @@ public:
     void touchAt(QPointF point);
     /// A finger stays down at the one point while another one taps at the other.
     void touchWhileResting(QPointF resting, QPointF tapped);
+    /// As a screen reader does.
+    void pressByScreenReader(const QString& textOrName);
     /// A key of whatever has the focus: down and up again.
     void key(Qt::Key key);
     /// The key goes down once more without having been up, as it does while it is held.

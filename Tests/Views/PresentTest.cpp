@@ -9,7 +9,6 @@
 #include "Views/Screen/ViewController.hpp"
 #include "Workers/CheckoutWorkerFactory.hpp"
 
-#include <QAccessible>
 #include <QQuickItem>
 
 #include <gmock/gmock.h>
@@ -71,13 +70,6 @@ struct PresentTest : ::testing::Test {
         EXPECT_TRUE(present(screen, stage->stack()));
         EXPECT_TRUE(turnUntil([&] { return stage->shows("Actualizar") && settled(); }));
         return screen;
-    }
-
-    /// As a screen reader does.
-    void press(const char* name) const {
-        QAccessible::queryAccessibleInterface(stage->item(name))
-            ->actionInterface()
-            ->doAction(QAccessibleActionInterface::pressAction());
     }
 
     [[nodiscard]] bool settled() const { return !stage->stack().property("busy").toBool(); }
@@ -188,7 +180,7 @@ TEST_F(PresentTest, AnswersEveryWayOfUsingADialogOnce) {
         {"button by touch", [&] { stage->touch("Actualizar"); }, retried},
         {"button by key", [&] { stage->key(Qt::Key_Return), stage->repeatKey(Qt::Key_Return); }, retried},
         {"button by space", [&] { stage->key(Qt::Key_Space), stage->repeatKey(Qt::Key_Space); }, retried},
-        {"button by screen reader", [&] { press("Actualizar"); }, retried},
+        {"button by screen reader", [&] { stage->pressByScreenReader("Actualizar"); }, retried},
         // The background reaches up over the bar.
         {"background by mouse",
          [&] {
@@ -204,7 +196,7 @@ TEST_F(PresentTest, AnswersEveryWayOfUsingADialogOnce) {
         {"close icon by touch", [&] { stage->touch("dialogCloseIcon"); }, left},
         {"close icon by key", [&] { stage->key(Qt::Key_Tab), stage->key(Qt::Key_Return); }, left},
         {"close icon by escape", [&] { stage->key(Qt::Key_Escape); }, left},
-        {"close icon by screen reader", [&] { press("Cerrar"); }, left},
+        {"close icon by screen reader", [&] { stage->pressByScreenReader("Cerrar"); }, left},
     };
     for (const auto& [way, use, outcome] : cases) {
         SCOPED_TRACE(way);
@@ -248,7 +240,7 @@ TEST_F(PresentTest, KeepsTheKeysInTheDialogAndGivesThemBack) {
     ASSERT_TRUE(stage->shows("Title") && stage->shows("Body"));
     // A finger that rests on the card does not let a second one through, nor is a screen reader let through.
     stage->touchWhileResting(stage->middle("Title"), stage->middle("Actualizar"));
-    press("Actualizar");
+    stage->pressByScreenReader("Actualizar");
     EXPECT_THAT(*log, IsEmpty());
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Down}) {
         stage->key(key);
@@ -265,14 +257,18 @@ TEST_F(PresentTest, KeepsTheKeysInTheDialogAndGivesThemBack) {
     EXPECT_FALSE(stage->shows("Title"));
 }
 
-TEST_F(PresentTest, ReportsAScreenWhoseViewDoesNotLoad) {
+TEST_F(PresentTest, ReportsAScreenThatItCannotShow) {
     class Blank final : public QuickViewController {
     public:
         [[nodiscard]] QUrl viewUrl() const override { return QUrl("qrc:/no/such/file.qml"); }
     };
     EXPECT_FALSE(present(std::make_shared<Blank>(), stage->stack()));
+    use(std::make_shared<NoNetwork>());
+    const auto shownBefore = open().lock();
+    stage->popAll();
+    EXPECT_FALSE(present(shownBefore, stage->stack()));
     EXPECT_EQ(stage->depth(), 1);
-    EXPECT_EQ(Stage::complaints().size(), 1);
+    EXPECT_EQ(Stage::complaints().size(), 2);
     stage = std::make_unique<Stage>();
 }
 

@@ -54,13 +54,13 @@ refusedOrderScreen(const std::string& code,
         answer([result = refusal(code)](quillet::SaleSummaryViewModel& to) { to.didAssociate(result); }),
         answer([](quillet::SaleSummaryViewModel& to) { to.didGetOpenOrders({}); }),
         std::make_unique<quillet::SaleSummaryUseCaseFactory>());
-    *receiver = viewModel;
     auto screen = std::make_shared<quillet::SaleSummaryViewController>(
         viewModel, std::make_unique<quillet::Colors>(), std::make_unique<NoRouter>(),
         std::make_unique<quillet::ViewControllerWrapperFactory>(),
         std::make_unique<quillet::SaleSummaryViewFactory>(), navigation,
         std::make_unique<quillet::DialogFactory>(), std::make_unique<quillet::TryAgainFactory>());
-    viewModel->setDelegate(screen);
+    *receiver = screen->wayBackTo(*viewModel);
+    viewModel->setDelegate(screen->wayBackTo(*screen));
     return screen;
 }
 

@@ -56,7 +56,8 @@ void CheckoutViewController::stopLoading() {
 
 void CheckoutViewController::showDialog(const DialogPresenter& presenter, DialogActions actions) {
     const auto previous = std::move(dialog_);
-    dialog_.reset(new Dialog(presenter, std::make_shared<ViewAnimatingWrapper>(), std::move(actions)));
+    dialog_.reset(
+        new Dialog(presenter, std::make_shared<ViewAnimatingWrapper>(), whileHere(std::move(actions))));
     Q_EMIT dialogChanged();
 }
 

@@ -28,7 +28,7 @@ void ProductsCheckoutStatusViewController::setNavigationDelegate(
 }
 
 std::weak_ptr<ProductsCheckoutStatusViewController> ProductsCheckoutStatusViewController::weakSelf() {
-    return std::static_pointer_cast<ProductsCheckoutStatusViewController>(shared_from_this());
+    return wayBackTo(*this);
 }
 
 QUrl ProductsCheckoutStatusViewController::viewUrl() const {

@@ -63,7 +63,8 @@ void SaleSummaryViewController::stopLoading() {
 template <typename Presenter>
 void SaleSummaryViewController::show(const Presenter& presenter, DialogActions actions) {
     const auto previous = std::move(dialogMessage_);
-    dialogMessage_.reset(new Dialog(presenter, std::make_shared<ViewAnimatingWrapper>(), std::move(actions)));
+    dialogMessage_.reset(
+        new Dialog(presenter, std::make_shared<ViewAnimatingWrapper>(), whileHere(std::move(actions))));
     Q_EMIT dialogMessageChanged();
 }
 
@@ -106,7 +107,7 @@ void SaleSummaryViewController::removeTryAgainView() {
 }
 
 std::weak_ptr<SaleSummaryViewDelegate> SaleSummaryViewController::viewDelegate() {
-    return std::static_pointer_cast<SaleSummaryViewController>(shared_from_this());
+    return wayBackTo(*this);
 }
 
 std::shared_ptr<QuilletNavigationDelegate> SaleSummaryViewController::navigationDelegate() const {

@@ -60,7 +60,7 @@ std::uint64_t SaleSummarySuccessUseCase::pointsInProgress() const {
     if (getOpenOrdersResult_ && getOpenOrdersResult_->response) {
         for (const Order& order : getOpenOrdersResult_->response->openOrders) {
             if (__builtin_add_overflow(sum, order.totalPoints, &sum)) {
-                FatalErrorWrapper::fatalErrorClosure("the points in progress exceed 64 bits", __FILE__,
+                FatalErrorWrapper::fatalErrorClosure("the points in progress exceed 64 bits", __FILE_NAME__,
                                                      __LINE__);
                 return std::numeric_limits<std::uint64_t>::max();
             }

@@ -1,7 +1,6 @@
 #include "Views/Screen/NavigationController.hpp"
 
 #include "Views/Screen/QuickViewController.hpp"
-#include "Views/Screen/ScreenItem.hpp"
 
 #include <QLoggingCategory>
 #include <QQmlComponent>
@@ -21,16 +20,15 @@ NavigationController& NavigationController::of(QQuickItem& stackView) {
     return existing ? *existing : *new NavigationController(stackView);
 }
 
-bool NavigationController::holds(const QuickViewController& screen) const {
+bool NavigationController::holds(const QQuickItem& page) const {
     QQmlEngine* const ours = engine();
     if (!ours) {
         return false;
     }
     const QJSValue stack = ours->toScriptValue<QObject*>(stackView_.data());
     const QJSValue get = stack.property(QStringLiteral("get"));
-    for (int page = stack.property(QStringLiteral("depth")).toInt() - 1; page >= 0; --page) {
-        const auto* item = qobject_cast<ScreenItem*>(get.callWithInstance(stack, {page}).toQObject());
-        if (item && item->viewController() == &screen) {
+    for (int index = stack.property(QStringLiteral("depth")).toInt() - 1; index >= 0; --index) {
+        if (get.callWithInstance(stack, {index}).toQObject() == &page) {
             return true;
         }
     }
@@ -54,6 +52,10 @@ bool NavigationController::push(const std::shared_ptr<QuickViewController>& scre
     QQmlEngine* const engine = this->engine();
     if (!engine) {
         qCWarning(lcNavigation) << "no StackView to push on";
+        return false;
+    }
+    if (screen->hasLeft()) {
+        qCWarning(lcNavigation) << "this screen was shown before; make a new one";
         return false;
     }
     auto* component = new QQmlComponent(engine, screen->viewUrl(), this);

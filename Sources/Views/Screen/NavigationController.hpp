@@ -22,13 +22,13 @@ public:
     [[nodiscard]] static NavigationController& of(QQuickItem& stackView);
 
     /// Pushes a screen, with the stack's own animation. From here on the stack owns the screen: popping it
-    /// destroys it. Returns false, having shown nothing, if the QML of the screen does not load; the reason
-    /// is logged.
+    /// destroys it. Returns false, having shown nothing, if the QML of the screen does not load or if it has
+    /// been shown and left; the reason is logged.
     bool push(const std::shared_ptr<QuickViewController>& screen);
 
-    /// Whether the screen is among the stack's pages. One that is being popped is not, from the start of its
+    /// Whether the item is among the stack's pages. One that is being popped is not, from the start of its
     /// way out.
-    [[nodiscard]] bool holds(const QuickViewController& screen) const;
+    [[nodiscard]] bool holds(const QQuickItem& page) const;
 
     /// The engine that the host's stack was made with; null once the stack is gone.
     [[nodiscard]] QQmlEngine* engine() const;

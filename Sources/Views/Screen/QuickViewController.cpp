@@ -1,5 +1,6 @@
 #include "Views/Screen/QuickViewController.hpp"
 
+#include "Views/Dialogs/Dialog.hpp"
 #include "Views/Screen/NavigationController.hpp"
 
 #include <utility>
@@ -39,15 +40,28 @@ void QuickViewController::setContinuesBar(bool continues) {
 }
 
 NavigationController* QuickViewController::navigationController() const {
-    return navigation_ && navigation_->holds(*this) ? navigation_ : nullptr;
-}
-
-NavigationController* QuickViewController::pushingController() const {
-    return navigation_;
+    return stay_ ? navigation_.data() : nullptr;
 }
 
 void QuickViewController::setNavigationController(NavigationController* navigation) {
     navigation_ = navigation;
+}
+
+void QuickViewController::enter() {
+    if (stay_) {
+        stay_->screen = shared_from_this();
+    }
+}
+
+DialogActions QuickViewController::whileHere(DialogActions actions) const {
+    for (auto* action : {&actions.didTapButton, &actions.didTapBackgroundView, &actions.didTapCloseIcon}) {
+        *action = [stay = std::weak_ptr(stay_), act = std::move(*action)] {
+            if (const auto here = stay.lock(); here && act) {
+                act();
+            }
+        };
+    }
+    return actions;
 }
 
 } // namespace quillet

@@ -13,6 +13,7 @@
 namespace quillet {
 
 class NavigationController;
+struct DialogActions;
 
 /// A screen: it owns everything behind what it shows, and a QML file draws it. Made by a factory, it lives in
 /// a std::shared_ptr; once it is pushed, the QML item that draws it is its one owner, so taking the screen
@@ -20,7 +21,9 @@ class NavigationController;
 /// controller, never directly.
 ///
 /// Lifecycle, all on the main thread: `viewDidLoad` once, when the item has been made; `viewWillAppear` and
-/// `viewWillDisappear` on each entering and leaving of the top of the stack.
+/// `viewWillDisappear` on each entering and leaving of the top of the stack. Once the host has taken the
+/// screen off the stack, what is still to be seen of it is a picture on its way out: nothing reaches the
+/// screen any more, neither taps nor answers. So it is shown once; the next time takes a new one.
 class QuickViewController : public ThemedView, public std::enable_shared_from_this<QuickViewController> {
     Q_OBJECT
     Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
@@ -41,12 +44,23 @@ public:
     void setTitle(const QString& title);
     void setHidesBackButton(bool hides);
 
-    /// The stack that this screen is on; null before it was pushed, once it has left (though it may still be
-    /// fading out), and when the stack is gone.
+    /// The stack that this screen was pushed on; null before that, once the screen has left it (though it may
+    /// still be on its way out), and when the stack is gone.
     [[nodiscard]] NavigationController* navigationController() const;
-    /// The stack that this screen was pushed on, whether or not it is there yet or still.
-    [[nodiscard]] NavigationController* pushingController() const;
     void setNavigationController(NavigationController* navigation);
+
+    /// The way back to this screen, or to a part of the graph that it owns, for those that may come back
+    /// later: it finds nobody once the screen has left the stack.
+    template <typename Part>
+    [[nodiscard]] std::weak_ptr<Part> wayBackTo(Part& part) const {
+        return std::shared_ptr<Part>(stay_, &part);
+    }
+
+    /// The page that draws this screen owns it from now on.
+    void enter();
+    /// The host has taken the screen off its stack. All ways back end here.
+    void leave() { stay_.reset(); }
+    [[nodiscard]] bool hasLeft() const { return !stay_; }
 
     /// The QML file that draws this screen.
     [[nodiscard]] virtual QUrl viewUrl() const = 0;
@@ -66,6 +80,8 @@ protected:
     /// A colour to be read anew when the theme changes.
     void setBackground(std::function<QColor()> color);
     void setContinuesBar(bool continues);
+    /// The same actions, which do nothing once the screen has left: a dialog fades before it acts.
+    [[nodiscard]] DialogActions whileHere(DialogActions actions) const;
 
     /// A view that is on screen may be in the middle of telling about a tap when it is replaced: it goes once
     /// control is back in the event loop.
@@ -74,11 +90,17 @@ protected:
     };
 
 private:
+    /// The screen's time on the stack. Whoever is on a way back keeps it, and with it the screen.
+    struct Stay {
+        std::shared_ptr<QuickViewController> screen;
+    };
+
     QString title_;
     std::function<QColor()> background_;
     bool hidesBackButton_ = false;
     bool continuesBar_ = false;
     QPointer<NavigationController> navigation_;
+    std::shared_ptr<Stay> stay_ = std::make_shared<Stay>();
 };
 
 } // namespace quillet

@@ -19,6 +19,7 @@ ScreenItem {
     clip: true
     StackView.onActivating: screen.viewWillAppear()
     StackView.onDeactivating: screen.viewWillDisappear()
+    StackView.onRemoved: screen.viewDidLeave()
 
     Rectangle {
         anchors.fill: parent

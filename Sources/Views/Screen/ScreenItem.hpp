@@ -29,7 +29,10 @@ public:
     [[nodiscard]] QQuickItem* coverArea() const;
 
     Q_INVOKABLE void viewWillAppear();
+    /// Another page covers this one, or the host takes it off.
     Q_INVOKABLE void viewWillDisappear();
+    /// The stack has let go of the page, be it from under others.
+    Q_INVOKABLE void viewDidLeave();
 
 Q_SIGNALS:
     void viewControllerChanged();
