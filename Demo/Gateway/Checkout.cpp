@@ -124,7 +124,7 @@ Reply checkOut(Database& database, const Consultant& consultant) {
         for (const auto& product : products)
             if (product.isAdded())
                 send(database, consultant, order, product);
-        database.execute("UPDATE carts SET status = 'SUBMITTED' WHERE " + std::string(taken), consultant.id,
+        database.execute(std::string("UPDATE carts SET status = 'SUBMITTED' WHERE ").append(taken), consultant.id,
                          consultant.cycle);
     }
     const std::string_view verdict = added.products == 0    ? "CART_SUBMITTED_ERROR"
