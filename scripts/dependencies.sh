@@ -8,7 +8,7 @@ quillet_packages=(
     # tools
     g++ cmake ninja-build ccache pkg-config
     # Backend
-    libcurl4-openssl-dev libssl-dev libsimdjson-dev zlib1g-dev nlohmann-json3-dev
+    ca-certificates libcurl4-openssl-dev libssl-dev libsimdjson-dev zlib1g-dev nlohmann-json3-dev
     # screens
     qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     libgl1-mesa-dev 'qt6-svg-plugins|libqt6svg6'
@@ -26,14 +26,15 @@ install_dependencies() {
 
 # missing_packages PACKAGE ...: prints those that have to be installed, each alternative decided.
 missing_packages() {
-    local installed entry package
+    local installed entry package policy
     installed=$(dpkg-query -W -f '|${Package} ${db:Status-Status}|' 2>/dev/null || true)
     for entry; do
         for package in ${entry//|/ }; do
             [[ $installed == *"|$package installed|"* ]] && continue 2
             # Without alternatives there is nothing to decide: apt says itself what it cannot find.
             [[ $entry != *"|"* ]] && break
-            LC_ALL=C apt-cache policy "$package" 2>/dev/null | grep -q '^ *Candidate: [^(]' && break
+            policy=$(LC_ALL=C apt-cache policy "$package" 2>/dev/null || true)
+            [[ $policy == *"Candidate: "[^\(]* ]] && break
         done
         echo "$package"
     done

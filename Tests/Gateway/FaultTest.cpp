@@ -32,7 +32,8 @@ protected:
     HttpsClient client{port, folder.path() / "ca.pem"};
 };
 
-// In both the TLS stream ends without a farewell, which libcurl 8.14 calls an error of reading and 7.88 did not.
+// In both the TLS stream ends without a farewell, which libcurl 8.14 calls an error of reading and 7.88 did
+// not.
 const testing::Matcher<CURLcode> isCut = testing::AnyOf(CURLE_PARTIAL_FILE, CURLE_RECV_ERROR);
 const testing::Matcher<CURLcode> isClosed = testing::AnyOf(CURLE_GOT_NOTHING, CURLE_RECV_ERROR);
 

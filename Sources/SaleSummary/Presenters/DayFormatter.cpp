@@ -6,7 +6,8 @@ namespace quillet {
 
 namespace {
 
-// Local time and toUTC() are what every Qt 6 has: Qt 6.8 deprecates Qt::TimeSpec, and Qt 6.4 has nothing in its stead.
+// Local time and toUTC() are what every Qt 6 has: Qt 6.8 deprecates Qt::TimeSpec, and Qt 6.4 has nothing in
+// its stead.
 QDateTime local(Date moment) {
     return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count());
 }
