@@ -29,6 +29,9 @@ if(QUILLET_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
         "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${QUILLET_CCACHE}")
 endif()
 
+# What a host ships tells nobody where it was built: __FILE__ begins at the project's own folder.
+add_compile_options("-fmacro-prefix-map=${PROJECT_BINARY_DIR}/=" "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=")
+
 if(QUILLET_SANITIZE)
     add_compile_options("-fsanitize=${QUILLET_SANITIZE}" -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options("-fsanitize=${QUILLET_SANITIZE}")

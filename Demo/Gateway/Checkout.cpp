@@ -30,13 +30,13 @@ constexpr std::string_view taken =
     "consultant = ?1 AND status = 'OPEN' AND (?2 IS NULL OR magazine_cycle <= ?2)";
 
 std::vector<Product> productsOf(Database& database, const Consultant& consultant) {
-    auto rows = database.query(
+    std::string sql =
         "SELECT product, min(description), sum(amount), sum(amount * unit_price), sum(points), "
         "max(unit_points) "
         "FROM (SELECT cart_lines.*, row_number() OVER (ORDER BY created, number, position) AS place "
-        "FROM cart_lines JOIN carts ON uuid = cart WHERE " +
-            std::string(taken) + ") GROUP BY product ORDER BY min(place)",
-        consultant.id, consultant.cycle);
+        "FROM cart_lines JOIN carts ON uuid = cart WHERE ";
+    sql.append(taken).append(") GROUP BY product ORDER BY min(place)");
+    auto rows = database.query(sql, consultant.id, consultant.cycle);
     std::vector<Product> products;
     while (rows.next())
         products.push_back({.code = rows.integer(0),
@@ -124,8 +124,8 @@ Reply checkOut(Database& database, const Consultant& consultant) {
         for (const auto& product : products)
             if (product.isAdded())
                 send(database, consultant, order, product);
-        database.execute("UPDATE carts SET status = 'SUBMITTED' WHERE " + std::string(taken), consultant.id,
-                         consultant.cycle);
+        database.execute(std::string("UPDATE carts SET status = 'SUBMITTED' WHERE ").append(taken),
+                         consultant.id, consultant.cycle);
     }
     const std::string_view verdict = added.products == 0    ? "CART_SUBMITTED_ERROR"
                                      : failed.products == 0 ? "CART_SUBMITTED_SUCCESS"

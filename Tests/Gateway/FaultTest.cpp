@@ -6,7 +6,7 @@
 
 #include <csignal>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace quillet::gateway {
 
@@ -32,9 +32,14 @@ protected:
     HttpsClient client{port, folder.path() / "ca.pem"};
 };
 
+// In both the TLS stream ends without a farewell, which libcurl 8.14 calls an error of reading and 7.88 did
+// not.
+const testing::Matcher<CURLcode> isCut = testing::AnyOf(CURLE_PARTIAL_FILE, CURLE_RECV_ERROR);
+const testing::Matcher<CURLcode> isClosed = testing::AnyOf(CURLE_GOT_NOTHING, CURLE_RECV_ERROR);
+
 struct FaultCase {
     std::string fault;
-    CURLcode code;
+    testing::Matcher<CURLcode> code;
     long status;
     /// The status that the log tells; -1 for none.
     int logged;
@@ -50,9 +55,9 @@ const std::vector<FaultCase> faultCases{
     {"kind=status value=204", CURLE_OK, 204, 204, false},
     {"kind=malformed", CURLE_OK, 200, 200, false},
     {"kind=malformed value=empty", CURLE_OK, 200, 200, false},
-    {"kind=cut", CURLE_PARTIAL_FILE, 200, 200, true},
+    {"kind=cut", isCut, 200, 200, true},
     {"kind=silence", CURLE_OPERATION_TIMEDOUT, 0, -1, false},
-    {"kind=close", CURLE_GOT_NOTHING, 0, -1, true},
+    {"kind=close", isClosed, 0, -1, true},
 };
 
 } // namespace
@@ -70,7 +75,7 @@ TEST_F(GatewayFaults, HappenOnTheWireAndAreLoggedOnce) {
         // On a connection that has been used before, curl itself would repeat a POST that gets no answer.
         const auto exchange =
             HttpsClient(port, folder.path() / "ca.pem").send(checkoutRequest(41051), deadline);
-        EXPECT_EQ(exchange.code, wanted.code) << curl_easy_strerror(exchange.code);
+        EXPECT_THAT(exchange.code, wanted.code) << curl_easy_strerror(exchange.code);
         EXPECT_EQ(exchange.status, wanted.status);
 
         const auto entries = log();
@@ -113,10 +118,9 @@ TEST_F(GatewayFaults, AreSeededForEachOutcome) {
     EXPECT_FALSE(Json::accept(client.send(associateRequest(41059, cartOf(41059))).body));
     EXPECT_FALSE(Json::accept(client.send(checkoutRequest(41060)).body));
     EXPECT_EQ(associated(41061), 200);
-    EXPECT_EQ(client.send(checkoutRequest(41061)).code, CURLE_PARTIAL_FILE);
+    EXPECT_THAT(client.send(checkoutRequest(41061)).code, isCut);
     EXPECT_EQ(client.send(checkoutRequest(41062), 300ms).code, CURLE_OPERATION_TIMEDOUT);
-    EXPECT_EQ(HttpsClient(port, folder.path() / "ca.pem").send(checkoutRequest(41063)).code,
-              CURLE_GOT_NOTHING);
+    EXPECT_THAT(HttpsClient(port, folder.path() / "ca.pem").send(checkoutRequest(41063)).code, isClosed);
 }
 
 TEST_F(GatewayFaults, DoNotStandInTheWayOfStopping) {

@@ -60,18 +60,19 @@ TEST(MainQueue, LosesNothingThatThreadsQueueWhileItIsDrained) {
     std::atomic<int> wakeUps = 0;
     queue.setWakeUp([&] { ++wakeUps; });
     std::vector<int> ran[2];
-    {
-        std::vector<std::jthread> threads;
-        for (auto& list : ran) {
-            threads.emplace_back([&] {
-                for (int i = 0; i < each; ++i) {
-                    queue.async([&list, i] { list.push_back(i); });
-                }
-            });
-        }
-        for (std::size_t done = 0; done < 2 * each;) {
-            done += queue.drain();
-        }
+    std::vector<std::thread> threads;
+    for (auto& list : ran) {
+        threads.emplace_back([&] {
+            for (int i = 0; i < each; ++i) {
+                queue.async([&list, i] { list.push_back(i); });
+            }
+        });
+    }
+    for (std::size_t done = 0; done < 2 * each;) {
+        done += queue.drain();
+    }
+    for (auto& thread : threads) {
+        thread.join();
     }
     EXPECT_EQ(wakeUps, 2 * each);
     for (const auto& list : ran) {

@@ -6,19 +6,24 @@ namespace quillet {
 
 namespace {
 
-QString day(Date moment, Qt::TimeSpec zone) {
-    const auto milliseconds = moment.time_since_epoch().count();
-    return QDateTime::fromMSecsSinceEpoch(milliseconds, zone).toString(QStringLiteral("dd/MM/yyyy"));
+// Local time and toUTC() are what every Qt 6 has: Qt 6.8 deprecates Qt::TimeSpec, and Qt 6.4 has nothing in
+// its stead.
+QDateTime local(Date moment) {
+    return QDateTime::fromMSecsSinceEpoch(moment.time_since_epoch().count());
+}
+
+QString day(const QDateTime& moment) {
+    return moment.toString(QStringLiteral("dd/MM/yyyy"));
 }
 
 } // namespace
 
 QString utcDay(Date moment) {
-    return day(moment, Qt::UTC);
+    return day(local(moment).toUTC());
 }
 
 QString localDay(Date moment) {
-    return day(moment, Qt::LocalTime);
+    return day(local(moment));
 }
 
 } // namespace quillet
