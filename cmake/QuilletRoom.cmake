@@ -17,7 +17,7 @@ endfunction()
 function(quillet_room_includes target room)
     set(door "${PROJECT_BINARY_DIR}/rooms/${target}")
     file(MAKE_DIRECTORY "${door}")
-    file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}" "${door}/${room}" SYMBOLIC COPY_ON_ERROR)
+    file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}" "${door}/${room}" SYMBOLIC)
     target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${door}>")
 endfunction()
 

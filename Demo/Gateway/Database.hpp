@@ -67,7 +67,8 @@ public:
     template <class... Values>
     [[nodiscard]] Statement query(std::string_view sql, const Values&... values) {
         Statement statement(database_.get(), sql);
-        int place = 0;
+        // Without values it is never read.
+        [[maybe_unused]] int place = 0;
         (statement.bind(++place, values), ...);
         return statement;
     }
