@@ -74,7 +74,6 @@ protected:
         if (!testing::mayMakeNetworkNamespace()) {
             GTEST_SKIP() << "This machine lets no process have a network of its own.";
         }
-        GTEST_FLAG_SET(death_test_style, "threadsafe");
     }
 };
 

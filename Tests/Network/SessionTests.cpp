@@ -207,7 +207,6 @@ TEST_F(SessionTest, TakesCallsFromSeveralThreadsAtATime) {
 
 // The process ends while a session's thread is in the middle of a call.
 TEST(SessionDeathTest, DoesNotKeepTheProcessFromEnding) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(
         {
             auto& sandbox = *new testing::SandboxedSession;

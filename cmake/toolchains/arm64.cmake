@@ -10,5 +10,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+# Debian's own compilers know this folder of their machine by themselves.
+set(CMAKE_CXX_FLAGS_INIT "-isystem ${root}/usr/include/aarch64-linux-gnu")
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,-rpath-link,${root}/usr/lib/aarch64-linux-gnu")
 set(CMAKE_CROSSCOMPILING_EMULATOR "qemu-aarch64;-L;${root}")
