@@ -60,7 +60,7 @@ install_packages() {
     "${sudo[@]}" apt-get update >"$log" 2>&1 || true
     # Only now is it sure which alternatives there are.
     mapfile -t missing < <(missing_packages "$@")
-    [ ${#missing[@]} -eq 0 ] && return
+    [ ${#missing[@]} -eq 0 ] && rm -f "$log" && return
     echo "Installing: ${missing[*]}" >&2
     if ! "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive LC_ALL=C \
         apt-get install -y --no-install-recommends --no-remove "${missing[@]}" >>"$log" 2>&1; then
@@ -71,6 +71,7 @@ install_packages() {
             tail -n 20 "$log" >&2
         fi
         echo "Could not install these packages: ${missing[*]}" >&2
+        rm -f "$log"
         return 1
     fi
     rm -f "$log"

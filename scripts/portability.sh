@@ -1,5 +1,6 @@
 # shellcheck shell=bash
 # What ./test --portable needs beyond scripts/dependencies.sh. Sourced after it; needs $root.
+: "${root:?the folder of the project}"
 
 # The compilers and the emulator, and what libc++ and the other processors' programs are linked with. The latter are
 # unpacked into folders of their own: installed, they would have to push out packages that the machine needs.
@@ -8,6 +9,7 @@ libcxx_packages=(libc++-19-dev libc++abi-19-dev)
 backend_packages=(libcurl4-openssl-dev libssl-dev libsimdjson-dev zlib1g-dev nlohmann-json3-dev libboost-dev
     libgtest-dev libgmock-dev)
 
+# shellcheck disable=SC2034 # For ./test.
 portable_presets=(libc++ arm64 armhf clang)
 
 prepare_portable() {
@@ -36,9 +38,10 @@ unpack() {
     : >"$apt/status"
     local options=(-o "APT::Architecture=$architecture" -o "APT::Architectures=$architecture"
         -o "Dir::State=$apt" -o "Dir::State::status=$apt/status" -o "Dir::Cache=$apt" -o "APT::Sandbox::User=root")
-    if ! { apt-get "${options[@]}" update &&
-        apt-get "${options[@]}" install -y --no-install-recommends --download-only "$@" &&
-        unpack_archives "$folder" "$apt"/archives/*.deb; } >"$log" 2>&1; then
+    # One list that cannot be had need not be missed.
+    apt-get "${options[@]}" update >"$log" 2>&1 || true
+    if ! { apt-get "${options[@]}" install -y --no-install-recommends --download-only "$@" &&
+        unpack_archives "$folder" "$apt"/archives/*.deb; } >>"$log" 2>&1; then
         tail -n 20 "$log" >&2
         echo "Could not unpack: $*" >&2
         return 1

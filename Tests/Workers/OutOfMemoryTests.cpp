@@ -109,7 +109,7 @@ public:
         pthread_getattr_default_np(&before_);
         pthread_attr_t attributes;
         pthread_attr_init(&attributes);
-        pthread_attr_setstacksize(&attributes, std::numeric_limits<std::size_t>::max() / 2);
+        pthread_attr_setstacksize(&attributes, std::numeric_limits<std::size_t>::max() / 8 * 7);
         pthread_setattr_default_np(&attributes);
     }
     ~NoThreads() { pthread_setattr_default_np(&before_); }
