@@ -15,9 +15,7 @@ namespace demo {
 
 namespace {
 
-/// How often a waiting step looks again.
-constexpr std::chrono::milliseconds kGlance{20};
-/// The same for one that scrolls through a long list meanwhile.
+/// How often a step looks again that scrolls through a long list meanwhile.
 constexpr std::chrono::milliseconds kScrollGlance{1};
 /// How long a picture waits for the screen to come to rest.
 constexpr std::chrono::milliseconds kComingToRest{600};

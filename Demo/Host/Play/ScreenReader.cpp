@@ -5,6 +5,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <ranges>
+#include <utility>
 
 namespace demo {
 
@@ -13,11 +16,17 @@ namespace {
 /// Elements whose middles are closer than this stand on one line.
 constexpr double kLine = 8;
 
+// Maps with equal keys keep the order in which these came, and unlike a stable sort need no temporary buffer,
+// which libstdc++ 12 takes from a function that Clang warns of.
+
 /// Children from bottom to top, as they are painted.
 QList<QQuickItem*> paintOrder(const QQuickItem& item) {
-    QList<QQuickItem*> children = item.childItems();
-    std::ranges::stable_sort(children, {}, &QQuickItem::z);
-    return children;
+    std::multimap<double, QQuickItem*> byHeight;
+    for (QQuickItem* child : item.childItems()) {
+        byHeight.emplace(child->z(), child);
+    }
+    const auto children = byHeight | std::views::values;
+    return {children.begin(), children.end()};
 }
 
 bool drawn(const QQuickItem& item) {
@@ -115,20 +124,19 @@ QList<QQuickItem*> ScreenReader::items() const {
 }
 
 QList<ScreenElement> ScreenReader::elements() const {
-    QList<ScreenElement> elements;
+    // By line, then from left to right.
+    std::multimap<std::pair<double, double>, ScreenElement> inReadingOrder;
     for (QQuickItem* item : items()) {
         const QString name = drawn(*item) ? accessibleName(*item) : QString();
         if (!name.isEmpty()) {
             const QPointF center = sceneRect(*item).center();
-            elements << ScreenElement{item, name, center, reaches(*item, center), item->isEnabled()};
+            inReadingOrder.emplace(
+                std::pair(std::floor(center.y() / kLine), center.x()),
+                ScreenElement{item, name, center, reaches(*item, center), item->isEnabled()});
         }
     }
-    std::ranges::stable_sort(elements, [](const ScreenElement& a, const ScreenElement& b) {
-        const double lineA = std::floor(a.center.y() / kLine);
-        const double lineB = std::floor(b.center.y() / kLine);
-        return lineA != lineB ? lineA < lineB : a.center.x() < b.center.x();
-    });
-    return elements;
+    const auto elements = inReadingOrder | std::views::values;
+    return {elements.begin(), elements.end()};
 }
 
 QStringList ScreenReader::texts() const {
