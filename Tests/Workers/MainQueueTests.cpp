@@ -81,4 +81,14 @@ TEST(MainQueue, LosesNothingThatThreadsQueueWhileItIsDrained) {
     }
 }
 
+TEST(MainQueue, DropsABlockThatItCannotWakeAnybodyFor) {
+    MainQueue queue;
+    bool ran = false;
+    queue.setWakeUp([] { throw std::bad_alloc(); });
+    EXPECT_THROW(queue.async([&] { ran = true; }), std::bad_alloc);
+    queue.setWakeUp(nullptr);
+    EXPECT_EQ(queue.drain(), 0u);
+    EXPECT_FALSE(ran);
+}
+
 } // namespace quillet
