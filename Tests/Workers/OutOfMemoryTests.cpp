@@ -6,6 +6,7 @@
 #include "Workers/AssociateConsultantToCartWorker.hpp"
 #include "Workers/MainQueue.hpp"
 
+#include <curl/curl.h>
 #include <gtest/gtest.h>
 
 #include <pthread.h>
@@ -102,6 +103,9 @@ struct OutOfThreads : ::testing::Test {
 
 struct OutOfMemory : OutOfThreads, ::testing::WithParamInterface<Scarcity> {};
 
+// libcurl 8.22 passes a null pointer on to OpenSSL, and the program ends there. 8.14 does not.
+constexpr unsigned firstThatCrashes = 0x080F00;
+
 // From here on no thread is started: each would need a stack larger than the address space.
 class NoThreads {
 public:
@@ -123,6 +127,11 @@ private:
 // One allocation fails, each in its turn. The call brings its answer all the same or an error, and once; the
 // next call brings its answer.
 TEST_P(OutOfMemory, FailsTheCallAndNotTheNextOne) {
+    const auto* const libcurl = curl_version_info(CURLVERSION_NOW);
+    if (GetParam().allocator == Allocator::openSsl && libcurl->version_num >= firstThatCrashes) {
+        GTEST_SKIP() << "libcurl " << libcurl->version
+                     << " uses the connection that OpenSSL had no memory for.";
+    }
     std::size_t failed = 0;
     bool wasReached = true;
     for (std::size_t place = 1; wasReached; place += GetParam().step) {

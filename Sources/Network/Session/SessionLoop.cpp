@@ -192,7 +192,8 @@ void SessionLoop::finishTransferredCalls() {
 }
 
 void SessionLoop::finishTransferredCall(Calls::iterator call, CURLcode code) {
-    const bool isConnectTimeout = code == CURLE_OPERATION_TIMEDOUT && call->transfer->isConnecting();
+    // Only connecting has a time-out of libcurl's.
+    const bool isConnectTimeout = code == CURLE_OPERATION_TIMEDOUT && !call->transfer->hasTlsBegun();
     if ((isConnectTimeout || isFailureToConnect(code)) && !isNetworkThere(*call)) {
         finish(call, {.error = URLError::of(URLError::Code::notConnectedToInternet, "There is no network")});
         return;
@@ -265,7 +266,7 @@ int SessionLoop::millisecondsToSleep() const {
     const auto now = configuration_.clock->now();
     for (const auto& call : running_) {
         wait = std::min(wait, std::chrono::ceil<std::chrono::milliseconds>(call.deadline - now));
-        if (call.transfer && call.transfer->isConnecting()) {
+        if (call.transfer && !call.transfer->hasTlsBegun() && !call.transfer->isRequestBegun()) {
             // libcurl 7.88 gives an address up in time, but goes on to the next one only when it is called
             // again, and does not ask for that.
             wait = std::min(wait, std::chrono::milliseconds(250));

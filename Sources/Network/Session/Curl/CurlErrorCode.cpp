@@ -35,8 +35,8 @@ URLError::Code urlErrorCode(CURLcode code) {
         return networkConnectionLost;
     case tooLarge:
         return dataLengthExceedsMaximum;
+    // It is the transfer's coding that is bad: libcurl is told to leave the content's alone.
     case CURLE_BAD_CONTENT_ENCODING:
-        return cannotDecodeContentData;
     case CURLE_UNSUPPORTED_PROTOCOL:
     case CURLE_WEIRD_SERVER_REPLY:
         return cannotParseResponse;

@@ -26,8 +26,8 @@ void CurlOptions::setTrust(const std::string& caBundleFile) {
     set(CURLOPT_SSL_VERIFYPEER, 1L);
     set(CURLOPT_SSL_VERIFYHOST, 2L);
     set(CURLOPT_SSLVERSION, static_cast<long>(CURL_SSLVERSION_TLSv1_2));
-    // libcurl 7.88 frees a TLS session twice where it has no memory to keep it. Few sessions would be resumed:
-    // a connection is kept where it may be used again.
+    // libcurl 7.88 frees a TLS session twice where it has no memory to keep it. Few sessions would be
+    // resumed: a connection is kept where it may be used again.
     set(CURLOPT_SSL_SESSIONID_CACHE, 0L);
     // Authorities that were read while memory ran out may lack a key, and would be kept so for a day.
     set(CURLOPT_CA_CACHE_TIMEOUT, 0L);

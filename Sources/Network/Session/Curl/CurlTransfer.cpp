@@ -43,15 +43,10 @@ CURLcode CurlTransfer::tlsBegins(CURL* easy, void* tlsContext, void* transfer) {
     return TlsState::watch(tlsContext, self.newConnection_);
 }
 
-bool CurlTransfer::isConnecting() const {
-    // On a connection that was made before, TLS does not begin again.
-    return !hasTlsBegun_ && !isRequestBegun();
-}
-
 bool CurlTransfer::isRequestBegun() const {
-    curl_off_t timeUntilRequest = 0;
-    curl_easy_getinfo(handle(), CURLINFO_PRETRANSFER_TIME_T, &timeUntilRequest);
-    return timeUntilRequest > 0;
+    long bytes = 0;
+    curl_easy_getinfo(handle(), CURLINFO_REQUEST_SIZE, &bytes);
+    return bytes > 0;
 }
 
 URLSessionOutcome CurlTransfer::outcome(CURLcode code) {

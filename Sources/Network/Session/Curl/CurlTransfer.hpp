@@ -34,8 +34,11 @@ public:
 
     [[nodiscard]] CURL* handle() const { return easy_.get(); }
 
-    /// Whether there is no connection yet on which TLS could begin. Nothing of the request was sent then.
-    [[nodiscard]] bool isConnecting() const;
+    /// Whether TLS has begun on a connection that was made for this exchange. Before it nothing of the
+    /// request is sent, unless the exchange uses a connection that was there before.
+    [[nodiscard]] bool hasTlsBegun() const { return hasTlsBegun_; }
+    /// Whether some of the request was sent.
+    [[nodiscard]] bool isRequestBegun() const;
 
     /// What the exchange came to, once libcurl is done with it. Gives the body away.
     [[nodiscard]] URLSessionOutcome outcome(CURLcode code);
@@ -50,7 +53,6 @@ private:
     [[nodiscard]] std::expected<void, URLError> receiveHeader(std::string_view line);
     [[nodiscard]] std::expected<void, URLError> receiveBody(std::string_view bytes);
     [[nodiscard]] std::expected<void, URLError> beginBody();
-    [[nodiscard]] bool isRequestBegun() const;
     [[nodiscard]] bool isWithoutBody() const;
     [[nodiscard]] std::string headerValues(const char* name) const;
     [[nodiscard]] std::optional<URLError> faultOfFraming() const;
