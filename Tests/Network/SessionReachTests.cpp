@@ -122,28 +122,29 @@ public:
 };
 
 TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
-    const auto path = std::make_shared<ServerFoundLate>();
+    // Not the session's to free: its thread may still do so while the process ends and OpenSSL cleans up.
+    const ServerFoundLate path;
     const auto clock = std::make_shared<testing::VirtualClock>();
     const auto observer = std::make_shared<BeginningsCounter>();
     testing::CallRecorder calls;
     const URLSession session(
-        {.caBundleFile = path->authority.bundleFile(),
-         .hostMappings = {{.host = testing::gatewayHost, .address = "127.0.0.1", .port = path->dead->port()}},
-         .networkPath = path,
+        {.caBundleFile = path.authority.bundleFile(),
+         .hostMappings = {{.host = testing::gatewayHost, .address = "127.0.0.1", .port = path.dead->port()}},
+         .networkPath = {std::shared_ptr<void>(), &path},
          .clock = clock,
          .observer = observer,
          // Less than the second after which the system would repeat its own packet.
          .connectTimeout = std::chrono::milliseconds(200)});
     session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
     EXPECT_EQ(calls.wait().data, "{}");
-    EXPECT_EQ(path->failures, 2);
-    EXPECT_EQ(path->server->requests().size(), 1u);
+    EXPECT_EQ(path.failures, 2);
+    EXPECT_EQ(path.server->requests().size(), 1u);
     EXPECT_EQ(observer->beginnings, 1);
 
     const testing::SilentPort dead(testing::SilentPort::Kind::dropping);
     const auto stillThere = std::make_shared<ScriptedPath>(true);
     const URLSession other(
-        {.caBundleFile = path->authority.bundleFile(),
+        {.caBundleFile = path.authority.bundleFile(),
          .hostMappings = {{.host = testing::gatewayHost, .address = "127.0.0.1", .port = dead.port()}},
          .networkPath = stillThere,
          .clock = clock,
