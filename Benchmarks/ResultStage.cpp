@@ -1,8 +1,8 @@
 #include "ResultStage.hpp"
 
 #include "Checkout/Inputs/ResultFactories.hpp"
+#include "Platform/Screens/NavigationController.hpp"
 #include "Views/QuilletViews.hpp"
-#include "Views/Screen/NavigationController.hpp"
 
 #include <QEventLoop>
 #include <QQmlComponent>
@@ -12,11 +12,6 @@
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
-
-extern void qml_register_types_Quillet_Checkout();
-static void initCheckoutResources() {
-    Q_INIT_RESOURCE(qmake_Quillet_Checkout);
-}
 
 namespace quillet::benchmarks {
 
@@ -58,8 +53,6 @@ QQuickItem* findList(const QQuickItem& root) {
 } // namespace
 
 ResultStage::ResultStage() : engine_(std::make_unique<QQmlEngine>()) {
-    initCheckoutResources();
-    qml_register_types_Quillet_Checkout();
     useQuilletViews(*engine_);
     QQmlComponent component(engine_.get());
     component.setData(kHost, QUrl());
@@ -90,7 +83,7 @@ ResultStage::Opening ResultStage::open(const std::vector<Product>& products) {
     const auto looked = Clock::now();
     input.reset();
     const auto freed = Clock::now();
-    if (!NavigationController::of(*stack_).push(screen)) {
+    if (!platform::NavigationController::of(*stack_).push(screen)) {
         throw std::runtime_error("The result screen does not load.");
     }
     const auto pushed = Clock::now();

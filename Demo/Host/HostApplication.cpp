@@ -48,7 +48,7 @@ bool HostApplication::openHandmade(const std::string& refusal) {
     return show(refusedOrderScreen(refusal, self_));
 }
 
-bool HostApplication::show(const std::shared_ptr<quillet::QuickViewController>& screen) {
+bool HostApplication::show(const std::shared_ptr<quillet::platform::QuickViewController>& screen) {
     return quillet::present(screen, *window()->property("stack").value<QQuickItem*>());
 }
 

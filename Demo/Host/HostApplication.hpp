@@ -58,7 +58,7 @@ public:
     [[nodiscard]] QObject* status() const { return &status_; }
 
 private:
-    bool show(const std::shared_ptr<quillet::QuickViewController>& screen);
+    bool show(const std::shared_ptr<quillet::platform::QuickViewController>& screen);
     void showHostPage(const QString& title, const QString& message, int icon);
 
     Journal& journal_;

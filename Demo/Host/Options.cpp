@@ -79,8 +79,8 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
     const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Use the dark theme."));
     const QCommandLineOption reducedMotion(QStringLiteral("reduced-motion"),
                                            QStringLiteral("Let nothing move but fade."));
-    parser.addOptions({help, tour, play, out, controls, gateway, ca, port, reset, data, program, language, dark,
-                       reducedMotion});
+    parser.addOptions({help, tour, play, out, controls, gateway, ca, port, reset, data, program, language,
+                       dark, reducedMotion});
 
     if (!parser.parse(arguments)) {
         return std::unexpected(parser.errorText());

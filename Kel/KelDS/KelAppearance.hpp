@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelDS/KelTokens.hpp"
+#include "KelDS/KelPalette.hpp"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>

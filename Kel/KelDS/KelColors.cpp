@@ -6,10 +6,6 @@ KelColors::KelColors(QObject* parent) : QObject(parent) {
     connect(&KelAppearance::current(), &KelAppearance::changed, this, &KelColors::changed);
 }
 
-QColor KelColors::veil() {
-    return KelAppearance::current().theme() == KelTheme::light ? highEmphasis() : QColor(Qt::black);
-}
-
 QColor KelColors::withAlpha(QColor color, double alpha) {
     color.setAlphaF(static_cast<float>(alpha));
     return color;

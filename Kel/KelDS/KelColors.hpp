@@ -27,7 +27,6 @@ class KelColors : public QObject {
     Q_PROPERTY(QColor warning READ warning NOTIFY changed FINAL)
     Q_PROPERTY(QColor link READ link NOTIFY changed FINAL)
     Q_PROPERTY(QColor hairline READ hairline NOTIFY changed FINAL)
-    Q_PROPERTY(QColor dim READ dim CONSTANT FINAL)
     Q_PROPERTY(bool hasShadows READ hasShadows NOTIFY changed FINAL)
 
 public:
@@ -46,10 +45,6 @@ public:
     [[nodiscard]] static QColor warning() { return palette().warning; }
     [[nodiscard]] static QColor link() { return palette().link; }
     [[nodiscard]] static QColor hairline() { return withAlpha(highEmphasis(), palette().hairline); }
-    /// What dims the screen behind a dialog: black in either theme.
-    [[nodiscard]] static QColor dim() { return withAlpha(Qt::black, opacity::mediumHigh); }
-    /// What a veil over a whole screen is dyed with: the darkest ink of the theme.
-    [[nodiscard]] static QColor veil();
 
     /// On a dark ground a shadow cannot be seen: there a lighter surface alone lifts a card.
     [[nodiscard]] static bool hasShadows() { return KelAppearance::current().theme() == KelTheme::light; }

@@ -1,20 +1,30 @@
 #include "KelDS/KelDialogController.hpp"
 
+#include "KelCommon/KelLocalized.hpp"
 #include "KelDS/KelDS.hpp"
-#include "KelDS/KelTokens.hpp"
 
 #include <QLoggingCategory>
 #include <QQmlComponent>
 #include <QQmlEngine>
-#include <QVariantAnimation>
 
 #include <utility>
+
+// The macro has to stand outside any namespace; see KelDSIcons.
+static void initTextResources() {
+    Q_INIT_RESOURCE(kel_words);
+}
 
 namespace kel {
 
 namespace {
 Q_LOGGING_CATEGORY(lcDialog, "kel.dialog")
+
+QString closeText() {
+    initTextResources();
+    return localized("Close", {QStringLiteral(":/kel/texts"), QStringLiteral("kelds")});
 }
+
+} // namespace
 
 KelDialogController::KelDialogController(QString title, QString body)
     : title_(std::move(title)), body_(std::move(body)) {}
@@ -26,52 +36,23 @@ QPointer<KelDialogController> KelDialogController::present(std::unique_ptr<KelDi
                                                            bool animated) {
     useDesignSystem(engine);
     QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/qt/qml/KelDS/KelDialog.qml")));
-    auto* dialog = qobject_cast<QQuickItem*>(
-        component.createWithInitialProperties({{"title", controller->title_},
-                                               {"message", controller->body_},
-                                               {"appeared", animated ? 0 : 1},
-                                               {"parent", QVariant::fromValue(&over)},
-                                               {"width", over.width()},
-                                               {"height", over.height()}}));
+    QObject* dialog = component.isError()
+                          ? nullptr
+                          : component.createWithInitialProperties({{"title", controller->title_},
+                                                                   {"message", controller->body_},
+                                                                   {"closeText", closeText()},
+                                                                   {"animated", animated},
+                                                                   {"parent", QVariant::fromValue(&over)}});
     if (!dialog) {
         qCWarning(lcDialog) << component.errors();
         return nullptr;
     }
-    QQmlEngine::setObjectOwnership(dialog, QQmlEngine::CppOwnership);
+    // The dialog destroys itself once it has closed, which QML lets only those do that are its own.
+    QQmlEngine::setObjectOwnership(dialog, QQmlEngine::JavaScriptOwnership);
     dialog->setParent(&over);
-    // Above the overlays of whatever screen it covers.
-    dialog->setZ(3);
-    connect(&over, &QQuickItem::widthChanged, dialog, [&over, dialog] { dialog->setWidth(over.width()); });
-    connect(&over, &QQuickItem::heightChanged, dialog, [&over, dialog] { dialog->setHeight(over.height()); });
-
     KelDialogController* presented = controller.release();
-    presented->animated_ = animated;
-    presented->dialog_ = dialog;
     presented->setParent(dialog);
-    connect(dialog, SIGNAL(backgroundTouched()), presented, SLOT(dismiss()));
-    connect(dialog, SIGNAL(closeIconTouched()), presented, SLOT(dismiss()));
     return presented;
-}
-
-void KelDialogController::dismiss() {
-    if (!dialog_ || !animated_) {
-        return remove();
-    }
-    auto* fade = new QVariantAnimation(dialog_);
-    fade->setStartValue(dialog_->property("alpha"));
-    fade->setEndValue(0.0);
-    fade->setDuration(motion::dialogOut);
-    connect(fade, &QVariantAnimation::valueChanged, dialog_,
-            [dialog = dialog_.data()](const QVariant& alpha) { dialog->setProperty("alpha", alpha); });
-    connect(fade, &QAbstractAnimation::finished, this, &KelDialogController::remove);
-    fade->start();
-}
-
-void KelDialogController::remove() {
-    if (dialog_) {
-        dialog_->setVisible(false);
-        dialog_->deleteLater();
-    }
 }
 
 } // namespace kel

@@ -1,10 +1,9 @@
 #include "KelDS/KelFonts.hpp"
 
-#include "KelDS/KelTokens.hpp"
-
 #include <QFontDatabase>
 
 #include <algorithm>
+#include <array>
 
 // The macro has to stand outside any namespace; see KelDSIcons.
 static void initFontResources() {
@@ -14,6 +13,10 @@ static void initFontResources() {
 namespace kel {
 
 namespace {
+
+constexpr std::array pixelSizes{96, 60, 48, 34, 24, 20, 16, 14, 16, 14, 14, 12, 10};
+// From this size up the display cut of the face is used.
+constexpr int smallestDisplaySize = 24;
 
 void registerFaces() {
     static const bool once = [] {
@@ -32,8 +35,8 @@ void registerFaces() {
 QFont KelFonts::font(int size, int weight) {
     registerFaces();
     static constexpr QFont::Weight weights[] = {QFont::Normal, QFont::Medium, QFont::DemiBold};
-    const int pixels = kFontSizes[static_cast<std::size_t>(std::clamp(size, 0, int(kFontSizes.size()) - 1))];
-    QFont result(pixels < kDisplayFrom ? QStringLiteral("Inter") : QStringLiteral("Inter Display"));
+    const int pixels = pixelSizes[static_cast<std::size_t>(std::clamp(size, 0, int(Overline)))];
+    QFont result(pixels < smallestDisplaySize ? QStringLiteral("Inter") : QStringLiteral("Inter Display"));
     result.setPixelSize(pixels);
     result.setWeight(weights[std::clamp(weight, 0, 2)]);
     return result;

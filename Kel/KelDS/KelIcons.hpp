@@ -29,7 +29,6 @@ public:
         Schedule = int(KelIconNumber::schedule),
         Close = int(KelIconNumber::close),
         ExpandMore = int(KelIconNumber::expandMore),
-        ExpandLess = int(KelIconNumber::expandLess),
         ArrowBack = int(KelIconNumber::arrowBack),
         Share = int(KelIconNumber::share),
         Home = int(KelIconNumber::home),

@@ -7,80 +7,111 @@
 
 namespace kel {
 
+/// Distances between things, in device-independent pixels.
 class KelSpacing : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    Q_PROPERTY(int micro MEMBER micro_ CONSTANT FINAL)
-    Q_PROPERTY(int tiny MEMBER tiny_ CONSTANT FINAL)
-    Q_PROPERTY(int small MEMBER small_ CONSTANT FINAL)
-    Q_PROPERTY(int semi MEMBER semi_ CONSTANT FINAL)
-    Q_PROPERTY(int standard MEMBER standard_ CONSTANT FINAL)
+    Q_PROPERTY(int micro MEMBER micro CONSTANT FINAL)
+    Q_PROPERTY(int tiny MEMBER tiny CONSTANT FINAL)
+    Q_PROPERTY(int small MEMBER small CONSTANT FINAL)
+    Q_PROPERTY(int semi MEMBER semi CONSTANT FINAL)
+    Q_PROPERTY(int standard MEMBER standard CONSTANT FINAL)
 
-    int micro_ = spacing::micro, tiny_ = spacing::tiny, small_ = spacing::small, semi_ = spacing::semi,
-        standard_ = spacing::standard;
+public:
+    static constexpr int micro = 4;
+    static constexpr int tiny = 8;
+    static constexpr int small = 16;
+    static constexpr int semi = 24;
+    static constexpr int standard = 32;
 };
 
+/// Sizes of things, in device-independent pixels. `touch` is the least that a finger hits without fail.
 class KelSizes : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    Q_PROPERTY(int micro MEMBER micro_ CONSTANT FINAL)
-    Q_PROPERTY(int tiny MEMBER tiny_ CONSTANT FINAL)
-    Q_PROPERTY(int small MEMBER small_ CONSTANT FINAL)
-    Q_PROPERTY(int standard MEMBER standard_ CONSTANT FINAL)
-    Q_PROPERTY(int semi MEMBER semi_ CONSTANT FINAL)
-    Q_PROPERTY(int semiX MEMBER semiX_ CONSTANT FINAL)
-    Q_PROPERTY(int medium MEMBER medium_ CONSTANT FINAL)
-    Q_PROPERTY(int mediumX MEMBER mediumX_ CONSTANT FINAL)
-    Q_PROPERTY(int large MEMBER large_ CONSTANT FINAL)
-    Q_PROPERTY(int touch MEMBER touch_ CONSTANT FINAL)
+    Q_PROPERTY(int micro MEMBER micro CONSTANT FINAL)
+    Q_PROPERTY(int tiny MEMBER tiny CONSTANT FINAL)
+    Q_PROPERTY(int small MEMBER small CONSTANT FINAL)
+    Q_PROPERTY(int standard MEMBER standard CONSTANT FINAL)
+    Q_PROPERTY(int semi MEMBER semi CONSTANT FINAL)
+    Q_PROPERTY(int semiX MEMBER semiX CONSTANT FINAL)
+    Q_PROPERTY(int medium MEMBER medium CONSTANT FINAL)
+    Q_PROPERTY(int mediumX MEMBER mediumX CONSTANT FINAL)
+    Q_PROPERTY(int large MEMBER large CONSTANT FINAL)
+    Q_PROPERTY(int touch MEMBER touch CONSTANT FINAL)
 
-    int micro_ = sizes::micro, tiny_ = sizes::tiny, small_ = sizes::small, standard_ = sizes::standard,
-        semi_ = sizes::semi, semiX_ = sizes::semiX, medium_ = sizes::medium, mediumX_ = sizes::mediumX,
-        large_ = sizes::large, touch_ = sizes::touch;
+public:
+    static constexpr int micro = 4;
+    static constexpr int tiny = 8;
+    static constexpr int small = 16;
+    static constexpr int standard = 24;
+    static constexpr int semi = 32;
+    static constexpr int semiX = 40;
+    static constexpr int medium = 48;
+    static constexpr int mediumX = 56;
+    static constexpr int large = 64;
+    static constexpr int touch = 44;
 };
 
-class KelRadius : public QObject {
+/// Radii of corners, in device-independent pixels. Buttons sit between two steps of the scale.
+class KelBorderRadius : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    Q_PROPERTY(int small MEMBER small_ CONSTANT FINAL)
-    Q_PROPERTY(int medium MEMBER medium_ CONSTANT FINAL)
-    Q_PROPERTY(int large MEMBER large_ CONSTANT FINAL)
-    Q_PROPERTY(int button MEMBER button_ CONSTANT FINAL)
+    Q_PROPERTY(int small MEMBER small CONSTANT FINAL)
+    Q_PROPERTY(int medium MEMBER medium CONSTANT FINAL)
+    Q_PROPERTY(int large MEMBER large CONSTANT FINAL)
+    Q_PROPERTY(int button MEMBER button CONSTANT FINAL)
 
-    int small_ = radius::small, medium_ = radius::medium, large_ = radius::large, button_ = radius::button;
+public:
+    static constexpr int small = 4;
+    static constexpr int medium = 8;
+    static constexpr int large = 16;
+    static constexpr int button = 12;
 };
 
+/// Opacities, from 0 to 1.
 class KelOpacity : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    Q_PROPERTY(double disabled MEMBER disabled_ CONSTANT FINAL)
-    Q_PROPERTY(double low MEMBER low_ CONSTANT FINAL)
-    Q_PROPERTY(double mediumLow MEMBER mediumLow_ CONSTANT FINAL)
-    Q_PROPERTY(double medium MEMBER medium_ CONSTANT FINAL)
-    Q_PROPERTY(double mediumHigh MEMBER mediumHigh_ CONSTANT FINAL)
-    Q_PROPERTY(double high MEMBER high_ CONSTANT FINAL)
+    Q_PROPERTY(double disabled MEMBER disabled CONSTANT FINAL)
+    Q_PROPERTY(double low MEMBER low CONSTANT FINAL)
+    Q_PROPERTY(double mediumLow MEMBER mediumLow CONSTANT FINAL)
+    Q_PROPERTY(double medium MEMBER medium CONSTANT FINAL)
+    Q_PROPERTY(double mediumHigh MEMBER mediumHigh CONSTANT FINAL)
+    Q_PROPERTY(double high MEMBER high CONSTANT FINAL)
 
-    double disabled_ = opacity::disabled, low_ = opacity::low, mediumLow_ = opacity::mediumLow,
-           medium_ = opacity::medium, mediumHigh_ = opacity::mediumHigh, high_ = opacity::high;
+public:
+    static constexpr double disabled = 0.12;
+    static constexpr double low = 0.16;
+    static constexpr double mediumLow = 0.32;
+    static constexpr double medium = 0.56;
+    static constexpr double mediumHigh = 0.80;
+    static constexpr double high = 0.92;
 };
 
-/// Durations in milliseconds, and whether anything but opacity may move.
+/// How long things take to move, in milliseconds, and whether anything but opacity may.
 class KelMotion : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    Q_PROPERTY(int press MEMBER press_ CONSTANT FINAL)
-    Q_PROPERTY(int panel MEMBER panel_ CONSTANT FINAL)
-    Q_PROPERTY(int dialogIn MEMBER dialogIn_ CONSTANT FINAL)
-    Q_PROPERTY(int dialogOut MEMBER dialogOut_ CONSTANT FINAL)
-    Q_PROPERTY(int page MEMBER page_ CONSTANT FINAL)
+    Q_PROPERTY(int press MEMBER press CONSTANT FINAL)
+    Q_PROPERTY(int panel MEMBER panel CONSTANT FINAL)
+    Q_PROPERTY(int dialogIn MEMBER dialogIn CONSTANT FINAL)
+    Q_PROPERTY(int dialogOut MEMBER dialogOut CONSTANT FINAL)
+    Q_PROPERTY(int page MEMBER page CONSTANT FINAL)
     Q_PROPERTY(bool reduced READ isReduced NOTIFY changed FINAL)
 
 public:
+    static constexpr int press = 80;
+    static constexpr int panel = 200;
+    static constexpr int dialogIn = 200;
+    static constexpr int dialogOut = 700;
+    static constexpr int page = 300;
+
     explicit KelMotion(QObject* parent = nullptr) : QObject(parent) {
         connect(&KelAppearance::current(), &KelAppearance::changed, this, &KelMotion::changed);
     }
@@ -88,10 +119,6 @@ public:
 
 Q_SIGNALS:
     void changed();
-
-private:
-    int press_ = motion::press, panel_ = motion::panel, dialogIn_ = motion::dialogIn,
-        dialogOut_ = motion::dialogOut, page_ = motion::page;
 };
 
 } // namespace kel

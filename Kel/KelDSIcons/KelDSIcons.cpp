@@ -31,8 +31,6 @@ QString getIcon(int number) {
         return QChar(0xe5cd);
     case KelIconNumber::expandMore:
         return QChar(0xe5cf);
-    case KelIconNumber::expandLess:
-        return QChar(0xe5ce);
     case KelIconNumber::arrowBack:
         return QChar(0xe5c4);
     case KelIconNumber::share:

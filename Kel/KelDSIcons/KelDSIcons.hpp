@@ -16,7 +16,6 @@ enum class KelIconNumber {
     schedule = 303,
     close = 304,
     expandMore = 305,
-    expandLess = 306,
     arrowBack = 307,
     share = 308,
     home = 309,

@@ -7,11 +7,6 @@
 
 #include <utility>
 
-extern void qml_register_types_Quillet_Checkout();
-static void initCheckoutResources() {
-    Q_INIT_RESOURCE(qmake_Quillet_Checkout);
-}
-
 namespace quillet {
 
 CheckoutFactory::CheckoutFactory(std::unique_ptr<CheckoutWorkerCreating> checkoutWorkerFactory,
@@ -21,10 +16,7 @@ CheckoutFactory::CheckoutFactory(std::unique_ptr<CheckoutWorkerCreating> checkou
       configurator_(std::move(configurator)),
       navigationDelegate_(std::move(navigationDelegate)) {}
 
-std::shared_ptr<QuickViewController> CheckoutFactory::create() const {
-    initCheckoutResources();
-    qml_register_types_Quillet_Checkout();
-
+std::shared_ptr<platform::QuickViewController> CheckoutFactory::create() const {
     const auto worker = checkoutWorkerFactory_->create();
     auto viewModel = std::make_shared<CheckoutViewModel>(worker, kel::KelAnalyticsManager::shared());
     viewModel->setNavigationDelegate(navigationDelegate_);

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Platform/Screens/QuickViewController.hpp"
 #include "Views/Navigation/QuilletNavigationDelegate.hpp"
-#include "Views/Screen/QuickViewController.hpp"
 #include "Workers/CheckoutWorkerCreating.hpp"
 
 #include <memory>
@@ -21,7 +21,7 @@ class CheckoutCreating {
 public:
     virtual ~CheckoutCreating() = default;
     /// A new screen, fully wired, its back button hidden. It checks out once it has loaded. Main thread only.
-    [[nodiscard]] virtual std::shared_ptr<QuickViewController> create() const = 0;
+    [[nodiscard]] virtual std::shared_ptr<platform::QuickViewController> create() const = 0;
 };
 
 /// Assembles the checkout: worker, view model, router with its three result factories, and screen.
@@ -31,7 +31,7 @@ public:
                     std::unique_ptr<CheckoutConfiguring> configurator,
                     std::weak_ptr<QuilletNavigationDelegate> navigationDelegate);
 
-    [[nodiscard]] std::shared_ptr<QuickViewController> create() const override;
+    [[nodiscard]] std::shared_ptr<platform::QuickViewController> create() const override;
 
 private:
     std::unique_ptr<CheckoutWorkerCreating> checkoutWorkerFactory_;

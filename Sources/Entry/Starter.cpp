@@ -1,12 +1,12 @@
 #include "Entry/Starter.hpp"
 
 #include "Entry/BuildSettings.hpp"
-#include "Entry/MainQueuePump.hpp"
 #include "Entry/QuilletConfiguration.hpp"
 #include "Network/Token/HmacSha256Scrivener.hpp"
+#include "Platform/Screens/MainQueuePump.hpp"
+#include "Platform/Screens/NavigationController.hpp"
 #include "SaleSummary/SaleSummaryFactory.hpp"
 #include "Views/QuilletViews.hpp"
-#include "Views/Screen/NavigationController.hpp"
 
 #include <QQmlEngine>
 
@@ -51,18 +51,18 @@ Starter::Starter(Authorization authorization, CartForConsultant cart, std::strin
       domainUrl_(std::move(domainUrl)),
       navigationDelegate_(std::move(navigationDelegate)) {}
 
-std::shared_ptr<QuickViewController> Starter::createRootViewController() const {
+std::shared_ptr<platform::QuickViewController> Starter::createRootViewController() const {
     return SaleSummaryFactory(cart_, authorization_, domainUrl_, std::make_unique<SaleSummaryConfigurator>(),
                               navigationDelegate_)
         .createViewController();
 }
 
-bool present(const std::shared_ptr<QuickViewController>& screen, QQuickItem& stackView) {
-    pumpMainQueue();
+bool present(const std::shared_ptr<platform::QuickViewController>& screen, QQuickItem& stackView) {
+    platform::pumpMainQueue();
     if (QQmlEngine* engine = qmlEngine(&stackView)) {
         useQuilletViews(*engine);
     }
-    return NavigationController::of(stackView).push(screen);
+    return platform::NavigationController::of(stackView).push(screen);
 }
 
 } // namespace quillet

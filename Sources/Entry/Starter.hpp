@@ -3,8 +3,8 @@
 #include "Models/CartForConsultant.hpp"
 #include "Network/Token/Authorization.hpp"
 #include "Network/Token/JWTCreator.hpp"
+#include "Platform/Screens/QuickViewController.hpp"
 #include "Views/Navigation/QuilletNavigationDelegate.hpp"
-#include "Views/Screen/QuickViewController.hpp"
 
 #include <expected>
 #include <memory>
@@ -27,7 +27,7 @@ public:
            const std::shared_ptr<QuilletNavigationDelegate>& navigationDelegate);
 
     /// A new, independent root screen at each call, for `present`.
-    [[nodiscard]] std::shared_ptr<QuickViewController> createRootViewController() const;
+    [[nodiscard]] std::shared_ptr<platform::QuickViewController> createRootViewController() const;
 
     [[nodiscard]] const Authorization& authorization() const { return authorization_; }
     [[nodiscard]] const CartForConsultant& cart() const { return cart_; }
@@ -50,6 +50,6 @@ private:
 /// there as well. The host's bar binds to `title` and `hidesBackButton` of the current item's
 /// `viewController`. Returns false, with the reason in the log, if the screen could not be shown. Main thread
 /// only.
-bool present(const std::shared_ptr<QuickViewController>& screen, QQuickItem& stackView);
+bool present(const std::shared_ptr<platform::QuickViewController>& screen, QQuickItem& stackView);
 
 } // namespace quillet

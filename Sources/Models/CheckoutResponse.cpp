@@ -1,6 +1,6 @@
 #include "Models/CheckoutResponse.hpp"
 
-#include "Models/Json/Decoder.hpp"
+#include "Platform/Json/Decoder.hpp"
 
 namespace quillet {
 
@@ -14,19 +14,19 @@ struct ReceivedVerdict {
 } // namespace
 
 template <>
-inline constexpr auto jsonFields<ReceivedVerdict> =
-    std::tuple{json::Field{"message", &ReceivedVerdict::message}};
+inline constexpr auto platform::jsonFields<ReceivedVerdict> =
+    std::tuple{platform::json::Field{"message", &ReceivedVerdict::message}};
 
 std::expected<CheckoutResponse, CheckoutResponse::Error>
 CheckoutResponse::create(const std::optional<std::string>& data) {
     if (!data) {
         return std::unexpected(CodingError::emptyData);
     }
-    auto response = json::decode<CheckoutResponse>(*data);
+    auto response = platform::json::decode<CheckoutResponse>(*data);
     if (!response && response.error().path == "message") {
         // A text that is no verdict has an error of its own, which repeats that text, as decoding errors
         // never do.
-        const auto received = json::decode<ReceivedVerdict>(*data);
+        const auto received = platform::json::decode<ReceivedVerdict>(*data);
         if (received) {
             return std::unexpected(checkoutResponseMessage(received->message).error());
         }

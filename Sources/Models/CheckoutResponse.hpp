@@ -2,10 +2,10 @@
 
 #include "Models/CheckoutResponseMessage.hpp"
 #include "Models/Consultant.hpp"
-#include "Models/DecodingError.hpp"
-#include "Models/Json/Field.hpp"
 #include "Models/Product.hpp"
 #include "Models/Summary.hpp"
+#include "Platform/Json/DecodingError.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <expected>
 #include <optional>
@@ -19,7 +19,7 @@ namespace quillet {
 struct CheckoutResponse {
     /// The reply had no body at all.
     enum class CodingError { emptyData };
-    using Error = std::variant<CodingError, CheckoutResponseMessageCodingError, DecodingError>;
+    using Error = std::variant<CodingError, CheckoutResponseMessageCodingError, platform::DecodingError>;
 
     /// Identifier of the order that the checkout produced.
     std::string submittedOrderId;
@@ -39,12 +39,12 @@ struct CheckoutResponse {
 };
 
 template <>
-inline constexpr auto jsonFields<CheckoutResponse> = std::tuple{
-    json::Field{"submittedOrderId", &CheckoutResponse::submittedOrderId},
-    json::Field{"consultant", &CheckoutResponse::consultant},
-    json::Field{"message", &CheckoutResponse::message},
-    json::Field{"summary", &CheckoutResponse::summary},
-    json::Field{"products", &CheckoutResponse::products},
+inline constexpr auto platform::jsonFields<CheckoutResponse> = std::tuple{
+    platform::json::Field{"submittedOrderId", &CheckoutResponse::submittedOrderId},
+    platform::json::Field{"consultant", &CheckoutResponse::consultant},
+    platform::json::Field{"message", &CheckoutResponse::message},
+    platform::json::Field{"summary", &CheckoutResponse::summary},
+    platform::json::Field{"products", &CheckoutResponse::products},
 };
 
 } // namespace quillet

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Models/Json/TextForm.hpp"
+#include "Platform/Json/TextForm.hpp"
 
 #include <expected>
 #include <optional>
@@ -34,7 +34,7 @@ struct CheckoutResponseMessageCodingError {
 checkoutResponseMessage(std::string_view text);
 
 template <>
-struct json::TextForm<CheckoutResponseMessage> {
+struct platform::json::TextForm<CheckoutResponseMessage> {
     static constexpr std::string_view expected = "verdict";
     static std::optional<CheckoutResponseMessage> read(std::string_view text) {
         const auto message = checkoutResponseMessage(text);

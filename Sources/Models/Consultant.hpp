@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Models/Cycle.hpp"
-#include "Models/Json/Field.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <cstdint>
 #include <optional>
@@ -19,9 +19,9 @@ struct Consultant {
 };
 
 template <>
-inline constexpr auto jsonFields<Consultant> = std::tuple{
-    json::Field{"id", &Consultant::identifier},
-    json::Field{"cycle", &Consultant::cycle},
+inline constexpr auto platform::jsonFields<Consultant> = std::tuple{
+    platform::json::Field{"id", &Consultant::identifier},
+    platform::json::Field{"cycle", &Consultant::cycle},
 };
 
 } // namespace quillet

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Models/Date.hpp"
-#include "Models/Json/Field.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <cstdint>
 #include <string>
@@ -25,10 +25,10 @@ struct Cycle {
 };
 
 template <>
-inline constexpr auto jsonFields<Cycle> = std::tuple{
-    json::Field{"code", &Cycle::code},
-    json::Field{"startDate", &Cycle::startDate},
-    json::Field{"endDate", &Cycle::endDate},
+inline constexpr auto platform::jsonFields<Cycle> = std::tuple{
+    platform::json::Field{"code", &Cycle::code},
+    platform::json::Field{"startDate", &Cycle::startDate},
+    platform::json::Field{"endDate", &Cycle::endDate},
 };
 
 } // namespace quillet

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Models/Json/TextForm.hpp"
+#include "Platform/Json/TextForm.hpp"
 
 #include <chrono>
 #include <optional>
@@ -18,7 +18,7 @@ using Date = std::chrono::sys_time<std::chrono::milliseconds>;
 [[nodiscard]] std::optional<Date> iso8601Full(std::string_view text);
 
 template <>
-struct json::TextForm<Date> {
+struct platform::json::TextForm<Date> {
     static constexpr std::string_view expected = "date of the form yyyy-MM-dd'T'HH:mm:ss.SSSZ";
     static std::optional<Date> read(std::string_view text) { return iso8601Full(text); }
 };

@@ -1,6 +1,6 @@
 #include "Models/OpenOrdersResponse.hpp"
 
-#include "Models/Json/Decoder.hpp"
+#include "Platform/Json/Decoder.hpp"
 
 namespace quillet {
 
@@ -9,7 +9,7 @@ OpenOrdersResponse::create(const std::optional<std::string>& data) {
     if (!data) {
         return std::unexpected(CodingError::emptyData);
     }
-    return json::decode<OpenOrdersResponse>(*data);
+    return platform::json::decode<OpenOrdersResponse>(*data);
 }
 
 } // namespace quillet

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Models/Consultant.hpp"
-#include "Models/DecodingError.hpp"
-#include "Models/Json/Field.hpp"
 #include "Models/Order.hpp"
+#include "Platform/Json/DecodingError.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <expected>
 #include <optional>
@@ -17,7 +17,7 @@ namespace quillet {
 struct OpenOrdersResponse {
     /// The reply had no body at all.
     enum class CodingError { emptyData };
-    using Error = std::variant<CodingError, DecodingError>;
+    using Error = std::variant<CodingError, platform::DecodingError>;
 
     Consultant consultant;
     /// In the order received.
@@ -32,9 +32,9 @@ struct OpenOrdersResponse {
 };
 
 template <>
-inline constexpr auto jsonFields<OpenOrdersResponse> = std::tuple{
-    json::Field{"consultant", &OpenOrdersResponse::consultant},
-    json::Field{"carts", &OpenOrdersResponse::openOrders},
+inline constexpr auto platform::jsonFields<OpenOrdersResponse> = std::tuple{
+    platform::json::Field{"consultant", &OpenOrdersResponse::consultant},
+    platform::json::Field{"carts", &OpenOrdersResponse::openOrders},
 };
 
 } // namespace quillet

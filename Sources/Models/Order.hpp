@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Models/Date.hpp"
-#include "Models/Decimal.hpp"
-#include "Models/Json/Field.hpp"
 #include "Models/OrderItem.hpp"
+#include "Platform/Json/Decimal.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <cstdint>
 #include <string>
@@ -26,10 +26,10 @@ struct Order {
     std::uint64_t totalItems = 0;
     /// Points of the whole cart.
     std::uint64_t totalPoints = 0;
-    Decimal total;
-    Decimal regularItemsProfit;
-    Decimal benefitItemsProfit;
-    Decimal totalProfit;
+    platform::Decimal total;
+    platform::Decimal regularItemsProfit;
+    platform::Decimal benefitItemsProfit;
+    platform::Decimal totalProfit;
     /// The cycle of the magazine in which the order was made.
     std::string magazineCycle;
     /// The lines, in the order received.
@@ -40,23 +40,23 @@ struct Order {
 };
 
 template <>
-inline constexpr auto jsonFields<Order> = std::tuple{
-    json::Field{"cartNumber", &Order::cartNumber},
-    json::Field{"cartUuid", &Order::uuid},
-    json::Field{"status", &Order::status},
-    json::Field{"type", &Order::type},
-    json::Field{"createdAt", &Order::createdAt},
-    json::Field{"totalRegularItems", &Order::totalRegularItems},
-    json::Field{"totalBenefitItems", &Order::totalBenefitItems},
-    json::Field{"totalItems", &Order::totalItems},
-    json::Field{"totalPoints", &Order::totalPoints},
-    json::Field{"cartTotal", &Order::total},
-    json::Field{"regularItemsProfit", &Order::regularItemsProfit},
-    json::Field{"benefitItemsProfit", &Order::benefitItemsProfit},
-    json::Field{"totalProfit", &Order::totalProfit},
-    json::Field{"magazineCycle", &Order::magazineCycle},
-    json::Field{"regularItems", &Order::regularItems},
-    json::Field{"benefitItems", &Order::benefitItems},
+inline constexpr auto platform::jsonFields<Order> = std::tuple{
+    platform::json::Field{"cartNumber", &Order::cartNumber},
+    platform::json::Field{"cartUuid", &Order::uuid},
+    platform::json::Field{"status", &Order::status},
+    platform::json::Field{"type", &Order::type},
+    platform::json::Field{"createdAt", &Order::createdAt},
+    platform::json::Field{"totalRegularItems", &Order::totalRegularItems},
+    platform::json::Field{"totalBenefitItems", &Order::totalBenefitItems},
+    platform::json::Field{"totalItems", &Order::totalItems},
+    platform::json::Field{"totalPoints", &Order::totalPoints},
+    platform::json::Field{"cartTotal", &Order::total},
+    platform::json::Field{"regularItemsProfit", &Order::regularItemsProfit},
+    platform::json::Field{"benefitItemsProfit", &Order::benefitItemsProfit},
+    platform::json::Field{"totalProfit", &Order::totalProfit},
+    platform::json::Field{"magazineCycle", &Order::magazineCycle},
+    platform::json::Field{"regularItems", &Order::regularItems},
+    platform::json::Field{"benefitItems", &Order::benefitItems},
 };
 
 } // namespace quillet

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Models/Decimal.hpp"
-#include "Models/Json/Field.hpp"
+#include "Platform/Json/Decimal.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <cstdint>
 #include <string>
@@ -20,17 +20,17 @@ struct OrderItem {
     /// Points of the line.
     std::uint64_t totalPoints = 0;
     /// Price of the line.
-    Decimal totalPrice;
+    platform::Decimal totalPrice;
     /// Profit on the line.
-    Decimal totalProfit;
+    platform::Decimal totalProfit;
     bool choosable = false;
     /// Units ordered.
     std::uint64_t amount = 0;
     std::uint64_t magazineAmount = 0;
     /// Price of one unit.
-    Decimal unitPrice;
+    platform::Decimal unitPrice;
     /// Profit on one unit.
-    Decimal unitProfit;
+    platform::Decimal unitProfit;
     /// Address of the product's picture; kept as text, never checked.
     std::string imageUrl;
     bool isKit = false;
@@ -39,21 +39,21 @@ struct OrderItem {
 };
 
 template <>
-inline constexpr auto jsonFields<OrderItem> = std::tuple{
-    json::Field{"productCode", &OrderItem::productCode},
-    json::Field{"origin", &OrderItem::origin},
-    json::Field{"productDescription", &OrderItem::productDescription},
-    json::Field{"unitPoints", &OrderItem::unitPoints},
-    json::Field{"totalPoints", &OrderItem::totalPoints},
-    json::Field{"totalPrice", &OrderItem::totalPrice},
-    json::Field{"totalProfit", &OrderItem::totalProfit},
-    json::Field{"choosable", &OrderItem::choosable},
-    json::Field{"amount", &OrderItem::amount},
-    json::Field{"magazineAmount", &OrderItem::magazineAmount},
-    json::Field{"unitPrice", &OrderItem::unitPrice},
-    json::Field{"unitProfit", &OrderItem::unitProfit},
-    json::Field{"imageUrl", &OrderItem::imageUrl},
-    json::Field{"isKit", &OrderItem::isKit},
+inline constexpr auto platform::jsonFields<OrderItem> = std::tuple{
+    platform::json::Field{"productCode", &OrderItem::productCode},
+    platform::json::Field{"origin", &OrderItem::origin},
+    platform::json::Field{"productDescription", &OrderItem::productDescription},
+    platform::json::Field{"unitPoints", &OrderItem::unitPoints},
+    platform::json::Field{"totalPoints", &OrderItem::totalPoints},
+    platform::json::Field{"totalPrice", &OrderItem::totalPrice},
+    platform::json::Field{"totalProfit", &OrderItem::totalProfit},
+    platform::json::Field{"choosable", &OrderItem::choosable},
+    platform::json::Field{"amount", &OrderItem::amount},
+    platform::json::Field{"magazineAmount", &OrderItem::magazineAmount},
+    platform::json::Field{"unitPrice", &OrderItem::unitPrice},
+    platform::json::Field{"unitProfit", &OrderItem::unitProfit},
+    platform::json::Field{"imageUrl", &OrderItem::imageUrl},
+    platform::json::Field{"isKit", &OrderItem::isKit},
 };
 
 } // namespace quillet

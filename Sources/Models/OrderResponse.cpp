@@ -1,6 +1,6 @@
 #include "Models/OrderResponse.hpp"
 
-#include "Models/Json/Decoder.hpp"
+#include "Platform/Json/Decoder.hpp"
 
 namespace quillet {
 
@@ -9,7 +9,7 @@ OrderResponse::create(const std::optional<std::string>& data) {
     if (!data) {
         return std::unexpected(ResponseCodingError::emptyData);
     }
-    return json::decode<std::optional<OrderResponse>>(*data);
+    return platform::json::decode<std::optional<OrderResponse>>(*data);
 }
 
 } // namespace quillet

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "Models/Consultant.hpp"
-#include "Models/DecodingError.hpp"
-#include "Models/Json/Field.hpp"
 #include "Models/Order.hpp"
 #include "Models/ResponseCodingError.hpp"
+#include "Platform/Json/DecodingError.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <expected>
 #include <optional>
@@ -15,7 +15,7 @@ namespace quillet {
 
 /// Body of the answer to associating a consultant with a cart.
 struct OrderResponse {
-    using Error = std::variant<ResponseCodingError, DecodingError>;
+    using Error = std::variant<ResponseCodingError, platform::DecodingError>;
 
     Consultant consultant;
     Order order;
@@ -29,9 +29,9 @@ struct OrderResponse {
 };
 
 template <>
-inline constexpr auto jsonFields<OrderResponse> = std::tuple{
-    json::Field{"consultant", &OrderResponse::consultant},
-    json::Field{"cart", &OrderResponse::order},
+inline constexpr auto platform::jsonFields<OrderResponse> = std::tuple{
+    platform::json::Field{"consultant", &OrderResponse::consultant},
+    platform::json::Field{"cart", &OrderResponse::order},
 };
 
 } // namespace quillet

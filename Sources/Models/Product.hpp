@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Models/Decimal.hpp"
-#include "Models/Json/Field.hpp"
 #include "Models/ProductErrorStatus.hpp"
+#include "Platform/Json/Decimal.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <cstdint>
 #include <optional>
@@ -19,7 +19,7 @@ struct Product {
     /// Number of units.
     std::uint64_t quantity = 0;
     /// Price of all units.
-    Decimal totalPrice;
+    platform::Decimal totalPrice;
     /// Points of one unit; absent when the back end sends none.
     std::optional<std::uint64_t> unitPoints;
     /// Points of all units.
@@ -29,11 +29,14 @@ struct Product {
 };
 
 template <>
-inline constexpr auto jsonFields<Product> = std::tuple{
-    json::Field{"productCode", &Product::productCode}, json::Field{"description", &Product::description},
-    json::Field{"status", &Product::status},           json::Field{"quantity", &Product::quantity},
-    json::Field{"totalPrice", &Product::totalPrice},   json::Field{"unitPoints", &Product::unitPoints},
-    json::Field{"totalPoints", &Product::totalPoints},
+inline constexpr auto platform::jsonFields<Product> = std::tuple{
+    platform::json::Field{"productCode", &Product::productCode},
+    platform::json::Field{"description", &Product::description},
+    platform::json::Field{"status", &Product::status},
+    platform::json::Field{"quantity", &Product::quantity},
+    platform::json::Field{"totalPrice", &Product::totalPrice},
+    platform::json::Field{"unitPoints", &Product::unitPoints},
+    platform::json::Field{"totalPoints", &Product::totalPoints},
 };
 
 } // namespace quillet

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Models/Json/TextForm.hpp"
+#include "Platform/Json/TextForm.hpp"
 
 #include <optional>
 #include <string_view>
@@ -24,7 +24,7 @@ enum class ProductErrorStatus {
 [[nodiscard]] ProductErrorStatus productErrorStatus(std::string_view text);
 
 template <>
-struct json::TextForm<ProductErrorStatus> {
+struct platform::json::TextForm<ProductErrorStatus> {
     static constexpr std::string_view expected = "text";
     static std::optional<ProductErrorStatus> read(std::string_view text) { return productErrorStatus(text); }
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Models/Json/Field.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <cstdint>
 
@@ -23,14 +23,14 @@ struct Summary {
 };
 
 template <>
-inline constexpr auto jsonFields<Summary> = std::tuple{
-    json::Field{"allItems", &Summary::allItems},
-    json::Field{"errorItems", &Summary::errorItems},
-    json::Field{"addedItems", &Summary::addedItems},
-    json::Field{"allPoints", &Summary::allPoints},
-    json::Field{"addedPoints", &Summary::addedPoints},
-    json::Field{"addedProducts", &Summary::addedProducts},
-    json::Field{"errorProducts", &Summary::errorProducts},
+inline constexpr auto platform::jsonFields<Summary> = std::tuple{
+    platform::json::Field{"allItems", &Summary::allItems},
+    platform::json::Field{"errorItems", &Summary::errorItems},
+    platform::json::Field{"addedItems", &Summary::addedItems},
+    platform::json::Field{"allPoints", &Summary::allPoints},
+    platform::json::Field{"addedPoints", &Summary::addedPoints},
+    platform::json::Field{"addedProducts", &Summary::addedProducts},
+    platform::json::Field{"errorProducts", &Summary::errorProducts},
 };
 
 } // namespace quillet

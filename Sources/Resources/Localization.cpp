@@ -38,6 +38,8 @@ QUILLET_TEXT(toAddProductsAskCustomerCreateOrderAgain,
              "If you want to add the products to the shopping cart, ask your customer to access the "
              "interactive digital magazine again and create a new order.")
 QUILLET_TEXT(shareMagazine, "Share Magazine")
+QUILLET_TEXT(close, "Close")
+QUILLET_TEXT(loading, "Loading")
 
 #undef QUILLET_TEXT
 

@@ -30,6 +30,9 @@ struct Localization {
     static const QString& anotherConsultantRegisteredOrderEarlier();
     static const QString& toAddProductsAskCustomerCreateOrderAgain();
     static const QString& shareMagazine();
+    /// For those who hear a screen rather than see it.
+    static const QString& close();
+    static const QString& loading();
 
     /// "Code: " and the product's code.
     static QString code(quint64 productCode);

@@ -1,7 +1,6 @@
 #include "SaleSummary/SaleSummaryFactory.hpp"
 
 #include "KelCommon/KelAnalyticsManager.hpp"
-#include "SaleSummary/SaleSummaryQml.hpp"
 #include "SaleSummary/Screen/SaleSummaryRouter.hpp"
 #include "SaleSummary/Screen/SaleSummaryViewController.hpp"
 #include "SaleSummary/UseCases/SaleSummaryUseCaseFactory.hpp"
@@ -24,9 +23,7 @@ SaleSummaryFactory::SaleSummaryFactory(CartForConsultant cart, Authorization aut
       configurator_(std::move(configurator)),
       navigationDelegate_(std::move(navigationDelegate)) {}
 
-std::shared_ptr<QuickViewController> SaleSummaryFactory::createViewController() const {
-    useSaleSummaryQml();
-
+std::shared_ptr<platform::QuickViewController> SaleSummaryFactory::createViewController() const {
     auto associateWorker = AssociateConsultantToCartWorker::factoryMethod(cart_.uuid, cart_.consultantId,
                                                                           domainUrl_, authorization_);
     auto openOrdersWorker =

@@ -2,8 +2,8 @@
 
 #include "Models/CartForConsultant.hpp"
 #include "Network/Token/Authorization.hpp"
+#include "Platform/Screens/QuickViewController.hpp"
 #include "Views/Navigation/QuilletNavigationDelegate.hpp"
-#include "Views/Screen/QuickViewController.hpp"
 
 #include <memory>
 #include <string>
@@ -23,7 +23,7 @@ class SaleSummaryFactoryCreating {
 public:
     virtual ~SaleSummaryFactoryCreating() = default;
     /// A new, independent screen, ready to be pushed. Main thread only.
-    [[nodiscard]] virtual std::shared_ptr<QuickViewController> createViewController() const = 0;
+    [[nodiscard]] virtual std::shared_ptr<platform::QuickViewController> createViewController() const = 0;
 };
 
 /// Assembles the sale summary: workers, view model, router and screen.
@@ -34,7 +34,7 @@ public:
                        std::unique_ptr<SaleSummaryConfiguring> configurator,
                        std::weak_ptr<QuilletNavigationDelegate> navigationDelegate);
 
-    [[nodiscard]] std::shared_ptr<QuickViewController> createViewController() const override;
+    [[nodiscard]] std::shared_ptr<platform::QuickViewController> createViewController() const override;
 
 private:
     CartForConsultant cart_;

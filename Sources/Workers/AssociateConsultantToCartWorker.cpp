@@ -23,7 +23,7 @@ std::shared_ptr<AssociateConsultantToCartWorker>
 AssociateConsultantToCartWorker::factoryMethod(std::string cartUUID, std::uint64_t consultantId,
                                                std::string domainUrl, Authorization authorization) {
     auto service = std::make_unique<SellOutCartService>(
-        std::make_shared<URLSessionWrapper>(std::make_shared<URLSession>()),
+        std::make_shared<URLSessionWrapper>(std::make_shared<platform::URLSession>()),
         std::make_shared<URLRequestFactory>(), std::move(domainUrl), std::make_shared<HttpErrorFactory>(),
         std::make_shared<UrlCreator>(), std::move(authorization));
     return std::make_shared<AssociateConsultantToCartWorker>(

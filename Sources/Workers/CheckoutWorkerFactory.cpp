@@ -21,7 +21,7 @@ CheckoutWorkerFactory::CheckoutWorkerFactory(std::string country, std::uint64_t 
 std::shared_ptr<CheckoutWorker> CheckoutWorkerFactory::create() const {
     auto service = std::make_unique<SellOutCartCheckoutService>(
         authorization_, country_, consultantId_, domainUrl_, std::make_shared<URLRequestFactory>(),
-        std::make_shared<URLSessionWrapper>(std::make_shared<URLSession>()),
+        std::make_shared<URLSessionWrapper>(std::make_shared<platform::URLSession>()),
         std::make_shared<HttpErrorFactory>(), std::make_shared<UrlCreator>());
     return std::make_shared<CheckoutWorker>(std::move(service), std::make_unique<DispatchMainQueueWrapper>());
 }

@@ -22,7 +22,7 @@ std::shared_ptr<GetOpenOrdersWorker> GetOpenOrdersWorkerFactory::create() const 
     auto service = std::make_unique<SellOutCartsStatusOpenService>(
         domainUrl_, SellOutCartsStatusOpenServiceParameters{country_, consultantId_},
         std::make_shared<URLRequestFactory>(), jwtAuthorization_,
-        std::make_shared<URLSessionWrapper>(std::make_shared<URLSession>()),
+        std::make_shared<URLSessionWrapper>(std::make_shared<platform::URLSession>()),
         std::make_shared<HttpErrorFactory>(), std::make_shared<UrlCreator>());
     return std::make_shared<GetOpenOrdersWorker>(std::move(service),
                                                  std::make_unique<DispatchMainQueueWrapper>());

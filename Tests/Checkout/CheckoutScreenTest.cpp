@@ -1,10 +1,10 @@
 #include "Checkout/CheckoutFactory.hpp"
 #include "KelCommon/KelAnalyticsManager.hpp"
+#include "Platform/Screens/NavigationController.hpp"
 #include "Support/FakeHost.hpp"
 #include "Support/FakeWorkerCollaborators.hpp"
 #include "Support/Stage.hpp"
 #include "Views/QuilletViews.hpp"
-#include "Views/Screen/NavigationController.hpp"
 #include "Workers/CheckoutWorker.hpp"
 
 #include <QPointer>
@@ -21,7 +21,8 @@ using ::testing::IsEmpty;
 /// Makes real workers whose service and main queue are the test's.
 class WorkerFactory final : public CheckoutWorkerCreating {
 public:
-    WorkerFactory(std::shared_ptr<Conversation<CheckoutResult>> talk, std::shared_ptr<MainQueue> queue,
+    WorkerFactory(std::shared_ptr<Conversation<CheckoutResult>> talk,
+                  std::shared_ptr<platform::MainQueue> queue,
                   std::vector<std::weak_ptr<CheckoutWorker>>& made)
         : talk_(std::move(talk)), queue_(std::move(queue)), made_(made) {}
     [[nodiscard]] std::shared_ptr<CheckoutWorker> create() const override {
@@ -33,7 +34,7 @@ public:
 
 private:
     std::shared_ptr<Conversation<CheckoutResult>> talk_;
-    std::shared_ptr<MainQueue> queue_;
+    std::shared_ptr<platform::MainQueue> queue_;
     std::vector<std::weak_ptr<CheckoutWorker>>& made_;
 };
 
@@ -58,11 +59,11 @@ struct CheckoutScreen : ::testing::Test {
         EXPECT_THAT(stage.complaints(), IsEmpty());
     }
 
-    std::weak_ptr<QuickViewController> open() {
+    std::weak_ptr<platform::QuickViewController> open() {
         const auto screen = CheckoutFactory(std::make_unique<WorkerFactory>(talk, queue, workers),
                                             std::make_unique<CheckoutConfigurator>(), host)
                                 .create();
-        EXPECT_TRUE(NavigationController::of(stage.stack()).push(screen));
+        EXPECT_TRUE(platform::NavigationController::of(stage.stack()).push(screen));
         return screen;
     }
 
@@ -85,7 +86,7 @@ struct CheckoutScreen : ::testing::Test {
 
     Log log = makeLog();
     std::shared_ptr<FakeNavigation> host = std::make_shared<FakeNavigation>(log);
-    std::shared_ptr<MainQueue> queue = std::make_shared<MainQueue>();
+    std::shared_ptr<platform::MainQueue> queue = std::make_shared<platform::MainQueue>();
     std::shared_ptr<Conversation<CheckoutResult>> talk = std::make_shared<Conversation<CheckoutResult>>();
     std::vector<std::weak_ptr<CheckoutWorker>> workers;
     Stage stage;

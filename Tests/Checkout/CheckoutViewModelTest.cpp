@@ -44,7 +44,7 @@ struct CheckoutViewModelTest : ::testing::Test {
 
     Log log = makeLog();
     std::shared_ptr<Conversation<CheckoutResult>> talk = std::make_shared<Conversation<CheckoutResult>>();
-    std::shared_ptr<MainQueue> queue = std::make_shared<MainQueue>();
+    std::shared_ptr<platform::MainQueue> queue = std::make_shared<platform::MainQueue>();
     std::shared_ptr<CheckoutWorker> worker = std::make_shared<CheckoutWorker>(
         std::make_unique<FakeCheckoutService>(talk), std::make_unique<DrainedQueue>(queue));
     std::shared_ptr<FakeNavigation> host = std::make_shared<FakeNavigation>(log);
@@ -75,9 +75,9 @@ TEST_F(CheckoutViewModelTest, RoutesByTheVerdictAndLooksAtTheStatusForErrorsOnly
         {verdict(cartSubmittedError, 200), generic},
         {verdict(cartSubmittedError, 0), generic},
         {{verdict(cartSubmittedError, 422).checkoutResponse, HttpStatusCodeError{422}, 422}, none},
-        {{verdict(cartSubmittedSuccess, 0).checkoutResponse, URLError{}, 0}, all},
+        {{verdict(cartSubmittedSuccess, 0).checkoutResponse, platform::URLError{}, 0}, all},
         {failure(), generic},
-        {{{}, URLError{URLError::Code::notConnectedToInternet, ""}, 0}, generic},
+        {{{}, platform::URLError{platform::URLError::Code::notConnectedToInternet, ""}, 0}, generic},
         {{{}, {}, 200}, {}},
         {{{}, {}, 422}, {}},
     };

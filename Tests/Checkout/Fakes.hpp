@@ -48,7 +48,7 @@ public:
     void removeTryAgainView() override { log_->push_back("removeTryAgainView"); }
     [[nodiscard]] CheckoutRoutering& router() override { return router_; }
     [[nodiscard]] std::unique_ptr<ViewController> wrapped() override {
-        return std::make_unique<ViewControllerWrapper>(std::weak_ptr<QuickViewController>());
+        return std::make_unique<ViewControllerWrapper>(std::weak_ptr<platform::QuickViewController>());
     }
     [[nodiscard]] std::shared_ptr<QuilletNavigationDelegate> navigationDelegate() const override {
         return host_.lock();

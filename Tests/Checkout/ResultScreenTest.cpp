@@ -1,20 +1,15 @@
 #include "Checkout/Inputs/ResultFactories.hpp"
 #include "KelCommon/KelAnalyticsManager.hpp"
+#include "Platform/Screens/NavigationController.hpp"
 #include "Support/FakeHost.hpp"
 #include "Support/Stage.hpp"
 #include "Views/QuilletViews.hpp"
-#include "Views/Screen/NavigationController.hpp"
 
 #include <QQuickItem>
 
 #include <gmock/gmock.h>
 
 #include <limits>
-
-extern void qml_register_types_Quillet_Checkout();
-static void initCheckoutResources() {
-    Q_INIT_RESOURCE(qmake_Quillet_Checkout);
-}
 
 namespace quillet::testing {
 
@@ -50,11 +45,7 @@ private:
 };
 
 struct ResultScreen : ::testing::Test {
-    ResultScreen() {
-        initCheckoutResources();
-        qml_register_types_Quillet_Checkout();
-        useQuilletViews(*qmlEngine(&stage.stack()));
-    }
+    ResultScreen() { useQuilletViews(*qmlEngine(&stage.stack())); }
     ~ResultScreen() override { EXPECT_THAT(stage.complaints(), IsEmpty()); }
 
     /// Shows a partial result of so many products, half of them sent.
@@ -72,7 +63,7 @@ struct ResultScreen : ::testing::Test {
             std::make_unique<LoggingDisplayer>(log), std::make_shared<FakeAnalytics>(log));
         screen->setView(ProductsPartiallyAddedFactory({}).view({"05", 1, 1, 1, products, products}, *screen));
         screen->setNavigationDelegate(host);
-        ASSERT_TRUE(NavigationController::of(stage.stack()).push(screen));
+        ASSERT_TRUE(platform::NavigationController::of(stage.stack()).push(screen));
         ASSERT_TRUE(turnUntil([&] { return !stage.stack().property("busy").toBool(); }));
     }
 

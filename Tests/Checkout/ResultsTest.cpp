@@ -19,8 +19,9 @@ constexpr auto kLargest = std::numeric_limits<std::uint64_t>::max();
 template <typename Input>
 class Spy final : public ResultViewCreating<Input> {
 public:
-    explicit Spy(std::shared_ptr<std::unique_ptr<ScrollableView>> made) : made_(std::move(made)) {}
-    [[nodiscard]] std::unique_ptr<ScrollableView>
+    explicit Spy(std::shared_ptr<std::unique_ptr<ProductsCheckoutStatusView>> made)
+        : made_(std::move(made)) {}
+    [[nodiscard]] std::unique_ptr<ProductsCheckoutStatusView>
     view(Input input, ProductsCheckoutStatusViewController& screen) const override {
         *made_ = ResultViewFactory<Input>({}).view(std::move(input), screen);
         return {};
@@ -28,7 +29,7 @@ public:
     [[nodiscard]] std::weak_ptr<QuilletNavigationDelegate> navigationDelegate() const override { return {}; }
 
 private:
-    std::shared_ptr<std::unique_ptr<ScrollableView>> made_;
+    std::shared_ptr<std::unique_ptr<ProductsCheckoutStatusView>> made_;
 };
 
 Product product(std::uint64_t code, ProductErrorStatus status) {
@@ -50,16 +51,14 @@ CheckoutResponse response(std::optional<Cycle> cycle) {
 }
 
 /// The lists as they are shown: each section's title, then its products' codes.
-QStringList rows(const ScrollableView& view) {
-    const QAbstractItemModel& model = *view.contentView()->products();
+QStringList rows(const ProductsCheckoutStatusView& view) {
+    const QAbstractItemModel& model = *view.products();
     QStringList lines;
     for (int row = 0; row < model.rowCount(); ++row) {
         const QModelIndex index = model.index(row, 0);
         const bool head = index.data(ShippingStatusProductsView::IsHeadRole).toBool();
-        lines << index
-                     .data(head ? ShippingStatusProductsView::TitleRole
-                                : ShippingStatusProductsView::CodeRole)
-                     .toString();
+        lines << (head ? index.data(ShippingStatusProductsView::TitleRole).toString()
+                       : index.data(ShippingStatusProductsView::ProductRole).value<ProductRow>().code);
     }
     return lines;
 }
@@ -67,13 +66,13 @@ QStringList rows(const ScrollableView& view) {
 struct CheckoutResults : ::testing::Test {
     using Route = void (CheckoutRoutering::*)(const ViewController&, const CheckoutResponse&);
 
-    std::unique_ptr<ScrollableView> show(Route route, const CheckoutResponse& answer) {
+    std::unique_ptr<ProductsCheckoutStatusView> show(Route route, const CheckoutResponse& answer) {
         (router.*route)(ViewControllerWrapper({}), answer);
         return std::move(*made);
     }
 
-    std::shared_ptr<std::unique_ptr<ScrollableView>> made =
-        std::make_shared<std::unique_ptr<ScrollableView>>();
+    std::shared_ptr<std::unique_ptr<ProductsCheckoutStatusView>> made =
+        std::make_shared<std::unique_ptr<ProductsCheckoutStatusView>>();
     CheckoutRouter router{std::make_unique<Spy<AllProductsAddedFactoryInput>>(made),
                           std::make_unique<Spy<ProductsPartiallyAddedFactoryInput>>(made),
                           std::make_unique<Spy<NoProductAddedFactoryInput>>(made)};
@@ -117,10 +116,10 @@ TEST_F(CheckoutResults, ShowTheSummarysCountersAndSplitTheProductsInOrder) {
     for (const auto& [route, mark, points, message, counters, products] : cases) {
         SCOPED_TRACE(message.toStdString());
         const auto view = show(route, response(Cycle{202305, {}, {}}));
-        const ProductsCheckoutStatusView& status = *view->contentView();
-        EXPECT_EQ(status.cycleLabel()->text(), "Ciclo actual: 05");
+        const ProductsCheckoutStatusView& status = *view;
+        EXPECT_EQ(status.cycleLabel()->text().plainText(), "Ciclo actual: 05");
         const auto* total = status.totalAddedProductPointsLabel();
-        EXPECT_EQ(total ? total->text() : QString(), points);
+        EXPECT_EQ(total ? total->text().plainText() : QString(), points);
         EXPECT_EQ(status.headerView()->iconView()->hasMark(), mark != kel::KelIconNumber{});
         EXPECT_EQ(status.headerView()->iconView()->markNumber(), int(mark));
         EXPECT_EQ(status.headerView()->mainMessage(), message);
@@ -133,7 +132,7 @@ TEST_F(CheckoutResults, HaveAnEmptyCycleWithoutOneAndEmptySectionsWithoutProduct
     auto answer = response(std::nullopt);
     answer.products = {product(1, ProductErrorStatus::none)};
     const auto partial = show(&CheckoutRoutering::showProductsPartiallyAdded, answer);
-    EXPECT_EQ(partial->contentView()->cycleLabel()->text(), "Ciclo actual: ");
+    EXPECT_EQ(partial->cycleLabel()->text().plainText(), "Ciclo actual: ");
     EXPECT_EQ(rows(*partial), (QStringList{"Productos enviados", "Code: 1", "Productos no enviados"}));
     EXPECT_EQ(rows(*show(&CheckoutRoutering::showNoProductAdded, answer)),
               (QStringList{"Productos no enviados"}));

@@ -1,5 +1,5 @@
-#include "Entry/MainQueuePump.hpp"
-#include "Workers/MainQueue.hpp"
+#include "Platform/Queue/MainQueue.hpp"
+#include "Platform/Screens/MainQueuePump.hpp"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
@@ -65,23 +65,23 @@ TEST(ApplicationEnd, WaitsForTheThreadThatWakesItAndLeavesTheRestToTheNextApplic
     WakeUp wakeUp;
     QCoreApplication::setEventDispatcher(new SlowDispatcher(wakeUp));
     auto application = makeApplication();
-    pumpMainQueue();
+    platform::pumpMainQueue();
     int ran = 0;
-    std::jthread session([&] { mainQueue().async([&] { ++ran; }); });
+    std::jthread session([&] { platform::mainQueue().async([&] { ++ran; }); });
     wakeUp.begun.get_future().wait();
     application.reset();
     EXPECT_FALSE(wakeUp.outlivedTheDispatcher.get_future().get());
 
-    mainQueue().async([&] { ++ran; });
+    platform::mainQueue().async([&] { ++ran; });
     EXPECT_EQ(ran, 0);
     for (const int expected : {2, 3}) {
         application = makeApplication();
-        pumpMainQueue();
-        pumpMainQueue();
+        platform::pumpMainQueue();
+        platform::pumpMainQueue();
         QCoreApplication::processEvents();
         EXPECT_EQ(ran, expected);
         application.reset();
-        mainQueue().async([&] { ++ran; });
+        platform::mainQueue().async([&] { ++ran; });
     }
 }
 

@@ -1,5 +1,5 @@
-#include "Models/Decimal.hpp"
-#include "Models/Json/Decoder.hpp"
+#include "Platform/Json/Decimal.hpp"
+#include "Platform/Json/Decoder.hpp"
 
 #include <boost/multiprecision/cpp_dec_float.hpp>
 #include <gmock/gmock.h>
@@ -9,15 +9,15 @@
 namespace quillet::tests {
 
 struct Amounts {
-    std::vector<Decimal> amounts;
+    std::vector<platform::Decimal> amounts;
 };
 
 } // namespace quillet::tests
 
 namespace quillet {
 template <>
-inline constexpr auto jsonFields<tests::Amounts> =
-    std::tuple{json::Field{"amounts", &tests::Amounts::amounts}};
+inline constexpr auto platform::jsonFields<tests::Amounts> =
+    std::tuple{platform::json::Field{"amounts", &tests::Amounts::amounts}};
 }
 
 namespace quillet::tests {
@@ -55,12 +55,12 @@ TEST(DecimalTest, EqualsAnotherLibrarysDecimalsForEveryWayToWriteThem) {
         const std::string text = randomNumber(random);
         expected.emplace_back(text);
         body += (i == 0 ? "" : i % 3 == 0 ? ", " : ",") + text;
-        const auto parsed = Decimal::parse(text);
+        const auto parsed = platform::Decimal::parse(text);
         ASSERT_TRUE(parsed) << text;
         ASSERT_EQ(Oracle(parsed->toString()), expected.back()) << text;
     }
     // In a body most numbers take a shorter way than `parse`.
-    const auto decoded = json::decode<Amounts>(body + "]}");
+    const auto decoded = platform::json::decode<Amounts>(body + "]}");
     ASSERT_TRUE(decoded);
     for (std::size_t i = 0; i < expected.size(); ++i) {
         ASSERT_EQ(Oracle(decoded->amounts[i].toString()), expected[i]);
@@ -71,20 +71,20 @@ TEST(DecimalTest, EqualsAnotherLibrarysDecimalsForEveryWayToWriteThem) {
 TEST(DecimalTest, ComparesByValueAndPrintsPlainly) {
     const struct {
         std::string text;
-        Decimal value;
+        platform::Decimal value;
         std::string plain;
-    } cases[] = {
-        {"1.50", Decimal(15, -1), "1.5"},
-        {"150e-2", Decimal(15, -1), "1.5"},
-        {"-0.00", Decimal(), "0"},
-        {"0e999999999999999999999", Decimal(), "0"},
-        {"-0.05", Decimal(-5, -2), "-0.05"},
-        {"3e2", Decimal(300), "300"},
-        {"-9223372036854775808", Decimal(std::numeric_limits<std::int64_t>::min()), "-9223372036854775808"},
-        {"1" + std::string(5000, '0') + "e-5000", Decimal(1), "1"},
-        {"0." + std::string(5000, '0') + "7e5001", Decimal(7), "7"}};
+    } cases[] = {{"1.50", platform::Decimal(15, -1), "1.5"},
+                 {"150e-2", platform::Decimal(15, -1), "1.5"},
+                 {"-0.00", platform::Decimal(), "0"},
+                 {"0e999999999999999999999", platform::Decimal(), "0"},
+                 {"-0.05", platform::Decimal(-5, -2), "-0.05"},
+                 {"3e2", platform::Decimal(300), "300"},
+                 {"-9223372036854775808", platform::Decimal(std::numeric_limits<std::int64_t>::min()),
+                  "-9223372036854775808"},
+                 {"1" + std::string(5000, '0') + "e-5000", platform::Decimal(1), "1"},
+                 {"0." + std::string(5000, '0') + "7e5001", platform::Decimal(7), "7"}};
     for (const auto& [text, value, plain] : cases) {
-        EXPECT_EQ(Decimal::parse(text), value) << text;
+        EXPECT_EQ(platform::Decimal::parse(text), value) << text;
         EXPECT_EQ(value.toString(), plain) << text;
     }
 }
@@ -100,14 +100,14 @@ TEST(DecimalTest, KeepsThirtyEightDigitsAndRoundsTheRestHalfToEven) {
                                                          {digits + "2.5000001", digits + "3"},
                                                          {"0.0" + digits + "85", "0.0" + digits + "8"}};
     for (const auto& [text, rounded] : cases) {
-        EXPECT_EQ(Decimal::parse(text)->toString(), rounded) << text;
+        EXPECT_EQ(platform::Decimal::parse(text)->toString(), rounded) << text;
     }
 }
 
 TEST(DecimalTest, RefusesWhatItCannotHold) {
     for (const char* text : {"", "-", "1.", ".1", "01", "1 ", "1e", "1e10000", "1e-10000",
                              "1e99999999999999999999", "1e-99999999999999999999", "inf", "1,5", "+1"}) {
-        EXPECT_EQ(Decimal::parse(text), std::nullopt) << text;
+        EXPECT_EQ(platform::Decimal::parse(text), std::nullopt) << text;
     }
 }
 

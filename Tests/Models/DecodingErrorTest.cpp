@@ -6,7 +6,7 @@
 
 namespace quillet::tests {
 
-using Reason = DecodingError::Reason;
+using Reason = platform::DecodingError::Reason;
 
 struct Fault {
     std::string from;
@@ -23,10 +23,10 @@ void expectFaults(const std::string& body, const std::vector<Fault>& faults) {
         SCOPED_TRACE(fault.from + " -> " + fault.to);
         const auto response = Response::create(replaced(body, fault.from, fault.to));
         ASSERT_FALSE(response);
-        ASSERT_TRUE(std::holds_alternative<DecodingError>(response.error()));
-        EXPECT_EQ(std::get<DecodingError>(response.error()),
-                  (DecodingError{fault.reason, fault.path, fault.expected}))
-            << std::get<DecodingError>(response.error()).description();
+        ASSERT_TRUE(std::holds_alternative<platform::DecodingError>(response.error()));
+        EXPECT_EQ(std::get<platform::DecodingError>(response.error()),
+                  (platform::DecodingError{fault.reason, fault.path, fault.expected}))
+            << std::get<platform::DecodingError>(response.error()).description();
     }
 }
 
@@ -77,7 +77,7 @@ TEST(DecodingErrorTest, NamesThePathAndWhatWasExpectedInACheckoutBody) {
 
 TEST(DecodingErrorTest, ReportsTheFirstFieldOfTheTableWhereverItStands) {
     const auto pathOf = [](const std::string& body) {
-        return std::get<DecodingError>(OpenOrdersResponse::create(body).error()).path;
+        return std::get<platform::DecodingError>(OpenOrdersResponse::create(body).error()).path;
     };
     EXPECT_EQ(pathOf(R"({"carts":[{}],"consultant":{"id":"x","cycle":7}})"), "consultant.id");
     EXPECT_EQ(pathOf(R"({"carts":7})"), "consultant");

@@ -1,6 +1,6 @@
 #include "Models/Bodies.hpp"
 #include "Models/CheckoutResponse.hpp"
-#include "Models/Json/Decoder.hpp"
+#include "Platform/Json/Decoder.hpp"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
@@ -19,8 +19,9 @@ struct Indifferent {
 
 namespace quillet {
 template <>
-inline constexpr auto jsonFields<tests::Indifferent> = std::tuple{
-    json::Field{"text", &tests::Indifferent::text}, json::Field{"number", &tests::Indifferent::number}};
+inline constexpr auto platform::jsonFields<tests::Indifferent> =
+    std::tuple{platform::json::Field{"text", &tests::Indifferent::text},
+               platform::json::Field{"number", &tests::Indifferent::number}};
 }
 
 namespace quillet::tests {
@@ -97,9 +98,9 @@ TEST(JsonValidityTest, RefusesBadJsonAlsoWhereNobodyReads) {
         SCOPED_TRACE(value);
         for (const std::string& body : {R"({"ignored":)" + value + "}", R"({"text":)" + value + "}",
                                         R"({"number":)" + value + R"(,"z":[{}]})", value}) {
-            const auto decoded = json::decode<Indifferent>(body);
+            const auto decoded = platform::json::decode<Indifferent>(body);
             ASSERT_FALSE(decoded) << body;
-            EXPECT_EQ(decoded.error(), DecodingError()) << body;
+            EXPECT_EQ(decoded.error(), platform::DecodingError()) << body;
         }
     }
 }
@@ -124,24 +125,25 @@ TEST(JsonValidityTest, PassesOverEverythingThatJsonAllows) {
                                 "null",
                                 "\r\n\t1 "};
     for (const std::string& value : good) {
-        EXPECT_TRUE(json::decode<Indifferent>(R"({"ignored":)" + value + "}")) << value;
+        EXPECT_TRUE(platform::json::decode<Indifferent>(R"({"ignored":)" + value + "}")) << value;
     }
-    const auto text = json::decode<Indifferent>(
+    const auto text = platform::json::decode<Indifferent>(
         R"({"text":"\ud83d\ude00\u20ac\u00e9\b\f\n\r\t\/\\\"","number":-9223372036854775808})");
     EXPECT_EQ(text->text, "😀€é\b\f\n\r\t/\\\"");
     EXPECT_EQ(text->number, std::numeric_limits<std::int64_t>::min());
-    EXPECT_EQ(json::decode<Indifferent>(R"({"number":9223372036854775808})").error().expected, "integer");
+    EXPECT_EQ(platform::json::decode<Indifferent>(R"({"number":9223372036854775808})").error().expected,
+              "integer");
 }
 
 TEST(JsonValidityTest, LimitsNestingTo512) {
-    EXPECT_TRUE(json::decode<Indifferent>(nested(512)));
-    EXPECT_FALSE(json::decode<Indifferent>(nested(513)));
-    EXPECT_FALSE(json::decode<Indifferent>(std::string(1000000, '[')));
+    EXPECT_TRUE(platform::json::decode<Indifferent>(nested(512)));
+    EXPECT_FALSE(platform::json::decode<Indifferent>(nested(513)));
+    EXPECT_FALSE(platform::json::decode<Indifferent>(std::string(1000000, '[')));
     std::string objects;
     for (int i = 0; i < 100000; ++i) {
         objects += R"({"":)";
     }
-    EXPECT_FALSE(json::decode<Indifferent>(objects));
+    EXPECT_FALSE(platform::json::decode<Indifferent>(objects));
 }
 
 /// Whether the decoder takes a body for JSON must be what another validator says, whatever happened to the
@@ -149,7 +151,7 @@ TEST(JsonValidityTest, LimitsNestingTo512) {
 template <typename Response>
 void expectAgreement(const std::string& body) {
     const auto response = Response::create(body);
-    const bool valid = response || !(response.error() == typename Response::Error(DecodingError()));
+    const bool valid = response || !(response.error() == typename Response::Error(platform::DecodingError()));
     ASSERT_EQ(valid, nlohmann::json::accept(body)) << body;
 }
 

@@ -12,7 +12,8 @@ const char* forced() {
     return std::getenv("SIMDJSON_FORCE_IMPLEMENTATION");
 }
 
-/// simdjson obeys even if the processor lacks the kernel's instructions: the program would die without a word.
+/// simdjson obeys even if the processor lacks the kernel's instructions: the program would die without a
+/// word.
 class ForcedKernel : public testing::Environment {
 public:
     void SetUp() override {

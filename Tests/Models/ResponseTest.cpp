@@ -19,13 +19,13 @@ TEST(OpenOrdersResponseTest, ReadsEveryFieldExactly) {
                          .productDescription = "Máscara \"Nítida\"",
                          .unitPoints = 3,
                          .totalPoints = 6,
-                         .totalPrice = Decimal(1198, -1),
-                         .totalProfit = Decimal(3594, -2),
+                         .totalPrice = platform::Decimal(1198, -1),
+                         .totalProfit = platform::Decimal(3594, -2),
                          .choosable = false,
                          .amount = 2,
                          .magazineAmount = 2,
-                         .unitPrice = Decimal(599, -1),
-                         .unitProfit = Decimal(1797, -2),
+                         .unitPrice = platform::Decimal(599, -1),
+                         .unitProfit = platform::Decimal(1797, -2),
                          .imageUrl = "https://images.example/70712.jpg",
                          .isKit = true};
     const Order order{.cartNumber = 18446744073709551615U,
@@ -37,10 +37,10 @@ TEST(OpenOrdersResponseTest, ReadsEveryFieldExactly) {
                       .totalBenefitItems = 0,
                       .totalItems = 1,
                       .totalPoints = 6,
-                      .total = Decimal(101, -1),
-                      .regularItemsProfit = Decimal(3594, -2),
-                      .benefitItemsProfit = Decimal(),
-                      .totalProfit = Decimal(3594, -2),
+                      .total = platform::Decimal(101, -1),
+                      .regularItemsProfit = platform::Decimal(3594, -2),
+                      .benefitItemsProfit = platform::Decimal(),
+                      .totalProfit = platform::Decimal(3594, -2),
                       .magazineCycle = "202405",
                       .regularItems = {item},
                       .benefitItems = {}};
@@ -59,7 +59,7 @@ TEST(OpenOrdersResponseTest, ReadsKeysInAnyOrderWrittenInAnyWay) {
         "totalPoints":0,"totalItems":0,"totalBenefitItems":0,"totalRegularItems":0,
         "createdAt":"2024-03-05T10:20:30.456-0300","type":"","status":"","cartUuid":"","cartNumber":1e2}],"consultant":{"id":1}})";
     const auto response = OpenOrdersResponse::create(body);
-    ASSERT_TRUE(response) << std::get<DecodingError>(response.error()).description();
+    ASSERT_TRUE(response) << std::get<platform::DecodingError>(response.error()).description();
     const Order& order = response->openOrders.at(0);
     EXPECT_EQ(order.cartNumber, 100U);
     ASSERT_EQ(order.regularItems.size(), 2U);
@@ -68,12 +68,12 @@ TEST(OpenOrdersResponseTest, ReadsKeysInAnyOrderWrittenInAnyWay) {
                              .productDescription = "d",
                              .unitPoints = 0,
                              .totalPoints = 6,
-                             .totalPrice = Decimal(1),
-                             .totalProfit = Decimal(1),
+                             .totalPrice = platform::Decimal(1),
+                             .totalProfit = platform::Decimal(1),
                              .amount = 2,
                              .magazineAmount = 2,
-                             .unitPrice = Decimal(599, -1),
-                             .unitProfit = Decimal(1),
+                             .unitPrice = platform::Decimal(599, -1),
+                             .unitProfit = platform::Decimal(1),
                              .imageUrl = "i",
                              .isKit = true};
     EXPECT_EQ(order.regularItems.at(1), expected);
@@ -82,9 +82,10 @@ TEST(OpenOrdersResponseTest, ReadsKeysInAnyOrderWrittenInAnyWay) {
 TEST(OpenOrdersResponseTest, TellsAnAbsentBodyFromAnEmptyOneAndFromNull) {
     EXPECT_EQ(OpenOrdersResponse::create(std::nullopt).error(),
               OpenOrdersResponse::Error(OpenOrdersResponse::CodingError::emptyData));
-    EXPECT_EQ(OpenOrdersResponse::create("").error(), OpenOrdersResponse::Error(DecodingError()));
+    EXPECT_EQ(OpenOrdersResponse::create("").error(), OpenOrdersResponse::Error(platform::DecodingError()));
     EXPECT_EQ(OpenOrdersResponse::create("null").error(),
-              OpenOrdersResponse::Error(DecodingError{DecodingError::Reason::unexpectedValue, "", "object"}));
+              OpenOrdersResponse::Error(
+                  platform::DecodingError{platform::DecodingError::Reason::unexpectedValue, "", "object"}));
     EXPECT_TRUE(OpenOrdersResponse::create(R"({"consultant":{"id":1},"carts":[]})")->openOrders.empty());
 }
 
@@ -92,7 +93,7 @@ TEST(OrderResponseTest, ReadsNullAsAnAbsentResponse) {
     EXPECT_EQ(OrderResponse::create(std::nullopt).error(),
               OrderResponse::Error(ResponseCodingError::emptyData));
     EXPECT_EQ(OrderResponse::create(" null ").value(), std::nullopt);
-    EXPECT_EQ(OrderResponse::create("nul").error(), OrderResponse::Error(DecodingError()));
+    EXPECT_EQ(OrderResponse::create("nul").error(), OrderResponse::Error(platform::DecodingError()));
     const auto response = OrderResponse::create(orderJson);
     ASSERT_TRUE(response && *response);
     EXPECT_EQ((*response)->consultant, (Consultant{1, std::nullopt}));
@@ -108,9 +109,9 @@ TEST(CheckoutResponseTest, ReadsVerdictSummaryAndProducts) {
     EXPECT_EQ(response->consultant, (Consultant{1, std::nullopt}));
     EXPECT_EQ(response->message, CheckoutResponseMessage::cartSubmittedPartialSuccess);
     EXPECT_EQ(response->summary, (Summary{1, 2, 3, 4, 5, 6, 7}));
-    const Product added{1, "Labial", ProductErrorStatus::none, 2, Decimal(15, -1), 0, 0};
+    const Product added{1, "Labial", ProductErrorStatus::none, 2, platform::Decimal(15, -1), 0, 0};
     // A status not known here reads as not found; unit points that are not sent are absent, not 0.
-    const Product other{2, "Crema", ProductErrorStatus::notFound, 1, Decimal(2), std::nullopt, 9};
+    const Product other{2, "Crema", ProductErrorStatus::notFound, 1, platform::Decimal(2), std::nullopt, 9};
     EXPECT_EQ(response->products, (std::vector{added, other}));
 }
 
@@ -143,7 +144,7 @@ TEST(CheckoutResponseTest, RepeatsAnUnknownVerdictInAnErrorOfItsOwn) {
                   CheckoutResponseMessageCodingError{"Error decoding - \"CART_SUBMITTED_OK\"\n"}));
     // An earlier field's fault comes first.
     const auto earlier = CheckoutResponse::create(replaced(unknown, "\"A-1\"", "1"));
-    EXPECT_EQ(std::get<DecodingError>(earlier.error()).path, "submittedOrderId");
+    EXPECT_EQ(std::get<platform::DecodingError>(earlier.error()).path, "submittedOrderId");
 }
 
 } // namespace quillet::tests

@@ -1,5 +1,5 @@
 #include "Network/Errors/HttpErrorFactory.hpp"
-#include "Network/Request/JSONEncoder.hpp"
+#include "Platform/Json/JSONEncoder.hpp"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,8 @@ TEST(ServiceError, DescribesItself) {
 }
 
 TEST(ServiceError, HasAPlatformCodeOnlyWhenTheExchangeFailed) {
-    EXPECT_EQ(platformErrorCode(URLError{URLError::Code::notConnectedToInternet, ""}), -1009);
+    EXPECT_EQ(platformErrorCode(platform::URLError{platform::URLError::Code::notConnectedToInternet, ""}),
+              -1009);
     for (const ServiceError& error : {ServiceError(HttpStatusCodeError{-1009}), ServiceError(clientError),
                                       ServiceError(NetworkServiceError::invalidUrl)}) {
         EXPECT_EQ(platformErrorCode(error), std::nullopt);
@@ -30,8 +31,8 @@ TEST(ServiceError, HasAPlatformCodeOnlyWhenTheExchangeFailed) {
 }
 
 TEST(HttpErrorFactory, GivesTheRecordOrElseTheStatus) {
-    const auto client = encodeJSON(jsonValue(clientError)).value();
-    const auto server = encodeJSON(jsonValue(serverError)).value();
+    const auto client = platform::encodeJSON(platform::jsonValue(clientError)).value();
+    const auto server = platform::encodeJSON(platform::jsonValue(serverError)).value();
     const auto withoutPath = server.substr(0, server.rfind(",\"path\"")) + "}";
     const struct {
         std::optional<std::string> data;

@@ -1,4 +1,4 @@
-#include "Network/Session/URLSession.hpp"
+#include "Platform/Http/URLSession.hpp"
 #include "Support/NetworkNamespace.hpp"
 #include "Support/SandboxedSession.hpp"
 
@@ -88,7 +88,7 @@ void tryPlace(const Place& place) {
     }
     const auto start = std::chrono::steady_clock::now();
     testing::CallRecorder calls;
-    const URLSession session({.caBundleFile = authority.bundleFile()});
+    const platform::URLSession session({.caBundleFile = authority.bundleFile()});
     session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
     const auto& outcome = calls.wait();
     const bool isLate = std::chrono::steady_clock::now() - start > std::chrono::seconds(10);

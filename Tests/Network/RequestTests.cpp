@@ -1,5 +1,5 @@
-#include "Network/Request/JSONEncoder.hpp"
 #include "Network/Request/URLRequestFactory.hpp"
+#include "Platform/Json/JSONEncoder.hpp"
 
 #include <gtest/gtest.h>
 
@@ -10,9 +10,9 @@ namespace quillet {
 using namespace std::string_literals;
 
 TEST(URLRequestFactory, BeginsWithSixtySecondsAndNoMethod) {
-    const Url url{"gateway.test", "/p"};
+    const platform::Url url{"gateway.test", "/p"};
     const auto request = URLRequestFactory().create(url);
-    EXPECT_EQ(request->urlRequest(), URLRequest{.url = url});
+    EXPECT_EQ(request->urlRequest(), platform::URLRequest{.url = url});
     EXPECT_EQ(request->urlRequest().timeoutInterval, std::chrono::minutes(1));
     EXPECT_FALSE(request->httpMethod());
 }
@@ -23,7 +23,7 @@ TEST(URLRequestWrapper, JoinsASecondValueOfAHeader) {
     EXPECT_TRUE(request->addValue("x\ty ñ", "Other"));
     EXPECT_TRUE(request->addValue("b", "accept"));
     EXPECT_EQ(request->urlRequest().headerFields.all(),
-              (std::vector<HTTPHeaderField>{{"Accept", "a,b"}, {"Other", "x\ty ñ"}}));
+              (std::vector<platform::HTTPHeaderField>{{"Accept", "a,b"}, {"Other", "x\ty ñ"}}));
 }
 
 TEST(URLRequestWrapper, RefusesAHeaderThatWouldSplitTheRequest) {
@@ -45,10 +45,10 @@ TEST(URLRequestWrapper, RefusesAHeaderThatWouldSplitTheRequest) {
 
 TEST(URLRequestWrapper, WritesABodyAsCompactJsonWithEscapedSlashes) {
     const auto request = URLRequestFactory().create({});
-    const JSONValue::Object parameters = {
+    const platform::JSONValue::Object parameters = {
         {"z/", "a/b\"\\\n\x01 ñ🛒\0"s},
-        {"a", JSONValue::Object{{"id", std::numeric_limits<std::uint64_t>::max()}, {"low", -1}}},
-        {"none", JSONValue::Object{}}};
+        {"a", platform::JSONValue::Object{{"id", std::numeric_limits<std::uint64_t>::max()}, {"low", -1}}},
+        {"none", platform::JSONValue::Object{}}};
     EXPECT_TRUE(request->addToHttpBody(parameters));
     EXPECT_EQ(
         request->urlRequest().httpBody,
@@ -58,8 +58,8 @@ TEST(URLRequestWrapper, WritesABodyAsCompactJsonWithEscapedSlashes) {
 TEST(URLRequestWrapper, KeepsItsBodyWhenAnotherCannotBeEncoded) {
     const auto request = URLRequestFactory().create({});
     ASSERT_TRUE(request->addToHttpBody({{"a", "b"}}));
-    EXPECT_EQ(request->addToHttpBody({{"consultant", JSONValue::Object{{"id", "\xff"}}}}),
-              std::unexpected(EncodingError{"consultant.id"}));
+    EXPECT_EQ(request->addToHttpBody({{"consultant", platform::JSONValue::Object{{"id", "\xff"}}}}),
+              std::unexpected(platform::EncodingError{"consultant.id"}));
     EXPECT_FALSE(request->addToHttpBody({{"\xff", 1}}));
     EXPECT_EQ(request->urlRequest().httpBody, R"({"a":"b"})");
 }

@@ -42,7 +42,7 @@ const std::string openCartsBody = R"({"consultant":{"id":7},"carts":[]})";
 TEST(Services, SendExactlyTheseRequests) {
     testing::SandboxedSession sandbox;
     Services services{
-        std::make_shared<URLSessionWrapper>(std::make_shared<URLSession>(sandbox.configuration))};
+        std::make_shared<URLSessionWrapper>(std::make_shared<platform::URLSession>(sandbox.configuration))};
     testing::Recorder<std::int64_t> statuses;
     const auto record = [&](auto result) { statuses.record(result.httpStatusCode); };
     const struct {
@@ -94,7 +94,7 @@ TEST(Services, CompleteAtOnceWhenTheRequestCannotBeFormed) {
         {{session, "gateway.test"}, "\xff", NetworkServiceError::invalidUrl},
         {{session, "gateway.test", {"token", "a\r\nX-Evil: 1"}},
          "cart",
-         EncodingError{"Authorization-Provider"}},
+         platform::EncodingError{"Authorization-Provider"}},
     };
     for (const auto& [services, cart, error] : cases) {
         std::vector<OrderResult> results;
@@ -114,11 +114,11 @@ TEST(Services, MakeAResultOfEveryAnswer) {
         R"("message":"CODE"},"statusCode":500,"path":"/p"})";
     const ClientError clientError{"d", "e", 404, "/p"};
     const ServerError serverError{{{1, "m", "e"}, 2, "CODE"}, 500, "/p"};
-    const URLError lost{URLError::Code::networkConnectionLost, "lost"};
+    const platform::URLError lost{platform::URLError::Code::networkConnectionLost, "lost"};
     const struct {
         std::optional<std::string> data;
-        std::optional<HTTPURLResponse> response;
-        std::optional<URLError> transportError;
+        std::optional<platform::HTTPURLResponse> response;
+        std::optional<platform::URLError> transportError;
         bool hasResponse;
         std::optional<ServiceError> error;
     } cases[] = {
@@ -141,7 +141,7 @@ TEST(Services, MakeAResultOfEveryAnswer) {
     };
     for (const auto& [data, response, transportError, hasResponse, error] : cases) {
         SCOPED_TRACE(data.value_or("absent") +
-                     std::to_string(response.value_or(HTTPURLResponse{}).statusCode));
+                     std::to_string(response.value_or(platform::HTTPURLResponse{}).statusCode));
         const auto session = std::make_shared<testing::FakeSession>();
         std::vector<OpenOrdersResult> results;
         // The service is gone by the time of the answer.
@@ -162,7 +162,7 @@ TEST(Services, DecodeACheckout) {
         R"({"submittedOrderId":"1","consultant":{"id":7},"message":"CART_SUBMITTED_ERROR","products":[],"summary":)"
         R"({"allItems":1,"errorItems":1,"addedItems":0,"allPoints":1,"addedPoints":0,"addedProducts":0,)"
         R"("errorProducts":1}})",
-        HTTPURLResponse{422}, std::nullopt);
+        platform::HTTPURLResponse{422}, std::nullopt);
     ASSERT_TRUE(result && result->checkoutResponse);
     EXPECT_EQ(result->checkoutResponse->message, CheckoutResponseMessage::cartSubmittedError);
     EXPECT_EQ(result->error, ServiceError(HttpStatusCodeError{422}));

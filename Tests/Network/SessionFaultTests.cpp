@@ -1,4 +1,4 @@
-#include "Network/Session/URLSession.hpp"
+#include "Platform/Http/URLSession.hpp"
 #include "Support/SandboxedSession.hpp"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@ namespace {
 
 using namespace std::string_literals;
 using testing::Answer;
-using enum URLError::Code;
+using enum platform::URLError::Code;
 
 const std::string ok = "HTTP/1.1 200 OK\r\n";
 // 70,000 times the letter a.
@@ -21,7 +21,7 @@ constexpr std::size_t unpackedSize = 70'000;
 struct Fault {
     std::string name;
     Answer answer;
-    URLError::Code code;
+    platform::URLError::Code code;
 };
 
 std::ostream& operator<<(std::ostream& stream, const Fault& fault) {
@@ -92,7 +92,7 @@ TEST_P(SessionFault, EndsThePostWithAnErrorAloneAndIsNotRepeated) {
     sandbox.configuration.maximumBodyBytes = unpackedSize - 1;
     sandbox.server.enqueue(Answer::complete(200, "warm"));
     sandbox.server.enqueue(GetParam().answer);
-    const URLSession session(sandbox.configuration);
+    const platform::URLSession session(sandbox.configuration);
     // The connection of the GET before stays open, so there is one that the POST could have reused.
     session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
     ASSERT_EQ(calls.wait().data, "warm");
@@ -122,7 +122,7 @@ TEST(Session, TakesABodyUpToTheLimitPackedOrNot) {
         testing::CallRecorder calls;
         sandbox.configuration.maximumBodyBytes = unpackedSize;
         sandbox.server.enqueue(answer);
-        const URLSession session(sandbox.configuration);
+        const platform::URLSession session(sandbox.configuration);
         session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
         EXPECT_EQ(calls.wait().data, std::string(unpackedSize, 'a'));
         EXPECT_NE(sandbox.server.requests()[0].find("Accept-Encoding: "), std::string::npos);
@@ -132,7 +132,7 @@ TEST(Session, TakesABodyUpToTheLimitPackedOrNot) {
 TEST(Session, TakesSixteenMebibytesUnlessToldOtherwise) {
     testing::SandboxedSession sandbox;
     testing::CallRecorder calls;
-    const URLSession session(sandbox.configuration);
+    const platform::URLSession session(sandbox.configuration);
     const std::size_t limit = 16'777'216;
     for (const std::size_t size : {limit, limit + 1}) {
         sandbox.server.enqueue(Answer::complete(200, std::string(size, ' ')));
@@ -140,7 +140,7 @@ TEST(Session, TakesSixteenMebibytesUnlessToldOtherwise) {
         const auto& outcome = calls.wait(size - limit);
         EXPECT_EQ(outcome.data.has_value(), size == limit);
         EXPECT_EQ(outcome.data.value_or("").size(), size == limit ? limit : 0);
-        EXPECT_EQ(outcome.error.value_or(URLError{}).code,
+        EXPECT_EQ(outcome.error.value_or(platform::URLError{}).code,
                   size == limit ? unknown : dataLengthExceedsMaximum);
     }
 }
@@ -149,7 +149,7 @@ TEST(Session, SendsAPostAndAPatchOnAConnectionOfTheirOwn) {
     for (const std::string method : {"POST", "PATCH"}) {
         testing::SandboxedSession sandbox;
         testing::CallRecorder calls;
-        const URLSession session(sandbox.configuration);
+        const platform::URLSession session(sandbox.configuration);
         for (std::size_t call = 0; call < 3; ++call) {
             // The third connection dies after the request was taken, like a kept one that the server gave up.
             sandbox.server.enqueue(call < 2 ? Answer::complete(200, "{}") : Answer{{}, Answer::Ending::cut});

@@ -1,5 +1,5 @@
-#include "Network/Session/Curl/CurlLibrary.hpp"
-#include "Network/Session/URLSession.hpp"
+#include "Platform/Http/Curl/CurlLibrary.hpp"
+#include "Platform/Http/URLSession.hpp"
 #include "Support/SandboxedSession.hpp"
 #include "Support/SilentPort.hpp"
 
@@ -13,9 +13,9 @@ namespace quillet {
 
 namespace {
 
-using enum URLError::Code;
+using enum platform::URLError::Code;
 
-class ScriptedPath final : public NetworkPathMonitoring {
+class ScriptedPath final : public platform::NetworkPathMonitoring {
 public:
     explicit ScriptedPath(bool isThere) : isThere_(isThere) {}
 
@@ -30,15 +30,16 @@ private:
     bool isThere_;
 };
 
-class BeginningsCounter final : public URLSessionObserving {
+class BeginningsCounter final : public platform::URLSessionObserving {
 public:
-    void willSend(std::uint64_t, const URLRequest&) override { ++beginnings; }
-    void didEnd(std::uint64_t, const URLRequest&, const URLSessionExchangeEnd&) override {}
+    void willSend(std::uint64_t, const platform::URLRequest&) override { ++beginnings; }
+    void didEnd(std::uint64_t, const platform::URLRequest&, const platform::URLSessionExchangeEnd&) override {
+    }
 
     std::atomic<int> beginnings = 0;
 };
 
-class FailingPath final : public NetworkPathMonitoring {
+class FailingPath final : public platform::NetworkPathMonitoring {
 public:
     bool isSatisfied(const std::string&, bool) const override { throw std::bad_alloc(); }
 };
@@ -53,13 +54,13 @@ struct SessionReach : ::testing::Test {
     }
 };
 
-URLError::Code errorOf(const URLSessionConfiguration& configuration,
-                       const std::string& host = testing::gatewayHost) {
+platform::URLError::Code errorOf(const platform::URLSessionConfiguration& configuration,
+                                 const std::string& host = testing::gatewayHost) {
     testing::CallRecorder calls;
-    const URLSession session(configuration);
+    const platform::URLSession session(configuration);
     session.dataTask({.url = {host, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
     const auto& outcome = calls.wait();
-    return outcome.error.value_or(URLError{URLError::Code{}, ""}).code;
+    return outcome.error.value_or(platform::URLError{platform::URLError::Code{}, ""}).code;
 }
 
 } // namespace
@@ -74,7 +75,7 @@ TEST_F(SessionReach, AsksForANetworkOnlyWhereTheHostIsNotReached) {
     const auto path = std::make_shared<ScriptedPath>(false);
     sandbox.configuration.networkPath = path;
     sandbox.server.enqueue(testing::Answer::complete(200, "{}"));
-    EXPECT_EQ(errorOf(sandbox.configuration), URLError::Code{});
+    EXPECT_EQ(errorOf(sandbox.configuration), platform::URLError::Code{});
     EXPECT_EQ(path->asked.count(), 0u);
 
     sandbox.configuration.hostMappings[0].port = closedPort;
@@ -101,7 +102,7 @@ TEST_F(SessionReach, TellsAHostThatIsNotReachedFromNoNetwork) {
 }
 
 // The first attempts go where packets are dropped; then a server takes the port over.
-class ServerFoundLate final : public NetworkPathMonitoring {
+class ServerFoundLate final : public platform::NetworkPathMonitoring {
 public:
     bool isSatisfied(const std::string&, bool) const override {
         if (++failures == 2) {
@@ -127,7 +128,7 @@ TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
     const auto clock = std::make_shared<testing::VirtualClock>();
     const auto observer = std::make_shared<BeginningsCounter>();
     testing::CallRecorder calls;
-    const URLSession session(
+    const platform::URLSession session(
         {.caBundleFile = path.authority.bundleFile(),
          .hostMappings = {{.host = testing::gatewayHost, .address = "127.0.0.1", .port = path.dead->port()}},
          .networkPath = {std::shared_ptr<void>(), &path},
@@ -143,7 +144,7 @@ TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
 
     const testing::SilentPort dead(testing::SilentPort::Kind::dropping);
     const auto stillThere = std::make_shared<ScriptedPath>(true);
-    const URLSession other(
+    const platform::URLSession other(
         {.caBundleFile = path.authority.bundleFile(),
          .hostMappings = {{.host = testing::gatewayHost, .address = "127.0.0.1", .port = dead.port()}},
          .networkPath = stillThere,
@@ -169,7 +170,7 @@ TEST_F(SessionReach, KeepsAConnectionThatIsSlowToSpeak) {
     sandbox.configuration.networkPath = path;
     sandbox.configuration.connectTimeout = std::chrono::milliseconds(50);
     testing::CallRecorder calls;
-    const URLSession session(sandbox.configuration);
+    const platform::URLSession session(sandbox.configuration);
     session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
     session.dataTask({.url = {"dead.test", "/"}}, calls.completion()).resume();
     for (std::size_t attempt = 0; attempt < 5; ++attempt) {
@@ -206,7 +207,7 @@ TEST_F(SessionReach, ReachesAMappedHostPastTheProxyOfTheEnvironment) {
     sandbox.configuration.networkPath = std::make_shared<ScriptedPath>(true);
     setenv("https_proxy", "http://127.0.0.1:1", 1);
     testing::CallRecorder calls;
-    const URLSession session(sandbox.configuration);
+    const platform::URLSession session(sandbox.configuration);
     session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
     EXPECT_EQ(calls.wait().data, "{}");
     EXPECT_EQ(errorOf(sandbox.configuration, "unmapped.test"), cannotConnectToHost);
@@ -216,7 +217,7 @@ TEST_F(SessionReach, ReachesAMappedHostPastTheProxyOfTheEnvironment) {
 TEST_F(SessionReach, RefusesAMethodThatIsNone) {
     const testing::SandboxedSession sandbox;
     testing::CallRecorder calls;
-    const URLSession session(sandbox.configuration);
+    const platform::URLSession session(sandbox.configuration);
     session
         .dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "GET / HTTP/1.1\r\nX: "},
                   calls.completion())
@@ -228,12 +229,12 @@ TEST(CurlLibrary, NeedsTheTlsLibraryThatTheModuleWasBuiltWith) {
     const std::string own = "OpenSSL/" + std::to_string(OPENSSL_VERSION_MAJOR) + ".";
     const std::string other = "OpenSSL/" + std::to_string(OPENSSL_VERSION_MAJOR + 1) + ".";
     for (const auto& fit : {own + "0.17", own + "5.4+quic", "(GnuTLS/3.7.9) " + own + "0.17"}) {
-        EXPECT_FALSE(faultOfTlsLibrary(fit)) << fit;
+        EXPECT_FALSE(platform::faultOfTlsLibrary(fit)) << fit;
     }
     for (const auto& unfit :
          {std::string(), std::string("GnuTLS/3.7.9"), std::string("BoringSSL"), std::string("LibreSSL/3.8.2"),
           other + "0.0", std::string("OpenSSL/1.1.1w"), "GnuTLS/3.7.9 (" + own + "0.17)"}) {
-        const auto fault = faultOfTlsLibrary(unfit);
+        const auto fault = platform::faultOfTlsLibrary(unfit);
         ASSERT_TRUE(fault) << unfit;
         EXPECT_EQ(fault->code, secureConnectionFailed);
         EXPECT_EQ(fault->message,
@@ -242,15 +243,15 @@ TEST(CurlLibrary, NeedsTheTlsLibraryThatTheModuleWasBuiltWith) {
 }
 
 TEST(SystemNetworkPathMonitor, NeedsNoNetworkForAMappedHost) {
-    EXPECT_TRUE(SystemNetworkPathMonitor().isSatisfied(testing::gatewayHost, true));
+    EXPECT_TRUE(platform::SystemNetworkPathMonitor().isSatisfied(testing::gatewayHost, true));
 }
 
 TEST(URLSessionConfiguration, IsReadWhenASessionIsMade) {
     testing::SandboxedSession sandbox;
     sandbox.server.enqueue(testing::Answer::complete(200, "{}"));
-    URLSessionConfiguration::setDefaultConfiguration(sandbox.configuration);
-    const URLSession session;
-    URLSessionConfiguration::setDefaultConfiguration({});
+    platform::URLSessionConfiguration::setDefaultConfiguration(sandbox.configuration);
+    const platform::URLSession session;
+    platform::URLSessionConfiguration::setDefaultConfiguration({});
     testing::CallRecorder calls;
     session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
     EXPECT_EQ(calls.wait().data, "{}");

@@ -1,4 +1,4 @@
-#include "Network/Session/URLSession.hpp"
+#include "Platform/Http/URLSession.hpp"
 #include "Support/SandboxedSession.hpp"
 
 #include <gtest/gtest.h>
@@ -15,13 +15,13 @@ using testing::Answer;
 struct SessionTest : ::testing::Test, testing::SandboxedSession {
     testing::CallRecorder calls;
 
-    URLSessionDataTask task(const URLSession& session, std::string method = "GET") {
+    platform::URLSessionDataTask task(const platform::URLSession& session, std::string method = "GET") {
         return session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = std::move(method)},
                                 calls.completion());
     }
 };
 
-class WatchedPath final : public NetworkPathMonitoring {
+class WatchedPath final : public platform::NetworkPathMonitoring {
 public:
     ~WatchedPath() override { gone.set_value(); }
     bool isSatisfied(const std::string&, bool) const override { return true; }
@@ -29,13 +29,14 @@ public:
     std::promise<void> gone;
 };
 
-class TrafficLog final : public URLSessionObserving {
+class TrafficLog final : public platform::URLSessionObserving {
 public:
-    void willSend(std::uint64_t exchange, const URLRequest& request) override {
+    void willSend(std::uint64_t exchange, const platform::URLRequest& request) override {
         log.record(std::to_string(exchange - first) + " " + request.httpMethod.value_or("") + " " +
                    request.url.absoluteString());
     }
-    void didEnd(std::uint64_t exchange, const URLRequest&, const URLSessionExchangeEnd& end) override {
+    void didEnd(std::uint64_t exchange, const platform::URLRequest&,
+                const platform::URLSessionExchangeEnd& end) override {
         const auto code = end.errorCode ? static_cast<std::int64_t>(*end.errorCode) : 0;
         log.record(std::to_string(exchange - first) + " ended " + std::to_string(end.statusCode) + " " +
                    std::to_string(code) + " " + std::to_string(end.duration.count()));
@@ -49,7 +50,7 @@ public:
 
 TEST_F(SessionTest, DeliversOffTheCallersThread) {
     server.enqueue(Answer::complete(200, "{}"));
-    const URLSession session(configuration);
+    const platform::URLSession session(configuration);
     task(session).resume();
     EXPECT_EQ(calls.wait().response->statusCode, 200);
     EXPECT_NE(calls.threadOf(), std::this_thread::get_id());
@@ -57,27 +58,27 @@ TEST_F(SessionTest, DeliversOffTheCallersThread) {
 
 TEST_F(SessionTest, DeliversARedirectAsItCame) {
     server.enqueue(Answer::complete(302, "moved", "Location: https://gateway.test/other\r\n"));
-    const URLSession session(configuration);
+    const platform::URLSession session(configuration);
     task(session).resume();
     const auto& outcome = calls.wait();
     EXPECT_EQ(outcome.data, "moved");
-    EXPECT_EQ(outcome.response, HTTPURLResponse{302});
+    EXPECT_EQ(outcome.response, platform::HTTPURLResponse{302});
     EXPECT_EQ(server.requests().size(), 1u);
 }
 
 TEST_F(SessionTest, DeliversAnAnswerWithoutABodyAsAnEmptyBody) {
     // A preliminary answer before it is none.
     server.enqueue({{"HTTP/1.1 103 Early Hints\r\nLink: x\r\n\r\nHTTP/1.1 204 No Content\r\n\r\n"}});
-    const URLSession session(configuration);
+    const platform::URLSession session(configuration);
     task(session).resume();
     EXPECT_EQ(calls.wait().data, "");
-    EXPECT_EQ(calls.wait().response, (HTTPURLResponse{204}));
+    EXPECT_EQ(calls.wait().response, (platform::HTTPURLResponse{204}));
 }
 
 TEST_F(SessionTest, StartsOnceHoweverOftenItIsResumedAndNeverByItself) {
     server.enqueue(Answer::complete(200, "first"));
     server.enqueue(Answer::complete(200, "second"));
-    const URLSession session(configuration);
+    const platform::URLSession session(configuration);
     { const auto neverResumed = task(session, "DELETE"); }
     auto first = task(session);
     first.resume();
@@ -97,7 +98,7 @@ TEST_F(SessionTest, RunsAStartedCallToItsEndAndThenEndsItsThread) {
     auto gone = path->gone.get_future();
     configuration.networkPath = std::move(path);
     {
-        const URLSession session(std::exchange(configuration, {}));
+        const platform::URLSession session(std::exchange(configuration, {}));
         task(session).resume();
     }
     ASSERT_TRUE(server.waitForRequests(1));
@@ -109,7 +110,7 @@ TEST_F(SessionTest, RunsAStartedCallToItsEndAndThenEndsItsThread) {
 
 TEST_F(SessionTest, StartsACallWhoseSessionIsGone) {
     server.enqueue(Answer::complete(200, "{}"));
-    auto late = [&] { return task(URLSession(configuration)); }();
+    auto late = [&] { return task(platform::URLSession(configuration)); }();
     late.resume();
     EXPECT_EQ(calls.wait().data, "{}");
 }
@@ -117,8 +118,8 @@ TEST_F(SessionTest, StartsACallWhoseSessionIsGone) {
 TEST_F(SessionTest, LetsACompletionFreeTheSessionAndStartAnotherCall) {
     server.enqueue(Answer::complete(200, "first"));
     server.enqueue(Answer::complete(200, "second"));
-    auto session = std::make_shared<URLSession>(configuration);
-    auto second = std::make_shared<URLSessionDataTask>(task(*session));
+    auto session = std::make_shared<platform::URLSession>(configuration);
+    auto second = std::make_shared<platform::URLSessionDataTask>(task(*session));
     auto first = session->dataTask({.url = {testing::gatewayHost, "/"}},
                                    [session, second](auto...) { second->resume(); });
     session.reset();
@@ -131,7 +132,7 @@ TEST_F(SessionTest, GivesTheWholeCallItsTimeWhateverComesMeanwhile) {
     const auto gate = std::make_shared<std::latch>(1);
     server.enqueue(
         {{"HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n", "drip"}, Answer::Ending::keepOpen, gate});
-    const URLSession session(configuration);
+    const platform::URLSession session(configuration);
     task(session, "POST").resume();
     ASSERT_TRUE(server.waitForRequests(1));
     clock->advance(59'999ms);
@@ -139,31 +140,31 @@ TEST_F(SessionTest, GivesTheWholeCallItsTimeWhateverComesMeanwhile) {
     clock->settle();
     EXPECT_EQ(calls.count(), 0u);
     clock->advance(1ms);
-    EXPECT_EQ(calls.wait().error->code, URLError::Code::timedOut);
+    EXPECT_EQ(calls.wait().error->code, platform::URLError::Code::timedOut);
     EXPECT_FALSE(calls.wait().response);
     EXPECT_EQ(server.requests().size(), 1u);
 }
 
 TEST_F(SessionTest, KeepsEachCallsOwnTime) {
-    const URLSession session(configuration);
+    const platform::URLSession session(configuration);
     session.dataTask({.url = {testing::gatewayHost, "/"}, .timeoutInterval = 10s}, calls.completion())
         .resume();
     task(session).resume();
     ASSERT_TRUE(server.waitForRequests(2));
     clock->advance(10s);
-    EXPECT_EQ(calls.wait().error->code, URLError::Code::timedOut);
+    EXPECT_EQ(calls.wait().error->code, platform::URLError::Code::timedOut);
     clock->advance(49'999ms);
     clock->settle();
     EXPECT_EQ(calls.count(), 1u);
     clock->advance(1ms);
-    EXPECT_EQ(calls.wait(1).error->code, URLError::Code::timedOut);
+    EXPECT_EQ(calls.wait(1).error->code, platform::URLError::Code::timedOut);
 }
 
 TEST_F(SessionTest, TellsItsObserverBeforeTheCompletion) {
     const auto observer = std::make_shared<TrafficLog>();
     configuration.observer = observer;
     server.enqueue(Answer::complete(404, ""));
-    const URLSession session(configuration);
+    const platform::URLSession session(configuration);
     task(session).resume();
     EXPECT_EQ(calls.wait().data, "");
     ASSERT_EQ(observer->log.count(), 2u);
@@ -185,7 +186,7 @@ TEST_F(SessionTest, TakesCallsFromSeveralThreadsAtATime) {
         server.enqueue(Answer::complete(200, "{}"));
     }
     {
-        const URLSession session(configuration);
+        const platform::URLSession session(configuration);
         std::vector<std::thread> threads;
         for (std::size_t i = 0; i < threadCount; ++i) {
             threads.emplace_back([&] {
@@ -210,7 +211,7 @@ TEST(SessionDeathTest, DoesNotKeepTheProcessFromEnding) {
     EXPECT_EXIT(
         {
             auto& sandbox = *new testing::SandboxedSession;
-            const URLSession session(sandbox.configuration);
+            const platform::URLSession session(sandbox.configuration);
             session.dataTask({.url = {testing::gatewayHost, "/"}}, [](auto...) {}).resume();
             (void)sandbox.server.waitForRequests(1);
             std::remove(sandbox.authority.bundleFile().c_str());

@@ -53,8 +53,8 @@ TEST(JWTCreator, KeepsTheBase64UrlAlphabetForAnyToken) {
 TEST(JWTCreator, FailsForTextThatIsNotUtf8) {
     const auto badToken = creator("\xc3(").createJSONWebToken();
     ASSERT_FALSE(badToken);
-    ASSERT_TRUE(std::holds_alternative<EncodingError>(badToken.error()));
-    EXPECT_EQ(std::get<EncodingError>(badToken.error()).codingPath, "access_token");
+    ASSERT_TRUE(std::holds_alternative<platform::EncodingError>(badToken.error()));
+    EXPECT_EQ(std::get<platform::EncodingError>(badToken.error()).codingPath, "access_token");
     const auto badSecret = creator("a", "\xff").createJSONWebToken();
     ASSERT_FALSE(badSecret);
     EXPECT_EQ(std::get<HmacSha256Error>(badSecret.error()),

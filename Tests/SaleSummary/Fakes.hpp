@@ -75,8 +75,8 @@ inline ServerError refusal(const std::string& message) {
     return {.error = {.response = {}, .status = 422, .message = message}, .statusCode = 422, .path = "/"};
 }
 
-inline ServiceError transportError(URLError::Code code) {
-    return URLError{code, "test"};
+inline ServiceError transportError(platform::URLError::Code code) {
+    return platform::URLError{code, "test"};
 }
 
 } // namespace quillet::testing

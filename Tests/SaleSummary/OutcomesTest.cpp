@@ -56,7 +56,7 @@ std::vector<Outcome> outcomes() {
           "try again: surprise_face | Lo sentimos, algo salió mal | Actualizar | Botón actualizar"},
          {{"removeTryAgainView", "tryAgainDoRequests"}}},
         {"no connection",
-         {{}, transportError(URLError::Code::notConnectedToInternet), 0},
+         {{}, transportError(platform::URLError::Code::notConnectedToInternet), 0},
          {"screen Error"},
          {"screen Error", "try again: surprise_face | Lo sentimos, tu dispositivo está sin conexión a "
                           "internet | Actualizar | Botón actualizar"},

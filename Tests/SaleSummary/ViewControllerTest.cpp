@@ -18,7 +18,7 @@ using ::testing::ElementsAre;
 
 class FakeRouter final : public SaleSummaryRoutering {
 public:
-    FakeRouter(Log log, std::shared_ptr<QuickViewController>& origin)
+    FakeRouter(Log log, std::shared_ptr<platform::QuickViewController>& origin)
         : log_(std::move(log)), origin_(origin) {}
     void showCheckout(const ViewController* from) override {
         log_->push_back("showCheckout");
@@ -27,12 +27,12 @@ public:
 
 private:
     Log log_;
-    std::shared_ptr<QuickViewController>& origin_;
+    std::shared_ptr<platform::QuickViewController>& origin_;
 };
 
 struct SaleSummaryViewControllerTest : ::testing::Test {
     Log log = makeLog();
-    std::shared_ptr<QuickViewController> origin;
+    std::shared_ptr<platform::QuickViewController> origin;
     std::shared_ptr<SaleSummaryViewController> screen = std::make_shared<SaleSummaryViewController>(
         std::make_shared<FakeSaleSummaryViewModel>(log), std::make_unique<Colors>(),
         std::make_unique<FakeRouter>(log, origin), std::make_unique<ViewControllerWrapperFactory>(),
@@ -88,7 +88,8 @@ TEST_F(SaleSummaryViewControllerTest, FollowsANewThemeWithItsLabels) {
     const QColor light = points.color();
     int changes = 0;
     QObject::connect(&points, &ThemedView::themeChanged, [&] { ++changes; });
-    QObject::connect(screen.get(), &QuickViewController::backgroundColorChanged, [&] { ++changes; });
+    QObject::connect(screen.get(), &platform::QuickViewController::backgroundColorChanged,
+                     [&] { ++changes; });
     kel::KelAppearance::current().setTheme(kel::KelTheme::dark);
     const QColor dark = points.color();
     EXPECT_EQ(screen->backgroundColor(), kel::KelColors::background());
@@ -100,7 +101,7 @@ TEST_F(SaleSummaryViewControllerTest, FollowsANewThemeWithItsLabels) {
 
 // The screen is held by the page that draws it, and by nobody else.
 TEST_F(SaleSummaryViewControllerTest, TakesEverythingBehindItAlongInTheMiddleOfItsCalls) {
-    const auto queue = std::make_shared<MainQueue>();
+    const auto queue = std::make_shared<platform::MainQueue>();
     const auto association = std::make_shared<Conversation<OrderResult>>();
     const auto openOrders = std::make_shared<Conversation<OpenOrdersResult>>();
     auto associateWorker =

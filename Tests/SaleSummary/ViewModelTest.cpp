@@ -70,7 +70,7 @@ TEST_F(SaleSummaryViewModelTest, AsksForTheOpenOrdersOnlyAfterTheAssociationHowe
     const OrderResult answers[] = {
         {.response = OrderResponse{}, .error = {}, .httpStatusCode = 200},
         {.response = {}, .error = refusal("ERROR_CART_OTHER_CONSULTANT"), .httpStatusCode = 422},
-        {.response = {}, .error = transportError(URLError::Code::timedOut), .httpStatusCode = 0},
+        {.response = {}, .error = transportError(platform::URLError::Code::timedOut), .httpStatusCode = 0},
     };
     for (const OrderResult& answer : answers) {
         SCOPED_TRACE(answer.httpStatusCode);

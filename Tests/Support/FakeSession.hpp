@@ -10,12 +10,13 @@ namespace quillet::testing {
 class FakeSession final : public URLSessionDataTaskCreating {
 public:
     struct Call {
-        URLRequest request;
-        URLSessionDataTaskCompletion complete;
+        platform::URLRequest request;
+        platform::URLSessionDataTaskCompletion complete;
     };
 
     [[nodiscard]] std::unique_ptr<URLSessionDataTaskResumable>
-    dataTask(const URLRequest& request, URLSessionDataTaskCompletion completionHandler) const override {
+    dataTask(const platform::URLRequest& request,
+             platform::URLSessionDataTaskCompletion completionHandler) const override {
         return std::make_unique<Task>(*this, Call{request, std::move(completionHandler)});
     }
 

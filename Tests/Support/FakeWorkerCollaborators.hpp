@@ -3,11 +3,11 @@
 #include "Network/Services/SellOutCartCheckoutServiceRequestable.hpp"
 #include "Network/Services/SellOutCartServiceRequestable.hpp"
 #include "Network/Services/SellOutCartsStatusOpenServiceRequestable.hpp"
+#include "Platform/Queue/MainQueue.hpp"
 #include "Workers/AssociateConsultantToCartWorkerDelegate.hpp"
 #include "Workers/CheckoutWorkerDelegate.hpp"
 #include "Workers/DispatchQueuing.hpp"
 #include "Workers/GetOpenOrdersWorkerDelegate.hpp"
-#include "Workers/MainQueue.hpp"
 
 #include <memory>
 #include <string>
@@ -99,11 +99,11 @@ public:
 /// A main queue that the test drains.
 class DrainedQueue final : public DispatchQueuing {
 public:
-    explicit DrainedQueue(std::shared_ptr<MainQueue> queue) : queue_(std::move(queue)) {}
+    explicit DrainedQueue(std::shared_ptr<platform::MainQueue> queue) : queue_(std::move(queue)) {}
     void async(std::function<void()> block) const override { queue_->async(std::move(block)); }
 
 private:
-    std::shared_ptr<MainQueue> queue_;
+    std::shared_ptr<platform::MainQueue> queue_;
 };
 
 } // namespace quillet::testing

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Network/Session/URLSessionExchange.hpp"
+#include "Platform/Http/URLSessionExchange.hpp"
 
 #include <chrono>
 #include <condition_variable>
@@ -57,9 +57,9 @@ private:
 };
 
 /// Outcomes of a session's calls.
-class CallRecorder : public Recorder<URLSessionOutcome> {
+class CallRecorder : public Recorder<platform::URLSessionOutcome> {
 public:
-    [[nodiscard]] URLSessionDataTaskCompletion completion() {
+    [[nodiscard]] platform::URLSessionDataTaskCompletion completion() {
         return [recorder = *this](auto data, auto response, auto error) mutable {
             recorder.record({std::move(data), std::move(response), std::move(error)});
         };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Network/Session/URLSessionConfiguration.hpp"
+#include "Platform/Http/URLSessionConfiguration.hpp"
 #include "Support/FaultServer.hpp"
 #include "Support/Recorder.hpp"
 #include "Support/VirtualClock.hpp"
@@ -14,7 +14,7 @@ struct SandboxedSession {
     TestAuthority authority;
     FaultServer server{authority.serverContext(gatewayHost)};
     std::shared_ptr<VirtualClock> clock = std::make_shared<VirtualClock>();
-    URLSessionConfiguration configuration{
+    platform::URLSessionConfiguration configuration{
         .caBundleFile = authority.bundleFile(),
         .hostMappings = {{.host = gatewayHost, .address = "127.0.0.1", .port = server.port()}},
         .clock = clock,

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Network/Session/SessionClock.hpp"
+#include "Platform/Http/SessionClock.hpp"
 
 #include <condition_variable>
 #include <cstddef>
@@ -11,7 +11,7 @@
 namespace quillet::testing {
 
 /// A clock that goes only when it is told to.
-class VirtualClock final : public SessionClock {
+class VirtualClock final : public platform::SessionClock {
 public:
     [[nodiscard]] std::chrono::steady_clock::time_point now() const override {
         const std::lock_guard lock(mutex_);
@@ -20,7 +20,7 @@ public:
         return now_;
     }
 
-    void addListener(std::weak_ptr<SessionClockListening> listener) override {
+    void addListener(std::weak_ptr<platform::SessionClockListening> listener) override {
         const std::lock_guard lock(mutex_);
         listeners_.push_back(std::move(listener));
     }
@@ -58,7 +58,7 @@ private:
     mutable std::condition_variable wasRead_;
     mutable std::size_t reads_ = 0;
     std::chrono::steady_clock::time_point now_;
-    std::vector<std::weak_ptr<SessionClockListening>> listeners_;
+    std::vector<std::weak_ptr<platform::SessionClockListening>> listeners_;
 };
 
 } // namespace quillet::testing

@@ -24,10 +24,12 @@ using ::testing::IsEmpty;
 using namespace quillet::tests;
 
 /// Counts the calls that have ended.
-class EndCounter final : public URLSessionObserving {
+class EndCounter final : public platform::URLSessionObserving {
 public:
-    void willSend(std::uint64_t, const URLRequest&) override {}
-    void didEnd(std::uint64_t, const URLRequest&, const URLSessionExchangeEnd&) override { ++ends; }
+    void willSend(std::uint64_t, const platform::URLRequest&) override {}
+    void didEnd(std::uint64_t, const platform::URLRequest&, const platform::URLSessionExchangeEnd&) override {
+        ++ends;
+    }
 
     std::atomic<std::size_t> ends = 0;
 };
@@ -81,7 +83,7 @@ std::vector<Case> cases() {
 struct Leaving : ::testing::TestWithParam<Case> {
     Leaving() {
         kel::KelAnalyticsManager::shared()->setSink(std::make_shared<FakeAnalytics>(log));
-        URLSessionConfiguration::setDefaultConfiguration(
+        platform::URLSessionConfiguration::setDefaultConfiguration(
             {.caBundleFile = authority.bundleFile(),
              .hostMappings = {{.host = gateway, .address = "127.0.0.1", .port = server.port()}},
              .observer = calls});
@@ -89,7 +91,7 @@ struct Leaving : ::testing::TestWithParam<Case> {
     ~Leaving() override {
         letAnswerGo();
         kel::KelAnalyticsManager::shared()->setSink(nullptr);
-        URLSessionConfiguration::setDefaultConfiguration({});
+        platform::URLSessionConfiguration::setDefaultConfiguration({});
         EXPECT_THAT(Stage::complaints(), IsEmpty());
     }
 

@@ -52,7 +52,7 @@ TEST(ProgressIndicator, MovesItsArcByTheFormula) {
     const SemiCircleLayer& arc = *loading.progressIndicator()->semiCircleLayer();
     for (const auto& [time, start, end] : kMoments) {
         SCOPED_TRACE(time);
-        const LayerMoment moment = arc.at(time);
+        const platform::LayerMoment moment = arc.at(time);
         EXPECT_NEAR(moment.strokeStart, start, 1e-3);
         EXPECT_NEAR(moment.strokeEnd, end, 1e-3);
         EXPECT_NEAR(moment.rotation, kTurn * time / 4, 1e-9);

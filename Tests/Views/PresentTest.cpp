@@ -1,11 +1,11 @@
 #include "Checkout/CheckoutFactory.hpp"
 #include "Entry/Quillet.hpp"
 #include "KelCommon/KelAnalyticsManager.hpp"
+#include "Platform/Screens/NavigationController.hpp"
 #include "Support/FakeHost.hpp"
 #include "Support/SilentPort.hpp"
 #include "Support/Stage.hpp"
 #include "Views/Dialogs/AlertDialog.hpp"
-#include "Views/Screen/NavigationController.hpp"
 #include "Views/Screen/ViewController.hpp"
 #include "Workers/CheckoutWorkerFactory.hpp"
 
@@ -22,12 +22,12 @@ using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class NoNetwork final : public NetworkPathMonitoring {
+class NoNetwork final : public platform::NetworkPathMonitoring {
 public:
     [[nodiscard]] bool isSatisfied(const std::string&, bool) const override { return false; }
 };
 
-class AnyNetwork final : public NetworkPathMonitoring {
+class AnyNetwork final : public platform::NetworkPathMonitoring {
 public:
     [[nodiscard]] bool isSatisfied(const std::string&, bool) const override { return true; }
 };
@@ -36,18 +36,19 @@ struct PresentTest : ::testing::Test {
     PresentTest() { kel::KelAnalyticsManager::shared()->setSink(std::make_shared<FakeAnalytics>(log)); }
     ~PresentTest() override {
         kel::KelAnalyticsManager::shared()->setSink(nullptr);
-        URLSessionConfiguration::setDefaultConfiguration({});
+        platform::URLSessionConfiguration::setDefaultConfiguration({});
         EXPECT_THAT(Stage::complaints(), IsEmpty());
     }
 
     /// Lets all sessions made from now on use this; it lives as long as the last of them and their calls.
-    std::weak_ptr<const NetworkPathMonitoring> use(std::shared_ptr<const NetworkPathMonitoring> network,
-                                                   std::vector<HostMapping> mappings = {}) {
+    std::weak_ptr<const platform::NetworkPathMonitoring>
+    use(std::shared_ptr<const platform::NetworkPathMonitoring> network,
+        std::vector<platform::HostMapping> mappings = {}) {
         if (mappings.empty()) {
             // Nobody listens there, so it is for the monitor to say why nobody was reached.
             mappings = {{gateway(), "127.0.0.1", 1}, {"gateway.test", "127.0.0.1", 1}};
         }
-        URLSessionConfiguration::setDefaultConfiguration(
+        platform::URLSessionConfiguration::setDefaultConfiguration(
             {.hostMappings = std::move(mappings), .networkPath = network});
         return network;
     }
@@ -55,14 +56,14 @@ struct PresentTest : ::testing::Test {
     [[nodiscard]] static std::string gateway() { return Starter::create("", "", {}, nullptr)->domainUrl(); }
 
     /// Opens the module; nobody but the stack holds the screen afterwards.
-    std::weak_ptr<QuickViewController> open() {
+    std::weak_ptr<platform::QuickViewController> open() {
         const auto starter = Starter::create("token", "idp", {"cart-1", 41051, "CL"}, host);
         const auto screen = starter->createRootViewController();
         EXPECT_TRUE(present(screen, stage->stack()));
         return screen;
     }
 
-    std::weak_ptr<QuickViewController> openCheckout() {
+    std::weak_ptr<platform::QuickViewController> openCheckout() {
         const auto screen = CheckoutFactory(std::make_unique<CheckoutWorkerFactory>(
                                                 "CL", 41051, Authorization{"jwt", "idp"}, "gateway.test"),
                                             std::make_unique<CheckoutConfigurator>(), host)
@@ -122,7 +123,7 @@ TEST_F(PresentTest, FreesEverythingWhenTheHostTakesTheScreenAway) {
     const auto network = use(std::make_shared<NoNetwork>());
     const auto screen = open();
     ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar"); }));
-    URLSessionConfiguration::setDefaultConfiguration({});
+    platform::URLSessionConfiguration::setDefaultConfiguration({});
     EXPECT_FALSE(network.expired());
     stage->popAll();
     EXPECT_TRUE(turnUntil([&] { return screen.expired() && network.expired(); }));
@@ -133,7 +134,7 @@ TEST_F(PresentTest, FreesEverythingWithTheHostsWindow) {
     const auto network = use(std::make_shared<NoNetwork>());
     const auto screen = open();
     ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar"); }));
-    URLSessionConfiguration::setDefaultConfiguration({});
+    platform::URLSessionConfiguration::setDefaultConfiguration({});
     stage.reset();
     EXPECT_TRUE(turnUntil([&] { return screen.expired() && network.expired(); }));
 }
@@ -142,7 +143,7 @@ TEST_F(PresentTest, DropsTheAnswerOfACallThatOutlivesItsScreen) {
     auto silence = std::make_unique<SilentPort>();
     const auto network = use(std::make_shared<AnyNetwork>(), {{gateway(), "127.0.0.1", silence->port()}});
     const auto screen = open();
-    URLSessionConfiguration::setDefaultConfiguration({});
+    platform::URLSessionConfiguration::setDefaultConfiguration({});
     log->clear();
     stage->popAll();
     ASSERT_TRUE(turnUntil([&] { return screen.expired(); }));
@@ -258,7 +259,7 @@ TEST_F(PresentTest, KeepsTheKeysInTheDialogAndGivesThemBack) {
 }
 
 TEST_F(PresentTest, ReportsAScreenThatItCannotShow) {
-    class Blank final : public QuickViewController {
+    class Blank final : public platform::QuickViewController {
     public:
         [[nodiscard]] QUrl viewUrl() const override { return QUrl("qrc:/no/such/file.qml"); }
     };

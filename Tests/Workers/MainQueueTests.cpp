@@ -1,4 +1,4 @@
-#include "Workers/MainQueue.hpp"
+#include "Platform/Queue/MainQueue.hpp"
 
 #include <gmock/gmock.h>
 
@@ -12,7 +12,7 @@ namespace quillet {
 using ::testing::ElementsAre;
 
 TEST(MainQueue, RunsBlocksInOrderAndLeavesLaterOnesForTheNextDrain) {
-    MainQueue queue;
+    platform::MainQueue queue;
     std::vector<int> ran;
     queue.async([&] {
         ran.push_back(1);
@@ -27,7 +27,7 @@ TEST(MainQueue, RunsBlocksInOrderAndLeavesLaterOnesForTheNextDrain) {
 }
 
 TEST(MainQueue, KeepsTheOrderWhenABlockRunsAnEventLoopOfItsOwn) {
-    MainQueue queue;
+    platform::MainQueue queue;
     std::vector<int> ran;
     queue.async([&] {
         queue.drain();
@@ -40,7 +40,7 @@ TEST(MainQueue, KeepsTheOrderWhenABlockRunsAnEventLoopOfItsOwn) {
 }
 
 TEST(MainQueue, WakesTheEventLoopForEveryBlock) {
-    MainQueue queue;
+    platform::MainQueue queue;
     int wakeUps = 0;
     queue.async([] {});
     queue.setWakeUp([&] { ++wakeUps; });
@@ -56,7 +56,7 @@ TEST(MainQueue, WakesTheEventLoopForEveryBlock) {
 
 TEST(MainQueue, LosesNothingThatThreadsQueueWhileItIsDrained) {
     constexpr int each = 1000;
-    MainQueue queue;
+    platform::MainQueue queue;
     std::atomic<int> wakeUps = 0;
     queue.setWakeUp([&] { ++wakeUps; });
     std::vector<int> ran[2];
@@ -82,7 +82,7 @@ TEST(MainQueue, LosesNothingThatThreadsQueueWhileItIsDrained) {
 }
 
 TEST(MainQueue, DropsABlockThatItCannotWakeAnybodyFor) {
-    MainQueue queue;
+    platform::MainQueue queue;
     bool ran = false;
     queue.setWakeUp([] { throw std::bad_alloc(); });
     EXPECT_THROW(queue.async([&] { ran = true; }), std::bad_alloc);

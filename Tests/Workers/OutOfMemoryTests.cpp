@@ -1,10 +1,10 @@
 #include "Models/Bodies.hpp"
-#include "Network/Session/URLSessionConfiguration.hpp"
+#include "Platform/Http/URLSessionConfiguration.hpp"
+#include "Platform/Queue/MainQueue.hpp"
 #include "Support/FailingAllocations.hpp"
 #include "Support/FaultServer.hpp"
 #include "Support/VirtualClock.hpp"
 #include "Workers/AssociateConsultantToCartWorker.hpp"
-#include "Workers/MainQueue.hpp"
 
 #include <curl/curl.h>
 #include <gtest/gtest.h>
@@ -55,16 +55,16 @@ public:
         : server(authority.serverContext("gateway.test"), {.onThread = &FailingAllocation::spareThisThread}) {
         server.enqueue(Answer::complete(200, tests::orderJson));
         server.enqueue(Answer::complete(200, tests::orderJson));
-        URLSessionConfiguration::setDefaultConfiguration(
+        platform::URLSessionConfiguration::setDefaultConfiguration(
             {.caBundleFile = authority.bundleFile(),
              .hostMappings = {{.host = "gateway.test", .address = "127.0.0.1", .port = server.port()}},
              .clock = clock});
         worker =
             AssociateConsultantToCartWorker::factoryMethod("cart", 7, "gateway.test", {"token", "provider"});
         worker->setDelegate(delegate);
-        mainQueue().setWakeUp([this] { waiting.release(); });
+        platform::mainQueue().setWakeUp([this] { waiting.release(); });
     }
-    ~WorkerTrial() { mainQueue().setWakeUp(nullptr); }
+    ~WorkerTrial() { platform::mainQueue().setWakeUp(nullptr); }
 
     /// Waits for an outcome and has it delivered. OpenSSL may have lost a message for want of memory, so that
     /// both sides wait; such a call is over when its time is.
@@ -74,7 +74,7 @@ public:
             ASSERT_TRUE(waiting.try_acquire_for(std::chrono::seconds(30))) << "no outcome";
         }
         // Not on this thread, which is spared.
-        std::thread([] { mainQueue().drain(); }).join();
+        std::thread([] { platform::mainQueue().drain(); }).join();
     }
 
     /// One more call, which is to bring its answer.

@@ -1,7 +1,7 @@
 #include "Models/Bodies.hpp"
 #include "Models/CheckoutResponse.hpp"
 #include "Models/OpenOrdersResponse.hpp"
-#include "Network/Session/URLSessionConfiguration.hpp"
+#include "Platform/Http/URLSessionConfiguration.hpp"
 #include "Support/FailingAllocations.hpp"
 
 #include <gtest/gtest.h>
@@ -57,7 +57,7 @@ class PeakMemory : public ::testing::TestWithParam<Dense> {};
 
 TEST_P(PeakMemory, IsLessThanAQuarterOfAGibibyteForTheLargestBody) {
     const auto& [name, before, element, after, decodes] = GetParam();
-    const std::size_t size = URLSessionConfiguration().maximumBodyBytes;
+    const std::size_t size = platform::URLSessionConfiguration().maximumBodyBytes;
     const testing::PeakMemory peak;
     std::optional<std::string> body(before);
     body->reserve(size);

@@ -24,9 +24,9 @@ using ::testing::StartsWith;
 // connection of its own although all speak to one host.
 TEST(WorkerFactories, BuildWorkersThatTalkToTheBackEnd) {
     testing::SandboxedSession sandbox;
-    URLSessionConfiguration::setDefaultConfiguration(sandbox.configuration);
+    platform::URLSessionConfiguration::setDefaultConfiguration(sandbox.configuration);
     std::counting_semaphore waiting(0);
-    mainQueue().setWakeUp([&] { waiting.release(); });
+    platform::mainQueue().setWakeUp([&] { waiting.release(); });
     const Authorization authorization{"token", "provider"};
     const auto associateTalk = std::make_shared<testing::Conversation<OrderResult>>();
     const auto associateDelegate = std::make_shared<testing::FakeAssociateDelegate>(associateTalk);
@@ -48,9 +48,9 @@ TEST(WorkerFactories, BuildWorkersThatTalkToTheBackEnd) {
         sandbox.server.enqueue(testing::Answer::complete(++status, R"({"consultant":{"id":7},"carts":[]})"));
         worker->execute();
         ASSERT_TRUE(waiting.try_acquire_for(std::chrono::seconds(30)));
-        mainQueue().drain();
+        platform::mainQueue().drain();
     }
-    mainQueue().setWakeUp(nullptr);
+    platform::mainQueue().setWakeUp(nullptr);
 
     EXPECT_THAT(
         sandbox.server.requests(),
@@ -100,7 +100,8 @@ TEST(Worker, MayBeReleasedLastOnItsSessionsThread) {
         std::make_unique<SellOutCartCheckoutService>(
             Authorization{"token", "provider"}, "PE", 7, testing::gatewayHost,
             std::make_shared<URLRequestFactory>(),
-            std::make_shared<URLSessionWrapper>(std::make_shared<URLSession>(sandbox.configuration)),
+            std::make_shared<URLSessionWrapper>(
+                std::make_shared<platform::URLSession>(sandbox.configuration)),
             std::make_shared<HttpErrorFactory>(), std::make_shared<UrlCreator>()),
         std::make_unique<ReleasingQueue>(isReleased, isGone));
     worker->execute();

@@ -62,7 +62,7 @@ struct Worker : ::testing::Test {
     }
 
     std::shared_ptr<testing::Conversation<Result>> talk = std::make_shared<testing::Conversation<Result>>();
-    std::shared_ptr<MainQueue> queue = std::make_shared<MainQueue>();
+    std::shared_ptr<platform::MainQueue> queue = std::make_shared<platform::MainQueue>();
     decltype(Row::make(talk, std::make_unique<testing::DrainedQueue>(queue))) worker =
         Row::make(talk, std::make_unique<testing::DrainedQueue>(queue));
     std::shared_ptr<typename Row::Delegate> delegate = std::make_shared<typename Row::Delegate>(talk);

@@ -18,7 +18,7 @@ QString text(const std::string& utf8) {
 
 } // namespace
 
-qsizetype Journal::entry(quint64 exchange, const quillet::URLRequest& request) {
+qsizetype Journal::entry(quint64 exchange, const quillet::platform::URLRequest& request) {
     for (qsizetype i = requests_.size() - 1; i >= 0; --i) {
         if (requests_[i].toMap().value(QStringLiteral("exchange")).toULongLong() == exchange) {
             return i;
@@ -45,13 +45,13 @@ qsizetype Journal::entry(quint64 exchange, const quillet::URLRequest& request) {
     return requests_.size() - 1;
 }
 
-void Journal::requestStarted(quint64 exchange, const quillet::URLRequest& request) {
+void Journal::requestStarted(quint64 exchange, const quillet::platform::URLRequest& request) {
     entry(exchange, request);
     Q_EMIT requestsChanged();
 }
 
-void Journal::requestEnded(quint64 exchange, const quillet::URLRequest& request,
-                           const quillet::URLSessionExchangeEnd& end) {
+void Journal::requestEnded(quint64 exchange, const quillet::platform::URLRequest& request,
+                           const quillet::platform::URLSessionExchangeEnd& end) {
     const auto index = entry(exchange, request);
     QVariantMap row = requests_[index].toMap();
     row[QStringLiteral("pending")] = false;

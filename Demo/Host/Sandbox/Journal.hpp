@@ -2,7 +2,7 @@
 
 #include "KelCommon/KelAnalytics.hpp"
 #include "KelDSIcons/KelDSIcons.hpp"
-#include "Network/Session/URLSessionObserving.hpp"
+#include "Platform/Http/URLSessionObserving.hpp"
 
 #include <QJsonArray>
 #include <QObject>
@@ -19,9 +19,9 @@ class Journal final : public QObject {
     Q_PROPERTY(QVariantList navigation READ navigation NOTIFY navigationChanged FINAL)
 
 public:
-    void requestStarted(quint64 exchange, const quillet::URLRequest& request);
-    void requestEnded(quint64 exchange, const quillet::URLRequest& request,
-                      const quillet::URLSessionExchangeEnd& end);
+    void requestStarted(quint64 exchange, const quillet::platform::URLRequest& request);
+    void requestEnded(quint64 exchange, const quillet::platform::URLRequest& request,
+                      const quillet::platform::URLSessionExchangeEnd& end);
     void screenTracked(const QString& name);
     void eventTracked(const kel::KelAnalyticsEventType& event);
     /// The icon is what the journal shows beside the operation.
@@ -45,7 +45,7 @@ Q_SIGNALS:
     void navigationChanged();
 
 private:
-    qsizetype entry(quint64 exchange, const quillet::URLRequest& request);
+    qsizetype entry(quint64 exchange, const quillet::platform::URLRequest& request);
 
     QVariantList requests_;
     QVariantList analytics_;

@@ -28,15 +28,15 @@ QString environmentName(quillet::Environment environment) {
 } // namespace
 
 void LiveStatus::gatewayStarted() {
-    setGateway(QStringLiteral("gateway up"), kel::KelTagColor::success);
+    setGateway(QStringLiteral("gateway up"), kel::KelTagColor::Success);
 }
 
 void LiveStatus::gatewayEnded() {
-    setGateway(QStringLiteral("gateway down"), kel::KelTagColor::alert);
+    setGateway(QStringLiteral("gateway down"), kel::KelTagColor::Alert);
 }
 
 void LiveStatus::gatewayElsewhere(const GatewayAddress& address) {
-    setGateway(QStringLiteral("%1:%2").arg(address.host).arg(address.port), kel::KelTagColor::link);
+    setGateway(QStringLiteral("%1:%2").arg(address.host).arg(address.port), kel::KelTagColor::Link);
 }
 
 void LiveStatus::opened(const quillet::CartForConsultant& cart, quillet::Environment environment) {
@@ -47,9 +47,9 @@ void LiveStatus::opened(const quillet::CartForConsultant& cart, quillet::Environ
     Q_EMIT changed();
 }
 
-void LiveStatus::setGateway(const QString& text, kel::KelTagColor color) {
+void LiveStatus::setGateway(const QString& text, kel::KelTagColor::Color color) {
     gateway_ = text;
-    gatewayColor_ = int(color);
+    gatewayColor_ = color;
     Q_EMIT changed();
 }
 

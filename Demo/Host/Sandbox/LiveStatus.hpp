@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Entry/Environment.hpp"
-#include "KelDS/KelTokens.hpp"
+#include "KelDS/KelTagColor.hpp"
 #include "Models/CartForConsultant.hpp"
 #include "Sandbox/GatewayProcess.hpp"
 
@@ -18,8 +18,7 @@ class LiveStatus final : public QObject {
     Q_PROPERTY(QString order READ order NOTIFY changed FINAL)
     Q_PROPERTY(QString environment READ environment NOTIFY changed FINAL)
     Q_PROPERTY(QString gateway READ gateway NOTIFY changed FINAL)
-    /// An index of the tag colours.
-    Q_PROPERTY(int gatewayColor READ gatewayColor NOTIFY changed FINAL)
+    Q_PROPERTY(kel::KelTagColor::Color gatewayColor READ gatewayColor NOTIFY changed FINAL)
 
 public:
     /// The gateway is the host's own and listens, until it is said to have ended.
@@ -32,18 +31,18 @@ public:
     [[nodiscard]] QString order() const { return order_; }
     [[nodiscard]] QString environment() const { return environment_; }
     [[nodiscard]] QString gateway() const { return gateway_; }
-    [[nodiscard]] int gatewayColor() const { return gatewayColor_; }
+    [[nodiscard]] kel::KelTagColor::Color gatewayColor() const { return gatewayColor_; }
 
 Q_SIGNALS:
     void changed();
 
 private:
-    void setGateway(const QString& text, kel::KelTagColor color);
+    void setGateway(const QString& text, kel::KelTagColor::Color color);
 
     QString order_;
     QString environment_ = QStringLiteral("dev");
     QString gateway_;
-    int gatewayColor_ = 0;
+    kel::KelTagColor::Color gatewayColor_ = kel::KelTagColor::Primary;
 };
 
 } // namespace demo

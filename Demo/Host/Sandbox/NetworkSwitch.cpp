@@ -62,7 +62,7 @@ void NetworkSwitch::setOn(bool on) {
 }
 
 bool NetworkSwitch::isSatisfied(const std::string& host, bool isMapped) const {
-    return isOn_ && quillet::SystemNetworkPathMonitor().isSatisfied(host, isMapped);
+    return isOn_ && quillet::platform::SystemNetworkPathMonitor().isSatisfied(host, isMapped);
 }
 
 } // namespace demo

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Network/Session/NetworkPathMonitoring.hpp"
+#include "Platform/Http/NetworkPathMonitoring.hpp"
 #include "Sandbox/GatewayProcess.hpp"
 
 #include <QThread>
@@ -14,7 +14,7 @@ namespace demo {
 
 /// The network between the module and a gateway, which can be switched off, as for a consultant on the
 /// underground: connections are passed on to the gateway, or there are none.
-class NetworkSwitch final : public quillet::NetworkPathMonitoring {
+class NetworkSwitch final : public quillet::platform::NetworkPathMonitoring {
 public:
     /// On at first.
     explicit NetworkSwitch(const GatewayAddress& gateway);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Network/Session/NetworkPathMonitoring.hpp"
+#include "Platform/Http/NetworkPathMonitoring.hpp"
 #include "Sandbox/GatewayProcess.hpp"
 #include "Sandbox/Recorders.hpp"
 
@@ -12,6 +12,6 @@ namespace demo {
 /// where the gateways of all three environments are, who watches, and who knows whether there is a network
 /// (null for the system). The module itself is the same here as in production.
 void configurePlatform(const GatewayAddress& gateway, const std::shared_ptr<Journal>& journal,
-                       const std::shared_ptr<const quillet::NetworkPathMonitoring>& networkPath);
+                       const std::shared_ptr<const quillet::platform::NetworkPathMonitoring>& networkPath);
 
 } // namespace demo

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "KelCommon/KelAnalytics.hpp"
-#include "Network/Session/URLSessionObserving.hpp"
+#include "Platform/Http/URLSessionObserving.hpp"
+#include "Platform/Queue/MainQueue.hpp"
 #include "Sandbox/Journal.hpp"
-#include "Workers/MainQueue.hpp"
 
 #include <memory>
 #include <utility>
@@ -11,15 +11,15 @@
 namespace demo {
 
 /// Brings what the sessions report on their own threads to the journal on the main thread.
-class TrafficRecorder final : public quillet::URLSessionObserving {
+class TrafficRecorder final : public quillet::platform::URLSessionObserving {
 public:
     explicit TrafficRecorder(std::shared_ptr<Journal> journal) : journal_(std::move(journal)) {}
 
-    void willSend(std::uint64_t exchange, const quillet::URLRequest& request) override {
+    void willSend(std::uint64_t exchange, const quillet::platform::URLRequest& request) override {
         post([=](Journal& journal) { journal.requestStarted(exchange, request); });
     }
-    void didEnd(std::uint64_t exchange, const quillet::URLRequest& request,
-                const quillet::URLSessionExchangeEnd& end) override {
+    void didEnd(std::uint64_t exchange, const quillet::platform::URLRequest& request,
+                const quillet::platform::URLSessionExchangeEnd& end) override {
         post([=](Journal& journal) { journal.requestEnded(exchange, request, end); });
     }
 
@@ -28,7 +28,7 @@ private:
     // does.
     template <typename Entry>
     void post(Entry entry) {
-        quillet::mainQueue().async([journal = journal_, entry] { entry(*journal); });
+        quillet::platform::mainQueue().async([journal = journal_, entry] { entry(*journal); });
     }
 
     std::shared_ptr<Journal> journal_;

@@ -1,11 +1,10 @@
 #include "Sandbox/RefusedOrder.hpp"
 
 #include "KelCommon/KelAnalyticsManager.hpp"
-#include "SaleSummary/SaleSummaryQml.hpp"
+#include "Platform/Queue/MainQueue.hpp"
 #include "SaleSummary/Screen/SaleSummaryViewController.hpp"
 #include "SaleSummary/UseCases/SaleSummaryUseCaseFactory.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModel.hpp"
-#include "Workers/MainQueue.hpp"
 
 namespace demo {
 
@@ -16,7 +15,7 @@ class HandmadeWorker final : public quillet::Executable {
 public:
     explicit HandmadeWorker(std::function<void()> answer) : answer_(std::move(answer)) {}
     [[nodiscard]] bool isFinishedSuccessfully() const override { return false; }
-    void execute() override { quillet::mainQueue().async(answer_); }
+    void execute() override { quillet::platform::mainQueue().async(answer_); }
 
 private:
     std::function<void()> answer_;
@@ -37,10 +36,9 @@ quillet::OrderResult refusal(const std::string& code) {
 
 } // namespace
 
-std::shared_ptr<quillet::QuickViewController>
+std::shared_ptr<quillet::platform::QuickViewController>
 refusedOrderScreen(const std::string& code,
                    const std::weak_ptr<quillet::QuilletNavigationDelegate>& navigation) {
-    quillet::useSaleSummaryQml();
     const auto receiver = std::make_shared<std::weak_ptr<quillet::SaleSummaryViewModel>>();
     const auto answer = [receiver](auto deliver) {
         return std::make_shared<HandmadeWorker>([receiver, deliver] {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Platform/Screens/QuickViewController.hpp"
 #include "Views/Navigation/QuilletNavigationDelegate.hpp"
-#include "Views/Screen/QuickViewController.hpp"
 
 #include <memory>
 #include <string>
@@ -11,7 +11,7 @@ namespace demo {
 /// The module's first screen with workers that ask nobody: the association is refused as a server error of
 /// status 422 with the given code. The services never deliver such a result, but the screen has an answer to
 /// it.
-[[nodiscard]] std::shared_ptr<quillet::QuickViewController>
+[[nodiscard]] std::shared_ptr<quillet::platform::QuickViewController>
 refusedOrderScreen(const std::string& code,
                    const std::weak_ptr<quillet::QuilletNavigationDelegate>& navigation);
 

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import KelDS
+import Quillet
 
 // The host's bar: title and way back of whatever is on top, as a module screen tells them.
 Rectangle {
@@ -26,15 +27,15 @@ Rectangle {
         number: KelIcons.ArrowBack
         color: KelColors.highEmphasis
         text: "Atrás"
-        onActivated: bar.stack.pop()
+        onActivated: if (!Covers.over(this)) bar.stack.pop()
     }
     KelLabel {
         x: back.visible ? KelSizes.mediumX : KelSpacing.small
         width: parent.width - x - KelSpacing.small
         height: parent.height
         text: bar.title
-        size: 5
-        weight: 1
+        size: KelFonts.Headline6
+        weight: KelFonts.Medium
         elide: Text.ElideRight
     }
     KelDivider {

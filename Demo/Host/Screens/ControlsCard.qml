@@ -13,12 +13,12 @@ ControlsSection {
 
             KelLabel {
                 text: "Resumen del Pedido:"
-                size: 5
-                weight: 1
+                size: KelFonts.Headline6
+                weight: KelFonts.Medium
             }
-            KelValueLabel {
-                caption: "Ciclo del pedido: "
-                value: "05"
+            KelLabel {
+                text: "Ciclo del pedido: <b>05</b>"
+                textFormat: Text.StyledText
             }
         }
     }

@@ -47,7 +47,7 @@ ControlsSection {
 
                     width: KelSizes.semi
                     height: KelSizes.semi
-                    radius: KelRadius.medium
+                    radius: KelBorderRadius.medium
                     color: token.modelData.color
                     border.width: 1
                     border.color: KelColors.hairline
@@ -58,7 +58,7 @@ ControlsSection {
 
                     KelLabel {
                         text: token.modelData.name
-                        size: 11
+                        size: KelFonts.Caption
                     }
                     ControlsNote {
                         text: token.modelData.color.toString().toUpperCase()

@@ -3,6 +3,6 @@ import KelDS
 
 // What a sample on the sheet is called.
 KelLabel {
-    size: 11
+    size: KelFonts.Caption
     color: KelColors.mediumEmphasis
 }

@@ -16,38 +16,22 @@ ControlsSection {
             width: row.cell
             spacing: KelSpacing.small
 
-            KelExpansionPanel {
+            ControlsPanel {
                 width: parent.width
                 title: "Productos enviados"
                 tone: KelColors.success
-                stroke: KelColors.success
-                expanded: false
-
-                ControlsProduct {
-                    width: parent.width
-                }
             }
-            KelExpansionPanel {
+            ControlsPanel {
                 width: parent.width
                 title: "Productos no enviados"
                 tone: KelColors.alert
-                stroke: KelColors.alert
-                expanded: false
-
-                ControlsProduct {
-                    width: parent.width
-                }
             }
         }
-        KelExpansionPanel {
+        ControlsPanel {
             width: row.cell
             title: "Productos no enviados"
             tone: KelColors.alert
-            stroke: KelColors.alert
-
-            ControlsProduct {
-                width: parent.width
-            }
+            expanded: true
         }
     }
 }

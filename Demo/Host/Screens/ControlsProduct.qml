@@ -18,7 +18,7 @@ Item {
         y: KelSpacing.small
         width: KelSizes.semiX
         height: KelSizes.semiX
-        radius: KelRadius.medium
+        radius: KelBorderRadius.medium
         color: KelColors.tint(KelColors.mediumEmphasis)
 
         KelIcon {
@@ -34,14 +34,14 @@ Item {
         y: tile.y
         width: KelSizes.standard
         height: KelSizes.standard
-        radius: KelRadius.small
+        radius: KelBorderRadius.small
         color: KelColors.primary
 
         KelLabel {
             anchors.centerIn: parent
             text: "3"
-            size: 11
-            weight: 2
+            size: KelFonts.Caption
+            weight: KelFonts.Bold
             color: KelColors.inkOnPrimary
         }
     }
@@ -56,7 +56,7 @@ Item {
         KelLabel {
             width: parent.width
             text: "Labial mate Arcilla rosada"
-            size: 7
+            size: KelFonts.Subtitle2
             lineHeight: 1.2
             wrapMode: Text.Wrap
         }
@@ -73,8 +73,8 @@ Item {
         anchors.rightMargin: KelSpacing.small
         y: tile.y
         text: "18 puntos"
-        size: 7
-        weight: 1
+        size: KelFonts.Subtitle2
+        weight: KelFonts.Medium
         color: KelColors.success
     }
 }

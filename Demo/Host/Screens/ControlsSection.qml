@@ -11,6 +11,6 @@ Column {
 
     KelLabel {
         text: section.title
-        weight: 1
+        weight: KelFonts.Medium
     }
 }

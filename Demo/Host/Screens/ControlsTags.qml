@@ -28,10 +28,10 @@ ControlsSection {
 
                 KelTag {
                     text: sample.index === 2 ? "12" : "3"
-                    colorIndex: sample.index
+                    tagColor: sample.index
                 }
                 KelTag {
-                    colorIndex: sample.index
+                    tagColor: sample.index
                 }
                 ControlsNote {
                     text: sample.index + " " + sample.modelData

@@ -9,19 +9,19 @@ ControlsSection {
 
     // One sample for each size index.
     readonly property var samples: [
-        { text: "Ciclo 05", weight: 2 },
-        { text: "Ciclo actual", weight: 2 },
-        { text: "Ciclo actual", weight: 2 },
-        { text: "Ciclo actual: 05", weight: 2 },
-        { text: "Ciclo actual: 05", weight: 2 },
-        { text: "Puntos en curso: 1240", weight: 1 },
-        { text: "Puntos del pedido: 86", weight: 1 },
-        { text: "Crema de manos Brisa de almendra", weight: 0 },
-        { text: "Ir al carrito", weight: 2 },
-        { text: "Productos enviados", weight: 1 },
-        { text: "En Curso", weight: 2 },
-        { text: "Code: 70412", weight: 0 },
-        { text: "not for reading text", weight: 0 }
+        { text: "Ciclo 05", weight: KelFonts.Bold },
+        { text: "Ciclo actual", weight: KelFonts.Bold },
+        { text: "Ciclo actual", weight: KelFonts.Bold },
+        { text: "Ciclo actual: 05", weight: KelFonts.Bold },
+        { text: "Ciclo actual: 05", weight: KelFonts.Bold },
+        { text: "Puntos en curso: 1240", weight: KelFonts.Medium },
+        { text: "Puntos del pedido: 86", weight: KelFonts.Medium },
+        { text: "Crema de manos Brisa de almendra", weight: KelFonts.Regular },
+        { text: "Ir al carrito", weight: KelFonts.Bold },
+        { text: "Productos enviados", weight: KelFonts.Medium },
+        { text: "En Curso", weight: KelFonts.Bold },
+        { text: "Code: 70412", weight: KelFonts.Regular },
+        { text: "not for reading text", weight: KelFonts.Regular }
     ]
 
     title: "Type"

@@ -2,7 +2,6 @@
 // qmllint disable unqualified
 
 import QtQuick
-import QtQuick.Controls.Basic
 import KelDS
 
 // Incoming orders, as they came over WhatsApp.
@@ -57,13 +56,13 @@ ListView {
                     KelLabel {
                         width: parent.width
                         text: order.modelData.customer
-                        weight: 1
+                        weight: KelFonts.Medium
                         wrapMode: Text.Wrap
                     }
                     KelLabel {
                         width: parent.width
                         text: order.modelData.message
-                        size: 7
+                        size: KelFonts.Subtitle2
                         lineHeight: 1.2
                         color: KelColors.mediumEmphasis
                         wrapMode: Text.Wrap
@@ -72,7 +71,7 @@ ListView {
                         width: parent.width
                         text: order.modelData.consultant + " · " + order.modelData.title
                         wrapMode: Text.Wrap
-                        size: 11
+                        size: KelFonts.Caption
                         color: KelColors.mediumEmphasis
                     }
                 }

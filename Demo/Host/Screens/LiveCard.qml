@@ -20,14 +20,14 @@ KelCard {
         x: KelSpacing.small
         height: KelSizes.mediumX
         text: card.title
-        weight: 1
+        weight: KelFonts.Medium
     }
     KelLabel {
         anchors.right: parent.right
         anchors.rightMargin: KelSpacing.small
         height: KelSizes.mediumX
         text: card.rows.length
-        size: 11
+        size: KelFonts.Caption
         color: KelColors.mediumEmphasis
     }
     KelDivider {
@@ -48,7 +48,7 @@ KelCard {
             visible: text !== ""
             height: visible ? KelSizes.mediumX : 0
             text: card.outlook
-            size: 11
+            size: KelFonts.Caption
             color: KelColors.mediumEmphasis
         }
         onCountChanged: positionViewAtEnd()

@@ -25,7 +25,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         width: entry.tiled ? KelSizes.semi : KelSizes.small
         height: width
-        radius: KelRadius.medium
+        radius: KelBorderRadius.medium
         color: entry.tiled ? KelColors.withAlpha(entry.ground, KelOpacity.low) : "transparent"
 
         KelIcon {
@@ -45,14 +45,14 @@ Item {
         KelLabel {
             width: parent.width
             text: entry.title
-            size: 7
-            weight: 1
+            size: KelFonts.Subtitle2
+            weight: KelFonts.Medium
             elide: Text.ElideRight
         }
         KelLabel {
             width: parent.width
             text: entry.detail
-            size: 11
+            size: KelFonts.Caption
             color: KelColors.mediumEmphasis
             elide: Text.ElideRight
         }
@@ -63,7 +63,7 @@ Item {
         anchors.right: parent.right
         height: parent.height
         text: entry.time
-        size: 11
+        size: KelFonts.Caption
         color: KelColors.mediumEmphasis
     }
     KelDivider {

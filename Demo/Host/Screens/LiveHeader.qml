@@ -16,14 +16,14 @@ Item {
 
         KelLabel {
             text: "Live"
-            size: 5
-            weight: 1
+            size: KelFonts.Headline6
+            weight: KelFonts.Medium
         }
         KelLabel {
             width: parent.width
             visible: text !== ""
             text: header.status.order
-            size: 11
+            size: KelFonts.Caption
             color: KelColors.mediumEmphasis
             elide: Text.ElideRight
         }
@@ -37,11 +37,11 @@ Item {
 
         KelTag {
             text: header.status.environment
-            colorIndex: 4
+            tagColor: KelTagColor.Link
         }
         KelTag {
             text: header.status.gateway
-            colorIndex: header.status.gatewayColor
+            tagColor: header.status.gatewayColor
         }
     }
 }

@@ -18,22 +18,22 @@ Item {
     KelLabel {
         height: parent.height
         text: request.modelData.time
-        size: 11
+        size: KelFonts.Caption
         color: KelColors.mediumEmphasis
     }
     KelLabel {
         x: 2 * KelSizes.medium
         height: parent.height
         text: request.modelData.method
-        size: 11
-        weight: 2
+        size: KelFonts.Caption
+        weight: KelFonts.Bold
     }
     KelLabel {
         x: 2 * KelSizes.medium + KelSizes.mediumX
         width: tag.x - x - KelSpacing.tiny
         height: parent.height
         text: request.modelData.path
-        size: 11
+        size: KelFonts.Caption
         elide: Text.ElideMiddle
     }
     KelTag {
@@ -43,8 +43,8 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         text: request.modelData.pending ? "…"
             : request.modelData.status > 0 ? request.modelData.status : request.modelData.error
-        colorIndex: request.modelData.pending ? 4
-                  : request.modelData.status >= 200 && request.modelData.status < 300 ? 1 : 3
+        tagColor: request.modelData.pending ? KelTagColor.Link
+                : request.modelData.status >= 200 && request.modelData.status < 300 ? KelTagColor.Success : KelTagColor.Alert
     }
     KelLabel {
         id: duration
@@ -53,7 +53,7 @@ Item {
         width: 2 * KelSizes.semiX
         height: parent.height
         text: request.modelData.pending ? "" : request.modelData.milliseconds + " ms"
-        size: 11
+        size: KelFonts.Caption
         color: KelColors.mediumEmphasis
         horizontalAlignment: Text.AlignRight
     }

@@ -15,8 +15,8 @@ KelPressable {
 
     contentItem: KelLabel {
         text: button.text
-        size: 8
-        weight: 2
+        size: KelFonts.Body1
+        weight: KelFonts.Bold
         color: !button.enabled ? KelColors.withAlpha(KelColors.highEmphasis, KelOpacity.medium)
              : button.outlined ? KelColors.highEmphasis : KelColors.inkOnPrimary
         horizontalAlignment: Text.AlignHCenter
@@ -25,7 +25,7 @@ KelPressable {
         Accessible.name: ""
     }
     background: Rectangle {
-        radius: KelRadius.button
+        radius: KelBorderRadius.button
         color: button.outlined ? "transparent"
              : button.enabled ? KelColors.primary
                               : KelColors.withAlpha(KelColors.highEmphasis, KelOpacity.disabled)

@@ -9,18 +9,20 @@ Rectangle {
     default property alias content: body.data
     property int padding: KelSpacing.small
     property int bottomPadding: card.padding
+    // Whether the card lies on the ground, from which a hairline and, where the theme has shadows, a shadow set it off.
+    property bool elevated: true
 
     implicitHeight: body.childrenRect.height + card.padding + card.bottomPadding
-    radius: KelRadius.large
+    radius: KelBorderRadius.large
     color: KelColors.surface
-    border.width: 1
+    border.width: card.elevated ? 1 : 0
     border.color: KelColors.hairline
 
     BorderImage {
         anchors.fill: parent
         anchors.margins: -28
         z: -1
-        visible: KelColors.hasShadows
+        visible: card.elevated && KelColors.hasShadows
         source: "Controls/shadow.png"
         border.left: 44
         border.top: 44

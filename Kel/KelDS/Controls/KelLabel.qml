@@ -5,8 +5,8 @@ import KelDS
 Text {
     id: label
 
-    property int size: 6
-    property int weight: 0
+    property int size: KelFonts.Subtitle1
+    property int weight: KelFonts.Regular
 
     font: KelFonts.font(label.size, label.weight)
     color: KelColors.highEmphasis

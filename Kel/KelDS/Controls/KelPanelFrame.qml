@@ -15,10 +15,10 @@ Item {
     clip: !frame.isTop || !frame.isBottom
 
     Rectangle {
-        y: frame.isTop ? 0 : -KelRadius.large
+        y: frame.isTop ? 0 : -KelBorderRadius.large
         width: parent.width
-        height: parent.height - y + (frame.isBottom ? 0 : KelRadius.large)
-        radius: KelRadius.large
+        height: parent.height - y + (frame.isBottom ? 0 : KelBorderRadius.large)
+        radius: KelBorderRadius.large
         color: frame.fill
         border.width: 1
         border.color: frame.stroke

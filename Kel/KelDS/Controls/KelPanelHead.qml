@@ -17,13 +17,13 @@ KelPressable {
     background: Rectangle {
         anchors.fill: parent
         anchors.margins: 1
-        radius: KelRadius.large
+        radius: KelBorderRadius.large
         color: head.down ? KelColors.tint(head.tone) : "transparent"
 
         KelFocusRing {
             visible: head.showsFocus
             gap: -4
-            cornerRadius: KelRadius.large
+            cornerRadius: KelBorderRadius.large
         }
     }
     contentItem: KelLabel {
@@ -32,7 +32,7 @@ KelPressable {
         topPadding: KelSpacing.tiny
         bottomPadding: KelSpacing.tiny
         text: head.title
-        weight: 2
+        weight: KelFonts.Bold
         color: head.tone
         wrapMode: Text.Wrap
         Accessible.ignored: true

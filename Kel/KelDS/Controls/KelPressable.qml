@@ -1,9 +1,8 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import KelDS
+import QtQuick.Templates as T
 
-// What everything has that can be tapped: it can be reached and used by touch, by key and by a screen reader alike, and
-// a key that is held down uses it once.
+// Base of all tappable controls: touch, keyboard and screen reader. A key that is held down activates once.
 AbstractButton {
     id: pressable
 
@@ -11,14 +10,23 @@ AbstractButton {
     property bool actsOnPress: false
     property bool showsFocus: pressable.visualFocus
 
-    // The control was used, by whatever means.
+    // By touch, key or screen reader.
     signal activated
+
+    // An alert lies over everything in its window but itself. A screen reader reaches what lies under it all the same.
+    function isUnderAlert(): bool {
+        const overlay = T.Overlay.overlay
+        return overlay !== null && overlay.visible && !pressable.isWithin(pressable, overlay)
+    }
+    function isWithin(item: Item, area: Item): bool {
+        return item !== null && (item === area || pressable.isWithin(item.parent, area))
+    }
 
     focusPolicy: Qt.StrongFocus
     hoverEnabled: false
     Accessible.role: Accessible.Button
     Accessible.name: pressable.text
-    Accessible.onPressAction: if (pressable.enabled && !KelCovers.over(pressable)) pressable.activated()
+    Accessible.onPressAction: if (pressable.enabled && !pressable.isUnderAlert()) pressable.activated()
     Keys.onPressed: event => {
         const enters = event.key === Qt.Key_Return || event.key === Qt.Key_Enter
         event.accepted = enters || (event.key === Qt.Key_Space && event.isAutoRepeat)

@@ -43,8 +43,8 @@ Rectangle {
                 onActivated: tabs.currentIndex = tab.index
                 contentItem: KelLabel {
                     text: tab.text
-                    size: 10
-                    weight: 2
+                    size: KelFonts.Button
+                    weight: KelFonts.Bold
                     color: tab.current ? KelColors.highEmphasis : KelColors.mediumEmphasis
                     Accessible.ignored: true
                     Accessible.name: ""

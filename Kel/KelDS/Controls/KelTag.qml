@@ -1,18 +1,17 @@
 import QtQuick
 import KelDS
 
-// A solid pill, or a capsule where it has no text. The colour is one of the tag colours by index: 0 primary, 1 success,
-// 2 warning, 3 alert, 4 link.
+// A solid pill, or a capsule where it has no text. Its colour is one of KelTagColor.
 Rectangle {
     id: tag
 
     property string text
-    property int colorIndex: 3
+    property int tagColor: KelTagColor.Alert
 
     implicitWidth: tag.text === "" ? KelSizes.semi : Math.max(KelSizes.semi, label.implicitWidth + KelSpacing.small)
     implicitHeight: tag.text === "" ? KelSizes.tiny : KelSizes.standard
     radius: height / 2
-    color: [KelColors.primary, KelColors.success, KelColors.warning, KelColors.alert, KelColors.link][tag.colorIndex]
+    color: [KelColors.primary, KelColors.success, KelColors.warning, KelColors.alert, KelColors.link][tag.tagColor]
 
     KelLabel {
         id: label
@@ -21,8 +20,8 @@ Rectangle {
         visible: text !== ""
         Accessible.ignored: text === ""
         text: tag.text
-        size: 11
-        weight: 2
-        color: tag.colorIndex === 0 ? KelColors.inkOnPrimary : KelColors.inkOnTag
+        size: KelFonts.Caption
+        weight: KelFonts.Bold
+        color: tag.tagColor === KelTagColor.Primary ? KelColors.inkOnPrimary : KelColors.inkOnTag
     }
 }

@@ -7,9 +7,5 @@
         <source>Close</source>
         <translation>Close</translation>
     </message>
-    <message>
-        <source>Loading</source>
-        <translation>Loading</translation>
-    </message>
 </context>
 </TS>

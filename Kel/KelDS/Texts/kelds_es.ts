@@ -7,9 +7,5 @@
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
-    <message>
-        <source>Loading</source>
-        <translation>Cargando</translation>
-    </message>
 </context>
 </TS>

@@ -7,9 +7,5 @@
         <source>Close</source>
         <translation>Fechar</translation>
     </message>
-    <message>
-        <source>Loading</source>
-        <translation>Carregando</translation>
-    </message>
 </context>
 </TS>

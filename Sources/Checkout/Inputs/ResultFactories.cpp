@@ -8,9 +8,6 @@ namespace quillet {
 
 namespace {
 
-/// An index of the font sizes.
-constexpr int kPointsSize = 6;
-
 TextWithTagView sentRow(const QString& text, std::uint64_t quantity) {
     return {text, QString::number(quantity), TagColor::success};
 }
@@ -20,14 +17,14 @@ TextWithTagView notSentRow(std::uint64_t quantity) {
 }
 
 std::unique_ptr<PointsLabel> pointsLabel(std::uint64_t points) {
-    return std::make_unique<PointsLabel>(TotalAddedProductPointsPresenter(points), kPointsSize);
+    return std::make_unique<PointsLabel>(TotalAddedProductPointsPresenter(points), kel::KelFonts::Subtitle1);
 }
 
-std::unique_ptr<ScrollableView> compose(ProductsCheckoutStatusViewController& screen, const QString& cycle,
-                                        std::unique_ptr<PointsLabel> points,
-                                        std::unique_ptr<ProductsHeaderView> header,
-                                        std::optional<ExpansionPanel> shipped,
-                                        std::optional<ExpansionPanel> unshipped) {
+std::unique_ptr<ProductsCheckoutStatusView> compose(ProductsCheckoutStatusViewController& screen,
+                                                    const QString& cycle, std::unique_ptr<PointsLabel> points,
+                                                    std::unique_ptr<ProductsHeaderView> header,
+                                                    std::optional<ExpansionPanel> shipped,
+                                                    std::optional<ExpansionPanel> unshipped) {
     auto lists = std::make_unique<ShippingStatusProductsView>(std::move(shipped), std::move(unshipped));
     lists->setup();
     lists->setDelegate(screen.weakSelf());
@@ -36,17 +33,13 @@ std::unique_ptr<ScrollableView> compose(ProductsCheckoutStatusViewController& sc
         std::make_unique<Colors>(), std::make_unique<ButtonFactory>(), std::make_unique<Spacer>(),
         std::make_unique<Sizer>());
     status->setDelegate(screen.weakSelf());
-    auto root = std::make_unique<ScrollableView>();
-    root->setContentView(std::move(status));
-    return root;
+    return status;
 }
 
 } // namespace
 
-template <>
-std::unique_ptr<ScrollableView>
-AllProductsAddedFactory::view(AllProductsAddedFactoryInput input,
-                              ProductsCheckoutStatusViewController& viewController) const {
+std::unique_ptr<ProductsCheckoutStatusView> resultView(AllProductsAddedFactoryInput input,
+                                                       ProductsCheckoutStatusViewController& viewController) {
     // This one text carries no colon; that of the partial result does.
     return compose(
         viewController, input.cycle, pointsLabel(input.totalAddedProductsPoints),
@@ -57,10 +50,8 @@ AllProductsAddedFactory::view(AllProductsAddedFactoryInput input,
         ProductsViewFactory::shippedProductsView(std::move(input.products)), std::nullopt);
 }
 
-template <>
-std::unique_ptr<ScrollableView>
-ProductsPartiallyAddedFactory::view(ProductsPartiallyAddedFactoryInput input,
-                                    ProductsCheckoutStatusViewController& viewController) const {
+std::unique_ptr<ProductsCheckoutStatusView> resultView(ProductsPartiallyAddedFactoryInput input,
+                                                       ProductsCheckoutStatusViewController& viewController) {
     return compose(
         viewController, input.cycle, pointsLabel(input.totalAddedProductPoints),
         std::make_unique<ProductsHeaderView>(
@@ -72,10 +63,8 @@ ProductsPartiallyAddedFactory::view(ProductsPartiallyAddedFactoryInput input,
         ProductsViewFactory::unshippedProductsView(std::move(input.notAddedProducts)));
 }
 
-template <>
-std::unique_ptr<ScrollableView>
-NoProductAddedFactory::view(NoProductAddedFactoryInput input,
-                            ProductsCheckoutStatusViewController& viewController) const {
+std::unique_ptr<ProductsCheckoutStatusView> resultView(NoProductAddedFactoryInput input,
+                                                       ProductsCheckoutStatusViewController& viewController) {
     return compose(viewController, input.cycle, nullptr,
                    std::make_unique<ProductsHeaderView>(
                        std::make_unique<IconWarningView>(),

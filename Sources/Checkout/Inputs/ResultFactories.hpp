@@ -2,7 +2,6 @@
 
 #include "Checkout/Inputs/ResultInputs.hpp"
 #include "Checkout/Status/ProductsCheckoutStatusViewController.hpp"
-#include "Checkout/Status/ScrollableView.hpp"
 
 #include <memory>
 
@@ -14,7 +13,7 @@ template <typename Input>
 class ResultViewCreating {
 public:
     virtual ~ResultViewCreating() = default;
-    [[nodiscard]] virtual std::unique_ptr<ScrollableView>
+    [[nodiscard]] virtual std::unique_ptr<ProductsCheckoutStatusView>
     view(Input input, ProductsCheckoutStatusViewController& viewController) const = 0;
     /// The host's navigation, for the screen.
     [[nodiscard]] virtual std::weak_ptr<QuilletNavigationDelegate> navigationDelegate() const = 0;
@@ -24,16 +23,25 @@ using AllProductsAddedCreating = ResultViewCreating<AllProductsAddedFactoryInput
 using ProductsPartiallyAddedCreating = ResultViewCreating<ProductsPartiallyAddedFactoryInput>;
 using NoProductAddedCreating = ResultViewCreating<NoProductAddedFactoryInput>;
 
-/// What the three factories share: they hold the host's navigation weakly and differ in how they build the
-/// view.
+/// What the three results look like.
+[[nodiscard]] std::unique_ptr<ProductsCheckoutStatusView>
+resultView(AllProductsAddedFactoryInput input, ProductsCheckoutStatusViewController& viewController);
+[[nodiscard]] std::unique_ptr<ProductsCheckoutStatusView>
+resultView(ProductsPartiallyAddedFactoryInput input, ProductsCheckoutStatusViewController& viewController);
+[[nodiscard]] std::unique_ptr<ProductsCheckoutStatusView>
+resultView(NoProductAddedFactoryInput input, ProductsCheckoutStatusViewController& viewController);
+
+/// Holds the host's navigation weakly.
 template <typename Input>
 class ResultViewFactory final : public ResultViewCreating<Input> {
 public:
     explicit ResultViewFactory(std::weak_ptr<QuilletNavigationDelegate> navigationDelegate)
         : navigationDelegate_(std::move(navigationDelegate)) {}
 
-    [[nodiscard]] std::unique_ptr<ScrollableView>
-    view(Input input, ProductsCheckoutStatusViewController& viewController) const override;
+    [[nodiscard]] std::unique_ptr<ProductsCheckoutStatusView>
+    view(Input input, ProductsCheckoutStatusViewController& viewController) const override {
+        return resultView(std::move(input), viewController);
+    }
     [[nodiscard]] std::weak_ptr<QuilletNavigationDelegate> navigationDelegate() const override {
         return navigationDelegate_;
     }

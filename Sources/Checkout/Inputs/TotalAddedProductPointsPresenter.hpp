@@ -10,12 +10,13 @@ namespace quillet {
 struct TotalAddedProductPointsPresenter final : PointsPresenter {
     explicit TotalAddedProductPointsPresenter(std::uint64_t value) : points(value) {}
 
-    [[nodiscard]] QString pointsText() const override {
+    [[nodiscard]] Captioned captioned() const override {
         if (points == 0) {
             return {};
         }
-        return QString::number(points) + (points == 1 ? QStringLiteral(" punto enviado en total")
-                                                      : QStringLiteral(" puntos enviados en total"));
+        return {QString::number(points) + (points == 1 ? QStringLiteral(" punto enviado en total")
+                                                       : QStringLiteral(" puntos enviados en total")),
+                {}};
     }
 
     std::uint64_t points;

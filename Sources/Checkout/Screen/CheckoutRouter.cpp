@@ -1,7 +1,7 @@
 #include "Checkout/Screen/CheckoutRouter.hpp"
 
 #include "KelCommon/KelAnalyticsManager.hpp"
-#include "Views/Screen/NavigationController.hpp"
+#include "Platform/Screens/NavigationController.hpp"
 #include "Views/Screen/ViewController.hpp"
 
 #include <utility>

@@ -13,7 +13,7 @@ CheckoutViewController::CheckoutViewController(std::unique_ptr<Coloring> colors,
                                                std::unique_ptr<TryAgainCreating> tryAgainFactory,
                                                std::unique_ptr<DialogCreating> dialogFactory,
                                                std::weak_ptr<QuilletNavigationDelegate> navigationDelegate)
-    : colors_(std::move(colors)),
+    : ModuleViewController(std::move(colors)),
       viewModel_(std::move(viewModel)),
       router_(std::move(router)),
       wrapperFactory_(std::move(wrapperFactory)),
@@ -24,11 +24,10 @@ CheckoutViewController::CheckoutViewController(std::unique_ptr<Coloring> colors,
 CheckoutViewController::~CheckoutViewController() = default;
 
 QUrl CheckoutViewController::viewUrl() const {
-    return QUrl(QStringLiteral("qrc:/qt/qml/Quillet/Checkout/CheckoutViewController.qml"));
+    return QUrl(QStringLiteral("qrc:/qt/qml/Quillet/CheckoutPage.qml"));
 }
 
 void CheckoutViewController::viewDidLoad() {
-    setBackground([this] { return colors_->background(); });
     viewModel_->startCheckout();
 }
 
@@ -36,33 +35,20 @@ void CheckoutViewController::viewWillAppear() {
     setTitle(Localization::checkout());
 }
 
-QObject* CheckoutViewController::loadingView() {
-    if (!loadingView_) {
-        loadingView_ = std::make_unique<LoadingView>();
-    }
-    return loadingView_.get();
-}
-
 void CheckoutViewController::startLoading() {
-    static_cast<void>(loadingView());
-    loadingView_->startLoading();
+    showLoading();
 }
 
 void CheckoutViewController::stopLoading() {
-    if (loadingView_) {
-        loadingView_->stopLoading();
-    }
+    hideLoading();
 }
 
 void CheckoutViewController::showDialog(const DialogPresenter& presenter, DialogActions actions) {
-    const auto previous = std::move(dialog_);
-    dialog_.reset(
-        new Dialog(presenter, std::make_shared<ViewAnimatingWrapper>(), whileHere(std::move(actions))));
-    Q_EMIT dialogChanged();
+    presentDialog(presenter, std::move(actions));
 }
 
 void CheckoutViewController::removeTryAgainView() {
-    tryAgainView_.reset();
+    showTryAgainView(false);
 }
 
 std::unique_ptr<ViewController> CheckoutViewController::wrapped() {

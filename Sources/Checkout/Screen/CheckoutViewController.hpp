@@ -4,19 +4,17 @@
 #include "Checkout/Screen/CheckoutViewModelDelegate.hpp"
 #include "Checkout/Screen/CheckoutViewModeling.hpp"
 #include "Views/Dialogs/DialogFactory.hpp"
-#include "Views/Loading/LoadingView.hpp"
+#include "Views/Screen/ModuleViewController.hpp"
 #include "Views/Screen/ViewController.hpp"
-#include "Views/Tokens/Coloring.hpp"
-#include "Views/TryAgain/TryAgainView.hpp"
 
 namespace quillet {
 
 /// The screen between the send tap and the result. It has no content of its own: it covers itself while the
 /// checkout runs, and then makes way for a result screen or shows the generic error.
-class CheckoutViewController final : public QuickViewController, public CheckoutViewModelDelegate {
+class CheckoutViewController final : public quillet::ModuleViewController, public CheckoutViewModelDelegate {
     Q_OBJECT
-    Q_PROPERTY(QObject* loadingView READ loadingView CONSTANT FINAL)
-    Q_PROPERTY(QObject* dialog READ dialog NOTIFY dialogChanged FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("Screens are made by factories")
 
 public:
     CheckoutViewController(std::unique_ptr<Coloring> colors, std::shared_ptr<CheckoutViewModeling> viewModel,
@@ -39,23 +37,14 @@ public:
     [[nodiscard]] std::unique_ptr<ViewController> wrapped() override;
     [[nodiscard]] std::shared_ptr<QuilletNavigationDelegate> navigationDelegate() const override;
 
-    [[nodiscard]] QObject* loadingView();
-    [[nodiscard]] QObject* dialog() const { return dialog_.get(); }
-
-Q_SIGNALS:
-    void dialogChanged();
-
 private:
-    std::unique_ptr<Coloring> colors_;
     std::shared_ptr<CheckoutViewModeling> viewModel_;
     std::unique_ptr<CheckoutRoutering> router_;
     std::unique_ptr<ViewControllerWrapperCreating> wrapperFactory_;
+    // Handed in by the factory. This flow shows no try-again view, and the screen builds its dialog itself.
     std::unique_ptr<TryAgainCreating> tryAgainFactory_;
-    std::unique_ptr<TryAgainScreen, DeleteLater> tryAgainView_;
     std::unique_ptr<DialogCreating> dialogFactory_;
-    std::unique_ptr<Dialog, DeleteLater> dialog_;
     std::weak_ptr<QuilletNavigationDelegate> navigationDelegate_;
-    std::unique_ptr<LoadingView> loadingView_;
 };
 
 } // namespace quillet

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "KelDS/KelTokens.hpp"
 #include "KelDSIcons/KelDSIcons.hpp"
 #include "Views/Tokens/Coloring.hpp"
 #include "Views/Tokens/Sizing.hpp"
@@ -12,8 +11,10 @@ namespace quillet {
 
 /// The icon at the top of a result: an icon of the catalogue on a disc in the result's tone, some with a
 /// small mark at its edge. Main thread only.
-class IconStatusProductsView : public ThemedView {
+class IconStatusProductsView : public quillet::ThemedView {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of a ProductsHeaderView")
     Q_PROPERTY(int iconNumber READ iconNumber CONSTANT FINAL)
     Q_PROPERTY(int iconSize READ iconSize CONSTANT FINAL)
     Q_PROPERTY(QColor iconColor READ iconColor NOTIFY themeChanged FINAL)
@@ -42,7 +43,7 @@ private:
 };
 
 /// Everything was sent.
-class IconProductsSuccessView final : public IconStatusProductsView {
+class IconProductsSuccessView final : public quillet::IconStatusProductsView {
     Q_OBJECT
 
 public:
@@ -53,7 +54,7 @@ public:
 };
 
 /// Something was not sent.
-class IconProductsFailureView final : public IconStatusProductsView {
+class IconProductsFailureView final : public quillet::IconStatusProductsView {
     Q_OBJECT
 
 public:
@@ -64,7 +65,7 @@ public:
 };
 
 /// Nothing was sent.
-class IconWarningView final : public IconStatusProductsView {
+class IconWarningView final : public quillet::IconStatusProductsView {
     Q_OBJECT
 
 public:

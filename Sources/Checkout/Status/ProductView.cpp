@@ -34,4 +34,11 @@ QString UnshippedProductView::reason() const {
     return {};
 }
 
+ProductRow UnshippedProductView::row() const {
+    ProductRow row = productView_.row();
+    row.hasReason = true;
+    row.reasonTag = reasonTagText();
+    return row;
+}
+
 } // namespace quillet

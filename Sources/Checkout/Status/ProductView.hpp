@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Checkout/Status/ProductRow.hpp"
 #include "Models/Product.hpp"
 
 #include <QString>
@@ -21,6 +22,7 @@ public:
     [[nodiscard]] QString code() const;
     /// The points and the word for them.
     [[nodiscard]] QString points() const;
+    [[nodiscard]] ProductRow row() const { return {quantity(), description(), code(), points(), false, {}}; }
 
 private:
     Product product_;
@@ -37,6 +39,7 @@ public:
     [[nodiscard]] QString reason() const;
     /// What the tag reads, which is nothing.
     [[nodiscard]] static QString reasonTagText() { return {}; }
+    [[nodiscard]] ProductRow row() const;
 
 private:
     ProductView productView_;

@@ -20,17 +20,16 @@ public:
 
 /// The content of a result screen: cycle, points sent in total, header card, the two sections, reminder and
 /// button.
-class ProductsCheckoutStatusView final : public ThemedView {
+class ProductsCheckoutStatusView final : public quillet::ThemedView {
     Q_OBJECT
-    Q_PROPERTY(QObject* cycleLabel READ cycleLabel CONSTANT FINAL)
-    Q_PROPERTY(QObject* totalAddedProductPointsLabel READ totalAddedProductPointsLabel CONSTANT FINAL)
-    Q_PROPERTY(QObject* headerView READ headerView CONSTANT FINAL)
-    Q_PROPERTY(QAbstractItemModel* products READ products CONSTANT FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by a result's factory")
+    Q_PROPERTY(quillet::Label* cycleLabel READ cycleLabel CONSTANT FINAL)
+    Q_PROPERTY(quillet::Label* totalAddedProductPointsLabel READ totalAddedProductPointsLabel CONSTANT FINAL)
+    Q_PROPERTY(quillet::ProductsHeaderView* headerView READ headerView CONSTANT FINAL)
+    Q_PROPERTY(quillet::ShippingStatusProductsView* products READ products CONSTANT FINAL)
     Q_PROPERTY(quillet::RememberLabel rememberLabel READ rememberLabel NOTIFY themeChanged FINAL)
     Q_PROPERTY(quillet::Button goToCartButton READ goToCartButton CONSTANT FINAL)
-    Q_PROPERTY(int sideSpacing READ sideSpacing CONSTANT FINAL)
-    Q_PROPERTY(int partSpacing READ partSpacing CONSTANT FINAL)
-    Q_PROPERTY(int leastRowHeight READ leastRowHeight CONSTANT FINAL)
 
 public:
     /// Cycle and points may be absent.
@@ -52,12 +51,6 @@ public:
     [[nodiscard]] ShippingStatusProductsView* products() const { return shippingStatusProductsView_.get(); }
     [[nodiscard]] RememberLabel rememberLabel() const { return RememberLabel::in(*colors_); }
     [[nodiscard]] Button goToCartButton() const;
-    /// Beside the parts, and between them from the header card on.
-    [[nodiscard]] int sideSpacing() const { return spacing_->small(); }
-    /// Above and below the labels at the top.
-    [[nodiscard]] int partSpacing() const { return spacing_->semi(); }
-    /// No product's row is lower than its tile with the spacing around it.
-    [[nodiscard]] int leastRowHeight() const { return sizing_->semiX() + 2 * spacing_->small(); }
 
     Q_INVOKABLE void tapGoToCart();
 
@@ -69,6 +62,7 @@ private:
     std::unique_ptr<ShippingStatusProductsView> shippingStatusProductsView_;
     std::unique_ptr<Coloring> colors_;
     std::unique_ptr<ButtonCreating> buttonFactory_;
+    // Handed in by the factory. The QML that lays the view out reads the same tokens from the design system.
     std::unique_ptr<Spacing> spacing_;
     std::unique_ptr<Sizing> sizing_;
 };

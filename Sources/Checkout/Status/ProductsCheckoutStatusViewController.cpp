@@ -2,7 +2,6 @@
 
 #include "Checkout/Analytics/CheckoutAnalyticsScreen.hpp"
 #include "Checkout/Analytics/ProductsCheckoutStatusAnalyticsEvent.hpp"
-#include "KelDS/KelColors.hpp"
 #include "Views/Navigation/QuilletNavigationDelegate.hpp"
 
 #include <utility>
@@ -16,7 +15,6 @@ ProductsCheckoutStatusViewController::ProductsCheckoutStatusViewController(
     std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager)
     : loadingDisplayer_(std::move(loadingDisplayer)), analyticsManager_(std::move(analyticsManager)) {
     setTitle(QStringLiteral("Comentarios sobre los envíos"));
-    setBackground(kel::KelColors::background);
     analyticsManager_->trackScreen(ProductsCheckoutStatusAnalyticsScreen());
 }
 
@@ -32,7 +30,7 @@ std::weak_ptr<ProductsCheckoutStatusViewController> ProductsCheckoutStatusViewCo
 }
 
 QUrl ProductsCheckoutStatusViewController::viewUrl() const {
-    return QUrl(QStringLiteral("qrc:/qt/qml/Quillet/Checkout/ProductsCheckoutStatusViewController.qml"));
+    return QUrl(QStringLiteral("qrc:/qt/qml/Quillet/ProductsCheckoutStatusPage.qml"));
 }
 
 void ProductsCheckoutStatusViewController::didTapGoToCartButton() {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Checkout/Status/ScrollableView.hpp"
+#include "Checkout/Status/ProductsCheckoutStatusView.hpp"
 #include "KelCommon/KelAnalytics.hpp"
 #include "Views/Loading/LoadingDisplayer.hpp"
-#include "Views/Screen/QuickViewController.hpp"
+#include "Views/Screen/ModuleViewController.hpp"
 
 namespace quillet {
 
@@ -11,12 +11,13 @@ class QuilletNavigationDelegate;
 
 /// The one result screen of a checkout, filled in three ways. Its root view is installed by the router. Sets
 /// its title and sends its screen view when it is made.
-class ProductsCheckoutStatusViewController final : public QuickViewController,
+class ProductsCheckoutStatusViewController final : public quillet::ModuleViewController,
                                                    public ProductsCheckoutStatusViewDelegate,
                                                    public ShippingStatusProductsViewDelegate {
     Q_OBJECT
-    Q_PROPERTY(QObject* status READ status CONSTANT FINAL)
-    Q_PROPERTY(QObject* loadingView READ loadingView CONSTANT FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("Screens are made by factories")
+    Q_PROPERTY(quillet::ProductsCheckoutStatusView* status READ status CONSTANT FINAL)
 
 public:
     ProductsCheckoutStatusViewController(std::unique_ptr<LoadingDisplayable> loadingDisplayer,
@@ -25,7 +26,7 @@ public:
 
     void setNavigationDelegate(std::weak_ptr<QuilletNavigationDelegate> navigationDelegate);
     /// Installs the root view; once, before the screen is pushed.
-    void setView(std::unique_ptr<ScrollableView> view) { view_ = std::move(view); }
+    void setView(std::unique_ptr<ProductsCheckoutStatusView> view) { view_ = std::move(view); }
     [[nodiscard]] std::weak_ptr<ProductsCheckoutStatusViewController> weakSelf();
 
     [[nodiscard]] QUrl viewUrl() const override;
@@ -38,14 +39,14 @@ public:
     void didExpandProductsNotSent() override;
     void didHideProductsNotSent() override;
 
-    [[nodiscard]] QObject* status() const { return view_ ? view_->contentView() : nullptr; }
-    [[nodiscard]] QObject* loadingView() const { return &loadingDisplayer_->loadingView(); }
+    [[nodiscard]] ProductsCheckoutStatusView* status() const { return view_.get(); }
+    [[nodiscard]] LoadingView* loadingView() override { return &loadingDisplayer_->loadingView(); }
 
 private:
     std::weak_ptr<QuilletNavigationDelegate> navigationDelegate_;
     std::unique_ptr<LoadingDisplayable> loadingDisplayer_;
     std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager_;
-    std::unique_ptr<ScrollableView> view_;
+    std::unique_ptr<ProductsCheckoutStatusView> view_;
 };
 
 } // namespace quillet

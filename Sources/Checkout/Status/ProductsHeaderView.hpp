@@ -12,13 +12,14 @@
 namespace quillet {
 
 /// The card at the top of a result: icon, main message, and below a divider the counter rows.
-class ProductsHeaderView final : public ThemedView {
+class ProductsHeaderView final : public quillet::ThemedView {
     Q_OBJECT
-    Q_PROPERTY(QObject* iconView READ iconView CONSTANT FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of a ProductsCheckoutStatusView")
+    Q_PROPERTY(quillet::IconStatusProductsView* iconView READ iconView CONSTANT FINAL)
     Q_PROPERTY(QString mainMessage READ mainMessage CONSTANT FINAL)
     Q_PROPERTY(QFont mainMessageFont READ mainMessageFont CONSTANT FINAL)
     Q_PROPERTY(QColor mainMessageColor READ mainMessageColor NOTIFY themeChanged FINAL)
-    Q_PROPERTY(int partSpacing READ partSpacing CONSTANT FINAL)
     Q_PROPERTY(QList<quillet::TextWithTagView> textWithTagViews READ textWithTagViews CONSTANT FINAL)
 
 public:
@@ -36,15 +37,16 @@ public:
 
     [[nodiscard]] IconStatusProductsView* iconView() const { return iconView_.get(); }
     [[nodiscard]] const QString& mainMessage() const { return mainMessage_; }
-    [[nodiscard]] QFont mainMessageFont() const { return fonts_->font(6, 1); }
+    [[nodiscard]] QFont mainMessageFont() const {
+        return fonts_->font(kel::KelFonts::Subtitle1, kel::KelFonts::Medium);
+    }
     [[nodiscard]] QColor mainMessageColor() const { return colors_->highEmphasis(); }
-    /// Around the icon, the message and the divider.
-    [[nodiscard]] int partSpacing() const { return spacing_->small(); }
     [[nodiscard]] const QList<TextWithTagView>& textWithTagViews() const { return textWithTagViews_; }
 
 private:
     std::unique_ptr<FontsCreating> fonts_;
     std::unique_ptr<Coloring> colors_;
+    // The QML that lays the view out reads the same tokens from the design system.
     std::unique_ptr<Spacing> spacing_;
     QString mainMessage_;
     std::unique_ptr<IconStatusProductsView> iconView_;

@@ -3,7 +3,7 @@
 
 import QtQuick
 import KelDS
-import Quillet.Checkout
+import Quillet
 
 // One row of the product list, with its slice of the section's outline. While its section opens or closes, the row shows
 // what of it the section has come to.
@@ -20,29 +20,32 @@ Item {
     required property bool last
     required property bool first
     required property bool moving
-    required property string quantity
-    required property string description
-    required property string code
-    required property string points
-    required property bool hasReason
-    required property string reasonTag
+    required property productRow product
 
-    required property var products
-    required property int sideSpacing
-    readonly property real shownHeight: row.moving
-        ? row.products.shownHeight(row.index, content.height, row.products.reveal) : content.height
+    required property ShippingStatusProductsView products
+    readonly property real shownHeight: row.moving ? row.products.shownHeight(row.index, row.products.reveal)
+                                                   : content.height
 
     signal headTapped
     // The keys go to the head now.
     signal headFocused
 
-    height: frame.height + (row.last ? row.sideSpacing : 0)
+    function reportHeight() {
+        if (row.moving) {
+            row.products.reportHeight(row.index, content.height)
+        }
+    }
+
+    height: frame.height + (row.last ? KelSpacing.small : 0)
+    onMovingChanged: row.reportHeight()
+    onIndexChanged: row.reportHeight()
+    Component.onCompleted: row.reportHeight()
 
     KelPanelFrame {
         id: frame
 
-        x: row.sideSpacing
-        width: parent.width - 2 * row.sideSpacing
+        x: KelSpacing.small
+        width: parent.width - 2 * KelSpacing.small
         height: Math.round(row.shownHeight)
         stroke: row.stroke
         fill: row.fill
@@ -53,6 +56,7 @@ Item {
             id: content
 
             width: parent.width
+            onHeightChanged: row.reportHeight()
             sourceComponent: row.isHead ? head : product
         }
     }
@@ -60,23 +64,20 @@ Item {
         id: head
 
         KelPanelHead {
+            id: panelHead
+
             title: row.title
             tone: row.tone
             expanded: row.expanded
-            onActivated: row.headTapped()
+            onActivated: if (!Covers.over(panelHead)) row.headTapped()
             onVisualFocusChanged: if (visualFocus) row.headFocused()
         }
     }
     Component {
         id: product
 
-        ProductView {
-            quantity: row.quantity
-            description: row.description
-            code: row.code
-            points: row.points
-            hasReason: row.hasReason
-            reasonTag: row.reasonTag
+        ProductItem {
+            product: row.product
             first: row.first
         }
     }

@@ -1,7 +1,6 @@
 #include "Checkout/Status/ShippingStatusProductsView.hpp"
 
-#include "Checkout/Status/ProductRowData.hpp"
-#include "KelDS/KelAppearance.hpp"
+#include "KelDS/KelMeasures.hpp"
 
 #include <QPointer>
 
@@ -12,7 +11,7 @@ namespace quillet {
 
 namespace {
 
-constexpr std::chrono::milliseconds kMove{kel::motion::panel};
+constexpr std::chrono::milliseconds kMove{kel::KelMotion::panel};
 
 double easeOut(double progress) {
     const double left = 1 - progress;
@@ -107,31 +106,23 @@ QVariant ShippingStatusProductsView::data(const QModelIndex& index, int role) co
         return row == 1;
     case MovingRole:
         return section == moving_ && row > 0;
-    default:
-        break;
+    case ProductRole: {
+        if (row == 0) {
+            return QVariant::fromValue(ProductRow());
+        }
+        const auto& product = section->panel.content.productViews[static_cast<std::size_t>(row - 1)];
+        return QVariant::fromValue(std::visit([](const auto& view) { return view.row(); }, product));
     }
-    return row == 0
-               ? headRowData(role)
-               : productRowData(section->panel.content.productViews[static_cast<std::size_t>(row - 1)], role);
+    default:
+        return {};
+    }
 }
 
 QHash<int, QByteArray> ShippingStatusProductsView::roleNames() const {
     return {
-        {IsHeadRole, "isHead"},
-        {TitleRole, "title"},
-        {ToneRole, "tone"},
-        {StrokeRole, "stroke"},
-        {FillRole, "fill"},
-        {ExpandedRole, "expanded"},
-        {LastRole, "last"},
-        {FirstRole, "first"},
-        {MovingRole, "moving"},
-        {QuantityRole, "quantity"},
-        {DescriptionRole, "description"},
-        {CodeRole, "code"},
-        {PointsRole, "points"},
-        {HasReasonRole, "hasReason"},
-        {ReasonTagRole, "reasonTag"},
+        {IsHeadRole, "isHead"}, {TitleRole, "title"},       {ToneRole, "tone"}, {StrokeRole, "stroke"},
+        {FillRole, "fill"},     {ExpandedRole, "expanded"}, {LastRole, "last"}, {FirstRole, "first"},
+        {MovingRole, "moving"}, {ProductRole, "product"},
     };
 }
 
@@ -165,8 +156,14 @@ void ShippingStatusProductsView::toggle(int row, int rowsInView) {
     }
 }
 
-double ShippingStatusProductsView::shownHeight(int row, double height, double share) {
-    return moving_ ? panelReveal_.shown(row - headOf(*moving_) - 1, height, share) : height;
+void ShippingStatusProductsView::reportHeight(int row, double height) {
+    if (moving_ && panelReveal_.setHeight(row - headOf(*moving_) - 1, height)) {
+        Q_EMIT revealChanged();
+    }
+}
+
+double ShippingStatusProductsView::shownHeight(int row, double share) const {
+    return moving_ ? panelReveal_.shown(row - headOf(*moving_) - 1, share) : 0;
 }
 
 void ShippingStatusProductsView::setShown(Section& section, int shown) {

@@ -3,6 +3,7 @@
 // Qt first: its moc cannot read the standard library's <compare>, which the record brings, ahead of
 // everything else.
 #include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 
 #include "Checkout/Status/PanelReveal.hpp"
 #include "Checkout/Status/ProductsViewFactory.hpp"
@@ -33,6 +34,8 @@ public:
 /// round. With reduced motion it is open or closed at once. Main thread only.
 class ShippingStatusProductsView final : public QAbstractListModel {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of a ProductsCheckoutStatusView")
     /// How much of the moving section shows, from 0 to 1.
     Q_PROPERTY(double reveal READ reveal NOTIFY revealChanged FINAL)
 
@@ -50,12 +53,8 @@ public:
         FirstRole,
         /// Whether the row is being opened or closed.
         MovingRole,
-        QuantityRole,
-        DescriptionRole,
-        CodeRole,
-        PointsRole,
-        HasReasonRole,
-        ReasonTagRole,
+        /// A ProductRow; an empty one for a section's head.
+        ProductRole,
     };
 
     /// A list that is absent has no section; an empty one has a section without products.
@@ -79,8 +78,10 @@ public:
     /// rows below the head there is room for on the screen.
     Q_INVOKABLE void toggle(int row, int rowsInView);
 
-    /// How much of a moving row, `height` high, shows at that share of its section.
-    [[nodiscard]] Q_INVOKABLE double shownHeight(int row, double height, double share);
+    /// Tells how high a moving row is when all of it shows.
+    Q_INVOKABLE void reportHeight(int row, double height);
+    /// How much of a moving row shows at that share of its section: nothing before its height was reported.
+    [[nodiscard]] Q_INVOKABLE double shownHeight(int row, double share) const;
 
 Q_SIGNALS:
     void revealChanged();

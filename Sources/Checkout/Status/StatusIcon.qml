@@ -1,11 +1,12 @@
 import QtQuick
 import KelDS
+import Quillet
 
 // The disc of a result, with the small mark at its edge where the result has one.
 Rectangle {
     id: disc
 
-    required property var status
+    required property IconStatusProductsView status
 
     width: 88
     height: 88

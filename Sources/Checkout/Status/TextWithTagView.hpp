@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelDS/KelTokens.hpp"
+#include "KelDS/KelTagColor.hpp"
 
 #include <QObject>
 #include <QString>
@@ -13,18 +13,19 @@ enum class TagColor { success, alert };
 /// A counter row: a text, and its number in a coloured tag.
 class TextWithTagView {
     Q_GADGET
+    QML_VALUE_TYPE(textWithTagView)
     Q_PROPERTY(QString leftText MEMBER leftText CONSTANT FINAL)
     Q_PROPERTY(QString tagText MEMBER tagText CONSTANT FINAL)
-    Q_PROPERTY(int tagColorIndex READ tagColorIndex CONSTANT FINAL)
+    Q_PROPERTY(int tagLabel READ tagLabel CONSTANT FINAL)
 
 public:
     QString leftText;
     QString tagText;
     TagColor tagColor = TagColor::success;
 
-    /// The design system's index of the tag's colour.
-    [[nodiscard]] int tagColorIndex() const {
-        return int(tagColor == TagColor::success ? kel::KelTagColor::success : kel::KelTagColor::alert);
+    /// The tag's colour in the design system.
+    [[nodiscard]] kel::KelTagColor::Color tagLabel() const {
+        return tagColor == TagColor::success ? kel::KelTagColor::Success : kel::KelTagColor::Alert;
     }
     bool operator==(const TextWithTagView&) const = default;
 };

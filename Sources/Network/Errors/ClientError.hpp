@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Models/Json/Field.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <cstdint>
 #include <string>
@@ -19,11 +19,11 @@ struct ClientError {
 };
 
 template <>
-inline constexpr auto jsonFields<ClientError> = std::tuple{
-    json::Field{"details", &ClientError::details},
-    json::Field{"error", &ClientError::error},
-    json::Field{"statusCode", &ClientError::statusCode},
-    json::Field{"path", &ClientError::path},
+inline constexpr auto platform::jsonFields<ClientError> = std::tuple{
+    platform::json::Field{"details", &ClientError::details},
+    platform::json::Field{"error", &ClientError::error},
+    platform::json::Field{"statusCode", &ClientError::statusCode},
+    platform::json::Field{"path", &ClientError::path},
 };
 
 } // namespace quillet

@@ -15,10 +15,10 @@ struct HttpError {
 };
 
 template <>
-inline constexpr auto jsonFields<HttpError> = std::tuple{
-    json::Field{"response", &HttpError::response},
-    json::Field{"status", &HttpError::status},
-    json::Field{"message", &HttpError::message},
+inline constexpr auto platform::jsonFields<HttpError> = std::tuple{
+    platform::json::Field{"response", &HttpError::response},
+    platform::json::Field{"status", &HttpError::status},
+    platform::json::Field{"message", &HttpError::message},
 };
 
 } // namespace quillet

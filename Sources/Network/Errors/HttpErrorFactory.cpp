@@ -1,6 +1,6 @@
 #include "Network/Errors/HttpErrorFactory.hpp"
 
-#include "Models/Json/Decoder.hpp"
+#include "Platform/Json/Decoder.hpp"
 
 namespace quillet {
 
@@ -9,7 +9,7 @@ namespace {
 template <typename Model>
 ServiceError decoded(const std::optional<std::string>& data, std::int64_t httpStatusCode) {
     if (data) {
-        if (auto model = json::decode<Model>(*data)) {
+        if (auto model = platform::json::decode<Model>(*data)) {
             return *std::move(model);
         }
     }

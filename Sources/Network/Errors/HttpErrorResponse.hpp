@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Models/Json/Field.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <cstdint>
 #include <string>
@@ -18,10 +18,10 @@ struct HttpErrorResponse {
 };
 
 template <>
-inline constexpr auto jsonFields<HttpErrorResponse> = std::tuple{
-    json::Field{"statusCode", &HttpErrorResponse::statusCode},
-    json::Field{"message", &HttpErrorResponse::message},
-    json::Field{"error", &HttpErrorResponse::error},
+inline constexpr auto platform::jsonFields<HttpErrorResponse> = std::tuple{
+    platform::json::Field{"statusCode", &HttpErrorResponse::statusCode},
+    platform::json::Field{"message", &HttpErrorResponse::message},
+    platform::json::Field{"error", &HttpErrorResponse::error},
 };
 
 } // namespace quillet

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Network/Errors/HttpErrorThrowable.hpp"
-#include "Network/Session/HTTPURLResponse.hpp"
+#include "Platform/Http/HTTPURLResponse.hpp"
 
 #include <memory>
 
@@ -15,8 +15,8 @@ public:
     /// Status 400 to 499: what the factory makes of a ClientError; 500 to 599: of a ServerError; anything
     /// else, and no response at all: the transport error as it came.
     [[nodiscard]] std::optional<ServiceError> parse(const std::optional<std::string>& data,
-                                                    const std::optional<HTTPURLResponse>& response,
-                                                    std::optional<URLError> transportError) const;
+                                                    const std::optional<platform::HTTPURLResponse>& response,
+                                                    std::optional<platform::URLError> transportError) const;
 
 private:
     std::shared_ptr<const HttpErrorThrowable> httpErrorFactory_;

@@ -14,10 +14,10 @@ struct ServerError {
 };
 
 template <>
-inline constexpr auto jsonFields<ServerError> = std::tuple{
-    json::Field{"error", &ServerError::error},
-    json::Field{"statusCode", &ServerError::statusCode},
-    json::Field{"path", &ServerError::path},
+inline constexpr auto platform::jsonFields<ServerError> = std::tuple{
+    platform::json::Field{"error", &ServerError::error},
+    platform::json::Field{"statusCode", &ServerError::statusCode},
+    platform::json::Field{"path", &ServerError::path},
 };
 
 } // namespace quillet

@@ -38,20 +38,12 @@ std::string description(const HttpStatusCodeError&) {
     return "The operation couldn’t be completed. (Quillet.HttpStatusCodeError error 1.)";
 }
 
-std::string description(const EncodingError& error) {
-    return "Cannot be encoded: " + error.codingPath;
-}
-
-std::string description(const URLError& error) {
-    return error.message;
-}
-
 std::string description(const ServiceError& error) {
     return std::visit([](const auto& one) { return description(one); }, error);
 }
 
 std::optional<std::int64_t> platformErrorCode(const ServiceError& error) {
-    const auto* const urlError = std::get_if<URLError>(&error);
+    const auto* const urlError = std::get_if<platform::URLError>(&error);
     return urlError ? std::optional(static_cast<std::int64_t>(urlError->code)) : std::nullopt;
 }
 

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "Network/Errors/ClientError.hpp"
-#include "Network/Errors/EncodingError.hpp"
 #include "Network/Errors/HttpStatusCodeError.hpp"
 #include "Network/Errors/NetworkServiceError.hpp"
 #include "Network/Errors/ServerError.hpp"
-#include "Network/Errors/URLError.hpp"
+#include "Platform/Http/URLError.hpp"
+#include "Platform/Json/EncodingError.hpp"
 
 #include <cstdint>
 #include <optional>
@@ -16,8 +16,8 @@ namespace quillet {
 
 /// Everything that can be a call's error: a request that could not be formed, an exchange that failed, or an
 /// answer with an error status. A body that does not decode is none of them.
-using ServiceError =
-    std::variant<NetworkServiceError, EncodingError, URLError, ClientError, ServerError, HttpStatusCodeError>;
+using ServiceError = std::variant<NetworkServiceError, platform::EncodingError, platform::URLError,
+                                  ClientError, ServerError, HttpStatusCodeError>;
 
 /// "HTTP Code: " and the status, a line feed, and the error.
 [[nodiscard]] std::string description(const ClientError& error);
@@ -29,8 +29,6 @@ using ServiceError =
 [[nodiscard]] std::string description(const ServerError& error);
 [[nodiscard]] std::string description(NetworkServiceError error);
 [[nodiscard]] std::string description(const HttpStatusCodeError& error);
-[[nodiscard]] std::string description(const EncodingError& error);
-[[nodiscard]] std::string description(const URLError& error);
 [[nodiscard]] std::string description(const ServiceError& error);
 
 /// The platform's URL-loading code of an error, -1009 among them; nothing for an error that did not come from

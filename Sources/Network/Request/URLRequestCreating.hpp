@@ -12,7 +12,7 @@ public:
     virtual ~URLRequestCreating() = default;
 
     /// A new request for the address, without a method; the caller owns it.
-    [[nodiscard]] virtual std::unique_ptr<URLRequestable> create(const Url& url) const = 0;
+    [[nodiscard]] virtual std::unique_ptr<URLRequestable> create(const platform::Url& url) const = 0;
 };
 
 } // namespace quillet

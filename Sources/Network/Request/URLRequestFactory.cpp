@@ -4,8 +4,8 @@
 
 namespace quillet {
 
-std::unique_ptr<URLRequestable> URLRequestFactory::create(const Url& url) const {
-    return std::make_unique<URLRequestWrapper>(URLRequest{.url = url});
+std::unique_ptr<URLRequestable> URLRequestFactory::create(const platform::Url& url) const {
+    return std::make_unique<URLRequestWrapper>(platform::URLRequest{.url = url});
 }
 
 } // namespace quillet

@@ -7,7 +7,7 @@ namespace quillet {
 /// Begins requests that have sixty seconds and keep to the protocol's own caching rules.
 class URLRequestFactory final : public URLRequestCreating {
 public:
-    [[nodiscard]] std::unique_ptr<URLRequestable> create(const Url& url) const override;
+    [[nodiscard]] std::unique_ptr<URLRequestable> create(const platform::Url& url) const override;
 };
 
 } // namespace quillet

@@ -1,24 +1,25 @@
 #include "Network/Request/URLRequestWrapper.hpp"
 
-#include "Network/Request/JSONEncoder.hpp"
+#include "Platform/Json/JSONEncoder.hpp"
 
 #include <utility>
 
 namespace quillet {
 
-URLRequestWrapper::URLRequestWrapper(URLRequest urlRequest) : urlRequest_(std::move(urlRequest)) {}
+URLRequestWrapper::URLRequestWrapper(platform::URLRequest urlRequest) : urlRequest_(std::move(urlRequest)) {}
 
 void URLRequestWrapper::setHttpMethod(std::string method) {
     urlRequest_.httpMethod = std::move(method);
 }
 
-std::expected<void, EncodingError> URLRequestWrapper::addValue(std::string_view value,
-                                                               std::string_view forHTTPHeaderField) {
+std::expected<void, platform::EncodingError>
+URLRequestWrapper::addValue(std::string_view value, std::string_view forHTTPHeaderField) {
     return urlRequest_.headerFields.addValue(value, forHTTPHeaderField);
 }
 
-std::expected<void, EncodingError> URLRequestWrapper::addToHttpBody(const JSONValue::Object& parameters) {
-    auto body = encodeJSON(parameters);
+std::expected<void, platform::EncodingError>
+URLRequestWrapper::addToHttpBody(const platform::JSONValue::Object& parameters) {
+    auto body = platform::encodeJSON(parameters);
     if (!body) {
         return std::unexpected(std::move(body).error());
     }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Network/Errors/EncodingError.hpp"
-#include "Network/Request/JSONValue.hpp"
-#include "Network/Request/URLRequest.hpp"
+#include "Platform/Http/URLRequest.hpp"
+#include "Platform/Json/EncodingError.hpp"
+#include "Platform/Json/JSONValue.hpp"
 
 #include <expected>
 #include <optional>
@@ -17,20 +17,20 @@ public:
     virtual ~URLRequestable() = default;
 
     /// As it is so far.
-    [[nodiscard]] virtual const URLRequest& urlRequest() const = 0;
+    [[nodiscard]] virtual const platform::URLRequest& urlRequest() const = 0;
 
     /// Absent until set.
     [[nodiscard]] const std::optional<std::string>& httpMethod() const { return urlRequest().httpMethod; }
     virtual void setHttpMethod(std::string method) = 0;
 
     /// As HTTPHeaderFields::addValue; on an error the request is unchanged.
-    [[nodiscard]] virtual std::expected<void, EncodingError>
+    [[nodiscard]] virtual std::expected<void, platform::EncodingError>
     addValue(std::string_view value, std::string_view forHTTPHeaderField) = 0;
 
     /// Writes the members as one JSON object and makes it the body; on an error the body is unchanged. Sets
     /// no content type.
-    [[nodiscard]] virtual std::expected<void, EncodingError>
-    addToHttpBody(const JSONValue::Object& parameters) = 0;
+    [[nodiscard]] virtual std::expected<void, platform::EncodingError>
+    addToHttpBody(const platform::JSONValue::Object& parameters) = 0;
 };
 
 } // namespace quillet

@@ -27,7 +27,8 @@ void SellOutCartService::associateConsultantToCart(const std::string& cartUUID, 
         .headerFields = {{"Content-Type", "application/json"},
                          {"Consultant-Token", authorization_.jwt},
                          {"Authorization-Provider", authorization_.provider}},
-        .body = JSONValue::Object{{"consultant", JSONValue::Object{{"id", consultantId}}}},
+        .body =
+            platform::JSONValue::Object{{"consultant", platform::JSONValue::Object{{"id", consultantId}}}},
     };
     const auto url = urlCreator_->createUrl(domainUrl_, "/quillet-bff/sell-out-carts/" + cartUUID);
     performServiceCall<OrderResponse, OrderResult>(request.build(*urlRequestFactory_, url), *session_,

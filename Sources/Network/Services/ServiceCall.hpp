@@ -14,15 +14,15 @@ namespace quillet {
 /// The `Result` of a call that there was no memory for.
 template <typename Result>
 [[nodiscard]] Result resultWithoutMemory() noexcept {
-    return {std::nullopt, URLError::outOfMemory(), 0};
+    return {std::nullopt, platform::URLError::outOfMemory(), 0};
 }
 
 /// What an exchange came to: the answer decoded as a `Response`, and its error classified.
 template <typename Response, typename Result>
 [[nodiscard]] Result serviceResult(const NetworkErrorParser& errorParser,
                                    const std::optional<std::string>& data,
-                                   const std::optional<HTTPURLResponse>& response,
-                                   std::optional<URLError> transportError) noexcept {
+                                   const std::optional<platform::HTTPURLResponse>& response,
+                                   std::optional<platform::URLError> transportError) noexcept {
     try {
         std::optional<Response> decoded;
         if (auto record = Response::create(data)) {
@@ -39,19 +39,19 @@ template <typename Response, typename Result>
 /// completion, which must not throw. Keeps what it needs by itself until then. Throws std::bad_alloc where
 /// there is no memory to begin; the completion is not called then.
 template <typename Response, typename Result, typename Completion>
-void performServiceCall(std::expected<URLRequest, ServiceError> request,
+void performServiceCall(std::expected<platform::URLRequest, ServiceError> request,
                         const URLSessionDataTaskCreating& session,
                         std::shared_ptr<const HttpErrorThrowable> httpErrorFactory, Completion completion) {
     if (!request) {
         completion(Result{std::nullopt, std::move(request).error(), 0});
         return;
     }
-    auto completionHandler = [errorParser = NetworkErrorParser(std::move(httpErrorFactory)),
-                              done = std::move(completion)](const std::optional<std::string>& data,
-                                                            const std::optional<HTTPURLResponse>& response,
-                                                            std::optional<URLError> transportError) {
-        done(serviceResult<Response, Result>(errorParser, data, response, std::move(transportError)));
-    };
+    auto completionHandler =
+        [errorParser = NetworkErrorParser(std::move(httpErrorFactory)), done = std::move(completion)](
+            const std::optional<std::string>& data, const std::optional<platform::HTTPURLResponse>& response,
+            std::optional<platform::URLError> transportError) {
+            done(serviceResult<Response, Result>(errorParser, data, response, std::move(transportError)));
+        };
     session.dataTask(*request, std::move(completionHandler))->resume();
 }
 

@@ -2,9 +2,9 @@
 
 namespace quillet {
 
-std::expected<URLRequest, ServiceError>
+std::expected<platform::URLRequest, ServiceError>
 ServiceRequest::build(const URLRequestCreating& factory,
-                      const std::expected<Url, NetworkServiceError>& url) const {
+                      const std::expected<platform::Url, NetworkServiceError>& url) const {
     if (!url) {
         return std::unexpected(url.error());
     }

@@ -14,12 +14,13 @@ namespace quillet {
 struct ServiceRequest {
     std::string method;
     /// In the order in which they are added.
-    std::vector<HTTPHeaderField> headerFields;
-    std::optional<JSONValue::Object> body = std::nullopt;
+    std::vector<platform::HTTPHeaderField> headerFields;
+    std::optional<platform::JSONValue::Object> body = std::nullopt;
 
     /// The request that is to be sent, or the first thing that is wrong with it.
-    [[nodiscard]] std::expected<URLRequest, ServiceError>
-    build(const URLRequestCreating& factory, const std::expected<Url, NetworkServiceError>& url) const;
+    [[nodiscard]] std::expected<platform::URLRequest, ServiceError>
+    build(const URLRequestCreating& factory,
+          const std::expected<platform::Url, NetworkServiceError>& url) const;
 };
 
 } // namespace quillet

@@ -4,7 +4,7 @@
 
 namespace quillet {
 
-URLSessionDataTaskWrapper::URLSessionDataTaskWrapper(URLSessionDataTask dataTask)
+URLSessionDataTaskWrapper::URLSessionDataTaskWrapper(platform::URLSessionDataTask dataTask)
     : dataTask_(std::move(dataTask)) {}
 
 void URLSessionDataTaskWrapper::resume() {

@@ -1,19 +1,19 @@
 #pragma once
 
-#include "Network/Session/URLSessionDataTask.hpp"
 #include "Network/Session/URLSessionDataTaskResumable.hpp"
+#include "Platform/Http/URLSessionDataTask.hpp"
 
 namespace quillet {
 
 /// The platform's call behind its role.
 class URLSessionDataTaskWrapper final : public URLSessionDataTaskResumable {
 public:
-    explicit URLSessionDataTaskWrapper(URLSessionDataTask dataTask);
+    explicit URLSessionDataTaskWrapper(platform::URLSessionDataTask dataTask);
 
     void resume() override;
 
 private:
-    URLSessionDataTask dataTask_;
+    platform::URLSessionDataTask dataTask_;
 };
 
 } // namespace quillet

@@ -6,11 +6,12 @@
 
 namespace quillet {
 
-URLSessionWrapper::URLSessionWrapper(std::shared_ptr<const URLSession> session)
+URLSessionWrapper::URLSessionWrapper(std::shared_ptr<const platform::URLSession> session)
     : session_(std::move(session)) {}
 
 std::unique_ptr<URLSessionDataTaskResumable>
-URLSessionWrapper::dataTask(const URLRequest& request, URLSessionDataTaskCompletion completionHandler) const {
+URLSessionWrapper::dataTask(const platform::URLRequest& request,
+                            platform::URLSessionDataTaskCompletion completionHandler) const {
     return std::make_unique<URLSessionDataTaskWrapper>(
         session_->dataTask(request, std::move(completionHandler)));
 }

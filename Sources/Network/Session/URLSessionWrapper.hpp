@@ -1,20 +1,21 @@
 #pragma once
 
-#include "Network/Session/URLSession.hpp"
 #include "Network/Session/URLSessionDataTaskCreating.hpp"
+#include "Platform/Http/URLSession.hpp"
 
 namespace quillet {
 
 /// The platform's session behind its role. Copies share the session.
 class URLSessionWrapper final : public URLSessionDataTaskCreating {
 public:
-    explicit URLSessionWrapper(std::shared_ptr<const URLSession> session);
+    explicit URLSessionWrapper(std::shared_ptr<const platform::URLSession> session);
 
     [[nodiscard]] std::unique_ptr<URLSessionDataTaskResumable>
-    dataTask(const URLRequest& request, URLSessionDataTaskCompletion completionHandler) const override;
+    dataTask(const platform::URLRequest& request,
+             platform::URLSessionDataTaskCompletion completionHandler) const override;
 
 private:
-    std::shared_ptr<const URLSession> session_;
+    std::shared_ptr<const platform::URLSession> session_;
 };
 
 } // namespace quillet

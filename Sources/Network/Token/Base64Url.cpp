@@ -1,6 +1,6 @@
 #include "Network/Token/Base64Url.hpp"
 
-#include "Network/Support/OpenSsl.hpp"
+#include "Platform/Http/Process/OpenSsl.hpp"
 
 #include <openssl/evp.h>
 
@@ -10,7 +10,7 @@
 namespace quillet {
 
 std::string base64Url(std::string_view bytes) {
-    keepOpenSslToTheEnd();
+    platform::keepOpenSslToTheEnd();
     // EVP_EncodeBlock counts in int; blocks of a multiple of three bytes can be encoded one by one and
     // joined.
     constexpr std::size_t block = 3 << 20;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Network/Request/JSONEncoder.hpp"
+#include "Platform/Json/JSONEncoder.hpp"
 
 #include <expected>
 #include <string>
@@ -13,8 +13,8 @@ namespace quillet {
 
 /// A record as JSON in base64url; fails with the encoder's error.
 template <typename Record>
-[[nodiscard]] std::expected<std::string, EncodingError> base64String(const Record& record) {
-    auto text = encodeJSON(jsonValue(record));
+[[nodiscard]] std::expected<std::string, platform::EncodingError> base64String(const Record& record) {
+    auto text = platform::encodeJSON(platform::jsonValue(record));
     if (text) {
         *text = base64Url(*text);
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Models/Json/Field.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <string>
 #include <tuple>
@@ -14,9 +14,9 @@ struct Header {
 };
 
 template <>
-inline constexpr auto jsonFields<Header> = std::tuple{
-    json::Field{"alg", &Header::alg},
-    json::Field{"typ", &Header::typ},
+inline constexpr auto platform::jsonFields<Header> = std::tuple{
+    platform::json::Field{"alg", &Header::alg},
+    platform::json::Field{"typ", &Header::typ},
 };
 
 } // namespace quillet

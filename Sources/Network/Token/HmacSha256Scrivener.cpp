@@ -1,8 +1,8 @@
 #include "Network/Token/HmacSha256Scrivener.hpp"
 
-#include "Network/Support/OpenSsl.hpp"
-#include "Network/Support/Utf8.hpp"
 #include "Network/Token/Base64Url.hpp"
+#include "Platform/Http/Process/OpenSsl.hpp"
+#include "Platform/Json/Utf8.hpp"
 
 #include <openssl/evp.h>
 #include <openssl/hmac.h>
@@ -14,13 +14,13 @@ namespace quillet {
 std::expected<std::string, HmacSha256Error>
 HmacSha256Scrivener::signatureBase64String(const std::string& contentInBase64String,
                                            const std::string& secretKey) const {
-    if (!isUtf8(contentInBase64String)) {
+    if (!platform::isUtf8(contentInBase64String)) {
         return std::unexpected(HmacSha256Error::couldNotTransformContentToSignInData);
     }
-    if (!isUtf8(secretKey)) {
+    if (!platform::isUtf8(secretKey)) {
         return std::unexpected(HmacSha256Error::couldNotTransformSecretKeyInData);
     }
-    keepOpenSslToTheEnd();
+    platform::keepOpenSslToTheEnd();
     std::array<char, EVP_MAX_MD_SIZE> signature{};
     unsigned length = 0;
     if (!HMAC(EVP_sha256(), secretKey.data(), static_cast<int>(secretKey.size()),

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Network/Errors/EncodingError.hpp"
 #include "Network/Token/HashScribe.hpp"
 #include "Network/Token/Header.hpp"
 #include "Network/Token/Payload.hpp"
+#include "Platform/Json/EncodingError.hpp"
 
 #include <expected>
 #include <memory>
@@ -13,7 +13,7 @@
 namespace quillet {
 
 /// Why there is no token: a part of it could not be written, or it could not be signed.
-using JWTError = std::variant<EncodingError, HmacSha256Error>;
+using JWTError = std::variant<platform::EncodingError, HmacSha256Error>;
 
 [[nodiscard]] std::string description(const JWTError& error);
 

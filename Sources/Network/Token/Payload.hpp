@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Models/Json/Field.hpp"
+#include "Platform/Json/Field.hpp"
 
 #include <string>
 #include <tuple>
@@ -14,8 +14,8 @@ struct Payload {
 };
 
 template <>
-inline constexpr auto jsonFields<Payload> = std::tuple{
-    json::Field{"access_token", &Payload::accessToken},
+inline constexpr auto platform::jsonFields<Payload> = std::tuple{
+    platform::json::Field{"access_token", &Payload::accessToken},
 };
 
 } // namespace quillet

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Network/Errors/NetworkServiceError.hpp"
-#include "Network/Url/Url.hpp"
 #include "Network/Url/UrlQueryItem.hpp"
+#include "Platform/Http/Url.hpp"
 
 #include <expected>
 #include <string>
@@ -16,11 +16,11 @@ public:
     virtual ~UrlCreating() = default;
 
     /// `domainUrl` is a bare host name, `path` plain text that begins with "/" (or is empty).
-    [[nodiscard]] virtual std::expected<Url, NetworkServiceError>
+    [[nodiscard]] virtual std::expected<platform::Url, NetworkServiceError>
     createUrl(const std::string& domainUrl, const std::string& path) const = 0;
 
     /// The same with a query; the items keep their order. No items, no question mark.
-    [[nodiscard]] virtual std::expected<Url, NetworkServiceError>
+    [[nodiscard]] virtual std::expected<platform::Url, NetworkServiceError>
     createUrl(const std::string& domainUrl, const std::string& path,
               const std::vector<UrlQueryItem>& urlQueryItems) const = 0;
 };

@@ -1,6 +1,6 @@
 #include "Network/Url/UrlCreator.hpp"
 
-#include "Network/Support/Utf8.hpp"
+#include "Platform/Json/Utf8.hpp"
 
 #include <string_view>
 
@@ -50,21 +50,21 @@ bool isBareHost(std::string_view host) {
 
 } // namespace
 
-std::expected<Url, NetworkServiceError> UrlCreator::createUrl(const std::string& domainUrl,
-                                                              const std::string& path) const {
+std::expected<platform::Url, NetworkServiceError> UrlCreator::createUrl(const std::string& domainUrl,
+                                                                        const std::string& path) const {
     return createUrl(domainUrl, path, {});
 }
 
-std::expected<Url, NetworkServiceError>
+std::expected<platform::Url, NetworkServiceError>
 UrlCreator::createUrl(const std::string& domainUrl, const std::string& path,
                       const std::vector<UrlQueryItem>& urlQueryItems) const {
-    if (!isBareHost(domainUrl) || (!path.empty() && !path.starts_with('/')) || !isUtf8(path)) {
+    if (!isBareHost(domainUrl) || (!path.empty() && !path.starts_with('/')) || !platform::isUtf8(path)) {
         return std::unexpected(NetworkServiceError::invalidUrl);
     }
-    Url url{.host = domainUrl, .pathAndQuery = percentEncoded(path, marksOfPath)};
+    platform::Url url{.host = domainUrl, .pathAndQuery = percentEncoded(path, marksOfPath)};
     char separator = '?';
     for (const auto& [name, value] : urlQueryItems) {
-        if (!isUtf8(name) || !isUtf8(value)) {
+        if (!platform::isUtf8(name) || !platform::isUtf8(value)) {
             return std::unexpected(NetworkServiceError::invalidUrl);
         }
         url.pathAndQuery += separator;

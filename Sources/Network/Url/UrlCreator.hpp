@@ -15,9 +15,9 @@ namespace quillet {
 /// brackets), for a path that does not begin with "/", and for text that is not UTF-8.
 class UrlCreator final : public UrlCreating {
 public:
-    [[nodiscard]] std::expected<Url, NetworkServiceError> createUrl(const std::string& domainUrl,
-                                                                    const std::string& path) const override;
-    [[nodiscard]] std::expected<Url, NetworkServiceError>
+    [[nodiscard]] std::expected<platform::Url, NetworkServiceError>
+    createUrl(const std::string& domainUrl, const std::string& path) const override;
+    [[nodiscard]] std::expected<platform::Url, NetworkServiceError>
     createUrl(const std::string& domainUrl, const std::string& path,
               const std::vector<UrlQueryItem>& urlQueryItems) const override;
 };

@@ -98,5 +98,13 @@
             <numerusform>%n points</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Loading</translation>
+    </message>
 </context>
 </TS>

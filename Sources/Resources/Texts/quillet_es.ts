@@ -98,5 +98,13 @@
             <numerusform>%n puntos</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Cargando</translation>
+    </message>
 </context>
 </TS>

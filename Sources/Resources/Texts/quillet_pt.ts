@@ -98,5 +98,13 @@
             <numerusform>%n pontos</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Carregando</translation>
+    </message>
 </context>
 </TS>

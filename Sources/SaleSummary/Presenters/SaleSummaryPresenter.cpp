@@ -4,12 +4,12 @@
 
 namespace quillet {
 
-QString OrderPointsPresenter::pointsText() const {
-    return QStringLiteral("Puntos del pedido: ") + QString::number(points);
+Captioned OrderPointsPresenter::captioned() const {
+    return {QStringLiteral("Puntos del pedido: "), QString::number(points)};
 }
 
-QString PointsInProgressPresenter::pointsText() const {
-    return QStringLiteral("Puntos en curso: ") + QString::number(points);
+Captioned PointsInProgressPresenter::captioned() const {
+    return {QStringLiteral("Puntos en curso: "), QString::number(points)};
 }
 
 QString CyclePeriodPresenter::startText() const {

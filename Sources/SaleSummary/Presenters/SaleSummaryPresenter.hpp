@@ -11,14 +11,14 @@ namespace quillet {
 /// "Puntos del pedido: " and the points of the highlighted order.
 struct OrderPointsPresenter final : PointsPresenter {
     explicit OrderPointsPresenter(std::uint64_t value) : points(value) {}
-    [[nodiscard]] QString pointsText() const override;
+    [[nodiscard]] Captioned captioned() const override;
     std::uint64_t points;
 };
 
 /// "Puntos en curso: " and the points of all open orders.
 struct PointsInProgressPresenter final : PointsPresenter {
     explicit PointsInProgressPresenter(std::uint64_t value) : points(value) {}
-    [[nodiscard]] QString pointsText() const override;
+    [[nodiscard]] Captioned captioned() const override;
     std::uint64_t points;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KelDS/KelTagColor.hpp"
 #include "SaleSummary/Presenters/SaleSummaryPresenter.hpp"
 #include "Views/Labels/PointsLabel.hpp"
 
@@ -11,20 +12,25 @@ namespace quillet {
 /// text.
 class HighlightedOrderView final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QString orderSummary READ orderSummary CONSTANT FINAL)
-    Q_PROPERTY(quillet::Captioned orderCycle READ orderCycle CONSTANT FINAL)
-    Q_PROPERTY(QString orderDate READ orderDate CONSTANT FINAL)
-    Q_PROPERTY(quillet::Captioned totalProducts READ totalProducts CONSTANT FINAL)
-    Q_PROPERTY(QObject* orderPointsLabel READ orderPointsLabel CONSTANT FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of a SaleSummaryView")
+    Q_PROPERTY(QString orderSummaryLabel READ orderSummaryLabel CONSTANT FINAL)
+    Q_PROPERTY(kel::KelTagColor::Color orderStatusTag READ orderStatusTag CONSTANT FINAL)
+    Q_PROPERTY(quillet::Captioned orderCycleLabel READ orderCycleLabel CONSTANT FINAL)
+    Q_PROPERTY(QString orderDateLabel READ orderDateLabel CONSTANT FINAL)
+    Q_PROPERTY(quillet::Captioned totalProductsLabel READ totalProductsLabel CONSTANT FINAL)
+    Q_PROPERTY(quillet::Label* orderPointsLabel READ orderPointsLabel CONSTANT FINAL)
 
 public:
     explicit HighlightedOrderView(HighlightedOrderPresenter presenter);
 
-    [[nodiscard]] QString orderSummary() const { return QStringLiteral("Resumen del Pedido:"); }
-    [[nodiscard]] Captioned orderCycle() const;
+    [[nodiscard]] QString orderSummaryLabel() const { return QStringLiteral("Resumen del Pedido:"); }
+    /// The colour of the tag that stands for the order; it has no text.
+    [[nodiscard]] kel::KelTagColor::Color orderStatusTag() const { return kel::KelTagColor::Primary; }
+    [[nodiscard]] Captioned orderCycleLabel() const;
     /// The day on which the order was made, where the device is.
-    [[nodiscard]] QString orderDate() const;
-    [[nodiscard]] Captioned totalProducts() const;
+    [[nodiscard]] QString orderDateLabel() const;
+    [[nodiscard]] Captioned totalProductsLabel() const;
     [[nodiscard]] PointsLabel* orderPointsLabel() const { return orderPointsLabel_.get(); }
 
 private:

@@ -3,7 +3,8 @@
 namespace quillet {
 
 SaleSummaryHeaderView::SaleSummaryHeaderView(SaleSummaryHeaderPresenter presenter)
-    : pointsInProgressLabel_(std::make_unique<PointsLabel>(presenter.pointsInProgressPresenter, 5)) {
+    : pointsInProgressLabel_(
+          std::make_unique<PointsLabel>(presenter.pointsInProgressPresenter, kel::KelFonts::Headline6)) {
     if (const auto& cycle = presenter.cycle) {
         cycleLabel_ = std::make_unique<CycleLabel>(QString::fromStdString(Cycle::onlyCode(*cycle)));
         cyclePeriod_ = {cycle->startDate, cycle->endDate};

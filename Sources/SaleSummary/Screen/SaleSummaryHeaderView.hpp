@@ -11,10 +11,12 @@ namespace quillet {
 /// The head of the summary: cycle and period, both absent without a cycle, and the points in progress.
 class SaleSummaryHeaderView final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QObject* cycleLabel READ cycleLabel CONSTANT FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of a SaleSummaryView")
+    Q_PROPERTY(quillet::Label* cycleLabel READ cycleLabel CONSTANT FINAL)
     Q_PROPERTY(QString cycleStart READ cycleStart CONSTANT FINAL)
     Q_PROPERTY(QString cycleEnd READ cycleEnd CONSTANT FINAL)
-    Q_PROPERTY(QObject* pointsInProgressLabel READ pointsInProgressLabel CONSTANT FINAL)
+    Q_PROPERTY(quillet::Label* pointsInProgressLabel READ pointsInProgressLabel CONSTANT FINAL)
 
 public:
     explicit SaleSummaryHeaderView(SaleSummaryHeaderPresenter presenter);

@@ -1,6 +1,6 @@
 #include "SaleSummary/Screen/SaleSummaryRouter.hpp"
 
-#include "Views/Screen/NavigationController.hpp"
+#include "Platform/Screens/NavigationController.hpp"
 #include "Views/Screen/ViewController.hpp"
 
 #include <utility>

@@ -16,7 +16,7 @@ public:
 };
 
 /// The summary content. The screen that shows it owns it and is its delegate, held weakly.
-class SaleSummaryScreen : public ThemedView {
+class SaleSummaryScreen : public quillet::ThemedView {
     Q_OBJECT
 
 public:

@@ -12,16 +12,15 @@
 namespace quillet {
 
 /// The summary content: tab, head, order card, reminder and button, as SaleSummaryView.qml draws them.
-class SaleSummaryView final : public SaleSummaryScreen {
+class SaleSummaryView final : public quillet::SaleSummaryScreen {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by a SaleSummaryViewFactory")
     Q_PROPERTY(QString inProgressTab READ inProgressTab CONSTANT FINAL)
-    Q_PROPERTY(QObject* headerView READ headerView CONSTANT FINAL)
-    Q_PROPERTY(QObject* highlightedOrderView READ highlightedOrderView CONSTANT FINAL)
+    Q_PROPERTY(quillet::SaleSummaryHeaderView* headerView READ headerView CONSTANT FINAL)
+    Q_PROPERTY(quillet::HighlightedOrderView* highlightedOrderView READ highlightedOrderView CONSTANT FINAL)
     Q_PROPERTY(quillet::RememberLabel rememberLabel READ rememberLabel NOTIFY themeChanged FINAL)
     Q_PROPERTY(quillet::Button sendProductsButton READ sendProductsButton CONSTANT FINAL)
-    Q_PROPERTY(int sideSpacing READ sideSpacing CONSTANT FINAL)
-    Q_PROPERTY(int partSpacing READ partSpacing CONSTANT FINAL)
-    Q_PROPERTY(int rowHeight READ rowHeight CONSTANT FINAL)
 
 public:
     SaleSummaryView(std::unique_ptr<ButtonCreating> buttonFactory, std::unique_ptr<Spacing> spacing,
@@ -36,17 +35,13 @@ public:
     [[nodiscard]] HighlightedOrderView* highlightedOrderView() { return &highlightedOrderView_; }
     [[nodiscard]] RememberLabel rememberLabel() const { return RememberLabel::in(*colors_); }
     [[nodiscard]] Button sendProductsButton() const;
-    /// Beside the parts, and between and around them.
-    [[nodiscard]] int sideSpacing() const { return spacing_->small(); }
-    [[nodiscard]] int partSpacing() const { return spacing_->semi(); }
-    /// A line of the order card.
-    [[nodiscard]] int rowHeight() const { return sizing_->mediumX(); }
 
     Q_INVOKABLE void tapSendProducts();
 
 private:
     std::weak_ptr<SaleSummaryViewDelegate> delegate_;
     std::unique_ptr<ButtonCreating> buttonFactory_;
+    // Handed in by the factory. The QML that lays the view out reads the same tokens from the design system.
     std::unique_ptr<Spacing> spacing_;
     std::unique_ptr<Sizing> sizing_;
     std::unique_ptr<Coloring> colors_;

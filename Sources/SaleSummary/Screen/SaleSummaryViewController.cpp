@@ -13,8 +13,8 @@ SaleSummaryViewController::SaleSummaryViewController(
     std::unique_ptr<SaleSummaryViewCreating> contentViewFactory,
     std::weak_ptr<QuilletNavigationDelegate> navigationDelegate,
     std::unique_ptr<DialogCreating> dialogFactory, std::unique_ptr<TryAgainCreating> tryAgainFactory)
-    : viewModel_(std::move(viewModel)),
-      colors_(std::move(colors)),
+    : ModuleViewController(std::move(colors)),
+      viewModel_(std::move(viewModel)),
       router_(std::move(router)),
       wrapperFactory_(std::move(wrapperFactory)),
       contentViewFactory_(std::move(contentViewFactory)),
@@ -25,11 +25,10 @@ SaleSummaryViewController::SaleSummaryViewController(
 SaleSummaryViewController::~SaleSummaryViewController() = default;
 
 QUrl SaleSummaryViewController::viewUrl() const {
-    return QUrl(QStringLiteral("qrc:/qt/qml/Quillet/SaleSummary/SaleSummaryViewController.qml"));
+    return QUrl(QStringLiteral("qrc:/qt/qml/Quillet/SaleSummaryPage.qml"));
 }
 
 void SaleSummaryViewController::viewDidLoad() {
-    setBackground([this] { return colors_->background(); });
     viewModel_->trackAnalyticsScreen();
     viewModel_->doRequests();
 }
@@ -42,38 +41,20 @@ void SaleSummaryViewController::viewWillDisappear() {
     setTitle(QString());
 }
 
-QObject* SaleSummaryViewController::loadingView() {
-    if (!loadingView_) {
-        loadingView_ = std::make_unique<LoadingView>();
-    }
-    return loadingView_.get();
-}
-
 void SaleSummaryViewController::startLoading() {
-    static_cast<void>(loadingView());
-    loadingView_->startLoading();
+    showLoading();
 }
 
 void SaleSummaryViewController::stopLoading() {
-    if (loadingView_) {
-        loadingView_->stopLoading();
-    }
-}
-
-template <typename Presenter>
-void SaleSummaryViewController::show(const Presenter& presenter, DialogActions actions) {
-    const auto previous = std::move(dialogMessage_);
-    dialogMessage_.reset(
-        new Dialog(presenter, std::make_shared<ViewAnimatingWrapper>(), whileHere(std::move(actions))));
-    Q_EMIT dialogMessageChanged();
+    hideLoading();
 }
 
 void SaleSummaryViewController::showDialog(const DialogPresenter& presenter, DialogActions actions) {
-    show(presenter, std::move(actions));
+    presentDialog(presenter, std::move(actions));
 }
 
 void SaleSummaryViewController::showDialog(const DialogWithIconPresenter& presenter, DialogActions actions) {
-    show(presenter, std::move(actions));
+    presentDialog(presenter, std::move(actions));
 }
 
 void SaleSummaryViewController::setContentView(std::unique_ptr<SaleSummaryScreen> view) {
@@ -82,28 +63,28 @@ void SaleSummaryViewController::setContentView(std::unique_ptr<SaleSummaryScreen
 
 void SaleSummaryViewController::addContentView() {
     if (contentView_) {
-        shownContentView_ = contentView_.get();
+        contentViewShown_ = true;
         Q_EMIT contentViewChanged();
-        setContinuesBar(!shownTryAgainView_);
+        setContinuesBar(!isTryAgainViewShown());
     }
+}
+
+SaleSummaryView* SaleSummaryViewController::shownContentView() const {
+    return contentViewShown_ ? qobject_cast<SaleSummaryView*>(contentView_.get()) : nullptr;
 }
 
 void SaleSummaryViewController::setTryAgainView(std::unique_ptr<TryAgainScreen> view) {
-    tryAgainView_.reset(view.release());
+    putTryAgainView(std::move(view));
 }
 
 void SaleSummaryViewController::addTryAgainView() {
-    if (tryAgainView_) {
-        shownTryAgainView_ = tryAgainView_.get();
-        Q_EMIT tryAgainViewChanged();
-        setContinuesBar(false);
-    }
+    showTryAgainView(true);
+    setContinuesBar(contentViewShown_ && !isTryAgainViewShown());
 }
 
 void SaleSummaryViewController::removeTryAgainView() {
-    shownTryAgainView_ = nullptr;
-    Q_EMIT tryAgainViewChanged();
-    setContinuesBar(shownContentView_);
+    showTryAgainView(false);
+    setContinuesBar(contentViewShown_);
 }
 
 std::weak_ptr<SaleSummaryViewDelegate> SaleSummaryViewController::viewDelegate() {

@@ -5,22 +5,20 @@
 #include "SaleSummary/ViewModel/SaleSummaryViewModelDelegate.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModeling.hpp"
 #include "Views/Dialogs/DialogFactory.hpp"
-#include "Views/Loading/LoadingView.hpp"
+#include "Views/Screen/ModuleViewController.hpp"
 #include "Views/Screen/ViewController.hpp"
-#include "Views/Tokens/Coloring.hpp"
 
 namespace quillet {
 
 /// The module's first screen: it runs the calls when it has loaded and hosts whatever the chosen use case
 /// puts on it.
-class SaleSummaryViewController final : public QuickViewController,
+class SaleSummaryViewController final : public quillet::ModuleViewController,
                                         public SaleSummaryViewModelDelegate,
                                         public SaleSummaryViewDelegate {
     Q_OBJECT
-    Q_PROPERTY(QObject* loadingView READ loadingView CONSTANT FINAL)
-    Q_PROPERTY(QObject* contentView READ shownContentView NOTIFY contentViewChanged FINAL)
-    Q_PROPERTY(QObject* tryAgainView READ shownTryAgainView NOTIFY tryAgainViewChanged FINAL)
-    Q_PROPERTY(QObject* dialogMessage READ dialogMessage NOTIFY dialogMessageChanged FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("Screens are made by factories")
+    Q_PROPERTY(quillet::SaleSummaryView* contentView READ shownContentView NOTIFY contentViewChanged FINAL)
 
 public:
     SaleSummaryViewController(std::shared_ptr<SaleSummaryViewModeling> viewModel,
@@ -56,34 +54,26 @@ public:
 
     void didTapButton() override;
 
-    [[nodiscard]] QObject* loadingView();
-    [[nodiscard]] QObject* shownContentView() const { return shownContentView_; }
-    [[nodiscard]] QObject* shownTryAgainView() const { return shownTryAgainView_; }
-    [[nodiscard]] QObject* dialogMessage() const { return dialogMessage_.get(); }
+    /// The summary that is on the screen; null where there is none.
+    [[nodiscard]] SaleSummaryView* shownContentView() const;
+    /// The latest dialog; null before the first.
+    [[nodiscard]] Dialog* dialogMessage() const { return dialog(); }
 
 Q_SIGNALS:
     void contentViewChanged();
-    void tryAgainViewChanged();
-    void dialogMessageChanged();
 
 private:
-    template <typename Presenter>
-    void show(const Presenter& presenter, DialogActions actions);
-
     std::shared_ptr<SaleSummaryViewModeling> viewModel_;
-    std::unique_ptr<Coloring> colors_;
     std::unique_ptr<SaleSummaryRoutering> router_;
     std::unique_ptr<ViewControllerWrapperCreating> wrapperFactory_;
     std::unique_ptr<SaleSummaryViewCreating> contentViewFactory_;
     std::weak_ptr<QuilletNavigationDelegate> navigationDelegate_;
+    // Handed in by the factory. The screen builds its dialogs itself, whose actions it has to bind to its own
+    // stay on the stack.
     std::unique_ptr<DialogCreating> dialogFactory_;
     std::unique_ptr<TryAgainCreating> tryAgainFactory_;
-    std::unique_ptr<LoadingView> loadingView_;
     std::unique_ptr<SaleSummaryScreen, DeleteLater> contentView_;
-    std::unique_ptr<TryAgainScreen, DeleteLater> tryAgainView_;
-    std::unique_ptr<Dialog, DeleteLater> dialogMessage_;
-    QPointer<QObject> shownContentView_;
-    QPointer<QObject> shownTryAgainView_;
+    bool contentViewShown_ = false;
 };
 
 } // namespace quillet

@@ -1,23 +1,15 @@
 #include "Views/Animation/ViewAnimating.hpp"
 
-#include <QCoreApplication>
-#include <QVariantAnimation>
+#include "Platform/Screens/ViewAnimation.hpp"
+
+#include <utility>
 
 namespace quillet {
 
 void ViewAnimatingWrapper::animate(std::chrono::milliseconds duration,
                                    std::function<void(double progress)> step,
                                    std::function<void()> completion) {
-    // The animation deletes itself when it has ended, at the latest with the application.
-    auto* animation = new QVariantAnimation(QCoreApplication::instance());
-    animation->setStartValue(0.0);
-    animation->setEndValue(1.0);
-    animation->setDuration(static_cast<int>(duration.count()));
-    QObject::connect(animation, &QVariantAnimation::valueChanged, animation,
-                     [step = std::move(step)](const QVariant& value) { step(value.toDouble()); });
-    QObject::connect(animation, &QAbstractAnimation::finished, animation,
-                     [completion = std::move(completion)] { completion(); });
-    animation->start(QAbstractAnimation::DeleteWhenStopped);
+    platform::animateView(duration, std::move(step), std::move(completion));
 }
 
 } // namespace quillet

@@ -1,7 +1,7 @@
 #include "Views/Dialogs/AlertDialog.hpp"
 
 #include "KelDS/KelDialogController.hpp"
-#include "Views/Screen/NavigationController.hpp"
+#include "Platform/Screens/NavigationController.hpp"
 #include "Views/Screen/ViewController.hpp"
 
 namespace quillet {

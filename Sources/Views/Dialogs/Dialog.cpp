@@ -1,5 +1,6 @@
 #include "Views/Dialogs/Dialog.hpp"
 
+#include "Resources/Localization.hpp"
 #include "Resources/ModuleBundle.hpp"
 
 #include <QPointer>
@@ -23,6 +24,10 @@ Dialog::Dialog(const DialogWithIconPresenter& presenter, std::shared_ptr<ViewAni
 
 QUrl Dialog::icon() const {
     return presenter_.iconName.isEmpty() ? QUrl() : moduleImage(presenter_.iconName);
+}
+
+QString Dialog::closeText() const {
+    return Localization::close();
 }
 
 void Dialog::dismiss(std::function<void()> completion) {

@@ -2,9 +2,13 @@
 
 #include "Views/Animation/ViewAnimating.hpp"
 #include "Views/Dialogs/DialogPresenter.hpp"
+#include "Views/Tokens/Coloring.hpp"
+#include "Views/Tokens/FontsCreating.hpp"
+#include "Views/Tokens/Opacity.hpp"
+#include "Views/Tokens/ThemedView.hpp"
 
-#include <QObject>
 #include <QUrl>
+#include <QtQml/qqmlregistration.h>
 
 #include <functional>
 #include <memory>
@@ -22,12 +26,19 @@ struct DialogActions {
 /// message and one button. Whatever is touched, the dialog fades first and only then runs that touch's
 /// action. Two touches in quick succession are two dismissals, each with its own action. Owned by the screen
 /// that shows it; an action runs even if the dialog was replaced during the fade. Main thread only.
-class Dialog final : public QObject {
+class Dialog final : public quillet::ThemedView {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by a screen")
     Q_PROPERTY(QString title READ title CONSTANT FINAL)
     Q_PROPERTY(QString message READ message CONSTANT FINAL)
     Q_PROPERTY(QUrl icon READ icon CONSTANT FINAL)
     Q_PROPERTY(QString actionText READ actionText CONSTANT FINAL)
+    Q_PROPERTY(QString closeText READ closeText CONSTANT FINAL)
+    Q_PROPERTY(QFont titleFont READ titleFont CONSTANT FINAL)
+    Q_PROPERTY(QFont messageFont READ messageFont CONSTANT FINAL)
+    Q_PROPERTY(QColor textColor READ textColor NOTIFY themeChanged FINAL)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor CONSTANT FINAL)
     Q_PROPERTY(double alpha READ alpha NOTIFY alphaChanged FINAL)
     Q_PROPERTY(bool onScreen READ isOnScreen NOTIFY onScreenChanged FINAL)
 
@@ -41,6 +52,19 @@ public:
     [[nodiscard]] const QString& message() const { return presenter_.message; }
     [[nodiscard]] QUrl icon() const;
     [[nodiscard]] const QString& actionText() const { return presenter_.actionText; }
+    /// What a screen reader calls the close icon.
+    [[nodiscard]] QString closeText() const;
+    [[nodiscard]] QFont titleFont() const {
+        return FontsCreator().font(kel::KelFonts::Headline6, kel::KelFonts::Medium);
+    }
+    [[nodiscard]] QFont messageFont() const {
+        return FontsCreator().font(kel::KelFonts::Subtitle1, kel::KelFonts::Regular);
+    }
+    [[nodiscard]] QColor textColor() const { return Colors().highEmphasis(); }
+    /// What dims the screen: black in either theme.
+    [[nodiscard]] QColor backgroundColor() const {
+        return kel::KelColors::withAlpha(Qt::black, Opacities().mediumHigh());
+    }
     /// Opacity of card and ground, 1 until a touch.
     [[nodiscard]] double alpha() const { return alpha_; }
     [[nodiscard]] bool isOnScreen() const { return onScreen_; }

@@ -1,13 +1,13 @@
 import QtQuick
 import KelDS
+import Quillet
 
 // The end of a page: the reminder and the one amber button.
 Rectangle {
     id: footer
 
-    // The reminder and the button, of C++'s making.
-    required property var rememberLabel
-    required property var button
+    required property rememberLabel rememberLabel
+    required property button button
 
     signal tapped
     // The keys go to the button now.
@@ -28,16 +28,18 @@ Rectangle {
         bottomPadding: KelSpacing.semi
         spacing: KelSpacing.small
 
-        RememberLabel {
+        RememberLabelItem {
             width: parent.width
             label: footer.rememberLabel
         }
         KelButton {
+            id: submit
+
             width: parent.width
             text: footer.button.title
             identifier: footer.button.identifier
             outlined: footer.button.outlined
-            onActivated: footer.tapped()
+            onActivated: if (!Covers.over(submit)) footer.tapped()
             onVisualFocusChanged: if (visualFocus) footer.buttonFocused()
         }
     }

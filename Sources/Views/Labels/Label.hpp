@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Views/Labels/Captioned.hpp"
 #include "Views/Tokens/Coloring.hpp"
 #include "Views/Tokens/FontsCreating.hpp"
 #include "Views/Tokens/ThemedView.hpp"
@@ -9,33 +10,27 @@
 namespace quillet {
 
 /// A text in a font and colour of the design system, of which only the part behind the caption is bolder.
-class Label : public ThemedView {
+class Label : public quillet::ThemedView {
     Q_OBJECT
-    Q_PROPERTY(QString caption READ caption CONSTANT FINAL)
-    Q_PROPERTY(QString value READ value CONSTANT FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the view that holds it")
+    Q_PROPERTY(quillet::Captioned text READ text CONSTANT FINAL)
     Q_PROPERTY(QFont font READ font CONSTANT FINAL)
     Q_PROPERTY(QColor color READ color NOTIFY themeChanged FINAL)
 
 public:
-    [[nodiscard]] const QString& caption() const { return caption_; }
-    [[nodiscard]] const QString& value() const { return value_; }
-    [[nodiscard]] QString text() const { return caption_ + value_; }
+    [[nodiscard]] const Captioned& text() const { return text_; }
     [[nodiscard]] virtual QFont font() const = 0;
     [[nodiscard]] virtual QColor color() const = 0;
 
 protected:
-    Label(QString caption, QString value, std::unique_ptr<Coloring> colors,
-          std::unique_ptr<FontsCreating> fonts)
-        : caption_(std::move(caption)),
-          value_(std::move(value)),
-          colors_(std::move(colors)),
-          fonts_(std::move(fonts)) {}
+    Label(Captioned text, std::unique_ptr<Coloring> colors, std::unique_ptr<FontsCreating> fonts)
+        : text_(std::move(text)), colors_(std::move(colors)), fonts_(std::move(fonts)) {}
     [[nodiscard]] const Coloring& colors() const { return *colors_; }
     [[nodiscard]] const FontsCreating& fonts() const { return *fonts_; }
 
 private:
-    QString caption_;
-    QString value_;
+    Captioned text_;
     std::unique_ptr<Coloring> colors_;
     std::unique_ptr<FontsCreating> fonts_;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "Views/Labels/Captioned.hpp"
 
 namespace quillet {
 
@@ -8,7 +8,9 @@ namespace quillet {
 class PointsPresenter {
 public:
     virtual ~PointsPresenter() = default;
-    [[nodiscard]] virtual QString pointsText() const = 0;
+    [[nodiscard]] virtual Captioned captioned() const = 0;
+    /// Caption and value in one.
+    [[nodiscard]] QString pointsText() const { return captioned().plainText(); }
 };
 
 } // namespace quillet

@@ -8,7 +8,7 @@ RememberLabel RememberLabel::in(const Coloring& colors, const FontsCreating& fon
     const QString first = Localization::remember() + u':';
     const QString second = u' ' + Localization::youCanKeepCollectingSales();
     return {QStringLiteral("<b>%1</b>%2").arg(first.toHtmlEscaped(), second.toHtmlEscaped()), first + second,
-            fonts.font(11, 0), colors.highEmphasis()};
+            fonts.font(kel::KelFonts::Caption, kel::KelFonts::Regular), colors.highEmphasis()};
 }
 
 } // namespace quillet

@@ -4,6 +4,7 @@
 #include "Views/Tokens/FontsCreating.hpp"
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 
 namespace quillet {
 
@@ -11,6 +12,7 @@ namespace quillet {
 /// the sentence.
 class RememberLabel {
     Q_GADGET
+    QML_VALUE_TYPE(rememberLabel)
     Q_PROPERTY(QString styledText MEMBER styledText CONSTANT FINAL)
     Q_PROPERTY(QString plainText MEMBER plainText CONSTANT FINAL)
     Q_PROPERTY(QFont font MEMBER font CONSTANT FINAL)

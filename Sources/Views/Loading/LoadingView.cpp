@@ -1,5 +1,7 @@
 #include "Views/Loading/LoadingView.hpp"
 
+#include "Resources/Localization.hpp"
+
 #include <utility>
 
 namespace quillet {
@@ -30,6 +32,10 @@ void LoadingView::startLoading() {
 void LoadingView::stopLoading() {
     progressIndicator()->configure(Indicator::Action::hideAndStopAnimation, Indicator::Size::medium);
     setOnScreen(false);
+}
+
+QString LoadingView::name() const {
+    return Localization::loading();
 }
 
 void LoadingView::setOnScreen(bool onScreen) {

@@ -14,12 +14,15 @@ namespace quillet {
 
 /// The full-screen overlay that a screen shows while a call runs, with the progress indicator in its middle.
 /// Off screen it draws nothing and costs no frame.
-class LoadingView final : public ThemedView, public Loading {
+class LoadingView : public quillet::ThemedView, public Loading {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by a screen")
     Q_PROPERTY(bool onScreen READ isOnScreen NOTIFY onScreenChanged FINAL)
-    Q_PROPERTY(QObject* progressIndicator READ progressIndicator CONSTANT FINAL)
+    Q_PROPERTY(quillet::ProgressIndicatorCircular* progressIndicator READ progressIndicator CONSTANT FINAL)
     Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY themeChanged FINAL)
     Q_PROPERTY(QColor overlayColor READ overlayColor NOTIFY themeChanged FINAL)
+    Q_PROPERTY(QString name READ name CONSTANT FINAL)
     Q_PROPERTY(int indicatorSize READ indicatorSize CONSTANT FINAL)
 
 public:
@@ -35,6 +38,8 @@ public:
     [[nodiscard]] QColor backgroundColor() const { return colors_->background(); }
     [[nodiscard]] QColor overlayColor() { return overylay().color(); }
     [[nodiscard]] int indicatorSize() const { return sizer_->mediumX(); }
+    /// What a screen reader calls the overlay.
+    [[nodiscard]] QString name() const;
 
 Q_SIGNALS:
     void onScreenChanged();

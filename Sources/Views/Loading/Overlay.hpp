@@ -16,7 +16,9 @@ public:
         : opacity_(std::move(opacity)) {}
 
     [[nodiscard]] QColor color() const {
-        return kel::KelColors::withAlpha(kel::KelColors::veil(), opacity_->mediumHigh());
+        const bool isLight = kel::KelAppearance::current().theme() == kel::KelTheme::light;
+        return kel::KelColors::withAlpha(isLight ? kel::KelColors::highEmphasis() : QColor(Qt::black),
+                                         opacity_->mediumHigh());
     }
 
 private:

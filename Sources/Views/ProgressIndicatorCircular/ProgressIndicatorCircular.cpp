@@ -22,7 +22,8 @@ Measures measures(ProgressIndicatorCircular::Size size) {
 
 } // namespace
 
-ProgressIndicatorCircular::ProgressIndicatorCircular(std::unique_ptr<ProgressIndicatorCircularAnimating> animator)
+ProgressIndicatorCircular::ProgressIndicatorCircular(
+    std::unique_ptr<ProgressIndicatorCircularAnimating> animator)
     : animator_(std::move(animator)) {}
 
 void ProgressIndicatorCircular::configure(Action action, Size size) {
@@ -31,7 +32,6 @@ void ProgressIndicatorCircular::configure(Action action, Size size) {
     if (action == Action::hideAndStopAnimation) {
         hide();
     }
-    Q_EMIT changed();
 }
 
 void ProgressIndicatorCircular::configure(bool useBackgroundLayer) {
@@ -40,7 +40,8 @@ void ProgressIndicatorCircular::configure(bool useBackgroundLayer) {
 
 void ProgressIndicatorCircular::draw(const QSizeF& bounds) {
     switch (action_) {
-    case Action::hideAndStopAnimation: return hide();
+    case Action::hideAndStopAnimation:
+        return hide();
     case Action::showAndStartAnimation:
         if (layer_.sublayers().empty()) {
             addCircleAndSemiCircle(bounds);
@@ -66,8 +67,9 @@ void ProgressIndicatorCircular::addCircleAndSemiCircle(const QSizeF& bounds) {
     }
     animator_->addRotationAnimation(*semiCircleLayer_);
     animator_->addSpringAnimation(*semiCircleLayer_);
-    circleLayer_->path = CirclePath{circleLayer_->bounds.center(), measure.backgroundRadius + kSizeMicro,
-                                    std::numbers::pi, 3 * std::numbers::pi};
+    circleLayer_->path =
+        platform::CirclePath{circleLayer_->bounds.center(), measure.backgroundRadius + kSizeMicro,
+                             std::numbers::pi, 3 * std::numbers::pi};
     circleLayer_->position = {bounds.width() / 2, bounds.height() / 2};
     circleLayer_->addSublayer(semiCircleLayer_);
     layer_.addSublayer(circleLayer_);

@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QSizeF>
+#include <QtQml/qqmlregistration.h>
 
 #include <memory>
 
@@ -14,6 +15,8 @@ namespace quillet {
 /// knows what to draw; a ProgressIndicatorItem draws it. Main thread only.
 class ProgressIndicatorCircular final : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by a LoadingView")
 
 public:
     enum class Action { showAndStartAnimation, hideAndStopAnimation };
@@ -31,12 +34,9 @@ public:
 
     [[nodiscard]] bool isVisible() const { return isVisible_; }
     /// Holds the circle layer while the indicator shows, else nothing.
-    [[nodiscard]] const ShapeLayer& layer() const { return layer_; }
+    [[nodiscard]] const platform::ShapeLayer& layer() const { return layer_; }
     /// Null until it is first drawn.
     [[nodiscard]] const SemiCircleLayer* semiCircleLayer() const { return semiCircleLayer_.get(); }
-
-Q_SIGNALS:
-    void changed();
 
 private:
     void hide();
@@ -46,8 +46,8 @@ private:
     Action action_ = Action::hideAndStopAnimation;
     Size size_ = Size::standard;
     bool isVisible_ = false;
-    ShapeLayer layer_;
-    std::shared_ptr<ShapeLayer> circleLayer_ = std::make_shared<ShapeLayer>();
+    platform::ShapeLayer layer_;
+    std::shared_ptr<platform::ShapeLayer> circleLayer_ = std::make_shared<platform::ShapeLayer>();
     std::shared_ptr<SemiCircleLayer> semiCircleLayer_;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Views/Layers/ShapeLayer.hpp"
+#include "Platform/Screens/ShapeLayer.hpp"
 
 namespace quillet {
 
@@ -8,16 +8,16 @@ namespace quillet {
 class ProgressIndicatorCircularAnimating {
 public:
     virtual ~ProgressIndicatorCircularAnimating() = default;
-    virtual void addRotationAnimation(ShapeLayer& layer) const = 0;
-    virtual void addSpringAnimation(ShapeLayer& layer) const = 0;
+    virtual void addRotationAnimation(platform::ShapeLayer& layer) const = 0;
+    virtual void addSpringAnimation(platform::ShapeLayer& layer) const = 0;
 };
 
 /// One turn every four seconds; and in rounds of a second and a half, an arc whose head runs around the ring
 /// in the first second while its tail creeps to 15 %, and whose tail then catches up.
 class ProgressIndicatorCircularAnimator final : public ProgressIndicatorCircularAnimating {
 public:
-    void addRotationAnimation(ShapeLayer& layer) const override;
-    void addSpringAnimation(ShapeLayer& layer) const override;
+    void addRotationAnimation(platform::ShapeLayer& layer) const override;
+    void addSpringAnimation(platform::ShapeLayer& layer) const override;
 };
 
 } // namespace quillet

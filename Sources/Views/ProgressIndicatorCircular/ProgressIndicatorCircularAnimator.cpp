@@ -4,13 +4,14 @@
 
 namespace quillet {
 
-void ProgressIndicatorCircularAnimator::addRotationAnimation(ShapeLayer& layer) const {
-    layer.addAnimation({4, {{"transform.rotation.z", 0, 4, 0, 2 * std::numbers::pi, LayerTiming::linear}}},
-                       "Animation.rotation.key");
+void ProgressIndicatorCircularAnimator::addRotationAnimation(platform::ShapeLayer& layer) const {
+    layer.addAnimation(
+        {4, {{"transform.rotation.z", 0, 4, 0, 2 * std::numbers::pi, platform::LayerTiming::linear}}},
+        "Animation.rotation.key");
 }
 
-void ProgressIndicatorCircularAnimator::addSpringAnimation(ShapeLayer& layer) const {
-    constexpr auto ease = LayerTiming::easeInEaseOut;
+void ProgressIndicatorCircularAnimator::addSpringAnimation(platform::ShapeLayer& layer) const {
+    constexpr auto ease = platform::LayerTiming::easeInEaseOut;
     layer.addAnimation({1.5,
                         {
                             {"strokeStart", 0, 1, 0, 0.15, ease},

@@ -1,7 +1,5 @@
 #include "Views/ProgressIndicatorCircular/ProgressIndicatorItem.hpp"
 
-#include "Views/ProgressIndicatorCircular/ProgressIndicatorCircular.hpp"
-
 #include <QPainter>
 
 namespace quillet {
@@ -10,14 +8,9 @@ ProgressIndicatorItem::ProgressIndicatorItem(QQuickItem* parent) : QQuickPainted
     setAntialiasing(true);
 }
 
-QObject* ProgressIndicatorItem::indicator() const {
-    return indicator_;
-}
-
-void ProgressIndicatorItem::setIndicator(QObject* indicator) {
-    auto* circular = qobject_cast<ProgressIndicatorCircular*>(indicator);
-    if (circular != indicator_) {
-        indicator_ = circular;
+void ProgressIndicatorItem::setIndicator(ProgressIndicatorCircular* indicator) {
+    if (indicator != indicator_) {
+        indicator_ = indicator;
         Q_EMIT indicatorChanged();
         update();
     }

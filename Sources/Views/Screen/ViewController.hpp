@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Views/Screen/QuickViewController.hpp"
+#include "Platform/Screens/QuickViewController.hpp"
 
 #include <memory>
 
@@ -11,19 +11,20 @@ class ViewController {
 public:
     virtual ~ViewController() = default;
     /// The screen; null once it is gone.
-    [[nodiscard]] virtual std::shared_ptr<QuickViewController> originViewController() const = 0;
+    [[nodiscard]] virtual std::shared_ptr<platform::QuickViewController> originViewController() const = 0;
 };
 
 /// Holds the screen weakly, so that a router in the middle of its work never keeps a closed screen alive.
 class ViewControllerWrapper final : public ViewController {
 public:
-    explicit ViewControllerWrapper(std::weak_ptr<QuickViewController> screen) : screen_(std::move(screen)) {}
-    [[nodiscard]] std::shared_ptr<QuickViewController> originViewController() const override {
+    explicit ViewControllerWrapper(std::weak_ptr<platform::QuickViewController> screen)
+        : screen_(std::move(screen)) {}
+    [[nodiscard]] std::shared_ptr<platform::QuickViewController> originViewController() const override {
         return screen_.lock();
     }
 
 private:
-    std::weak_ptr<QuickViewController> screen_;
+    std::weak_ptr<platform::QuickViewController> screen_;
 };
 
 /// Makes the wrapper that a screen hands to its router.
@@ -31,13 +32,13 @@ class ViewControllerWrapperCreating {
 public:
     virtual ~ViewControllerWrapperCreating() = default;
     [[nodiscard]] virtual std::unique_ptr<ViewController>
-    create(std::weak_ptr<QuickViewController> screen) const = 0;
+    create(std::weak_ptr<platform::QuickViewController> screen) const = 0;
 };
 
 class ViewControllerWrapperFactory final : public ViewControllerWrapperCreating {
 public:
     [[nodiscard]] std::unique_ptr<ViewController>
-    create(std::weak_ptr<QuickViewController> screen) const override {
+    create(std::weak_ptr<platform::QuickViewController> screen) const override {
         return std::make_unique<ViewControllerWrapper>(std::move(screen));
     }
 };

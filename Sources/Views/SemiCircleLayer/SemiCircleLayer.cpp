@@ -8,7 +8,7 @@ namespace quillet {
 
 SemiCircleLayer::SemiCircleLayer(double diameter, const QRectF& parentLayerBounds)
     : diameter_(diameter), parentLayerBounds_(parentLayerBounds) {
-    path = CirclePath{parentLayerBounds.center(), diameter / 2, 0, 2 * std::numbers::pi};
+    path = platform::CirclePath{parentLayerBounds.center(), diameter / 2, 0, 2 * std::numbers::pi};
     strokeColor = hexColor("#F4AB34", 1);
     lineWidth = 4;
     position = parentLayerBounds.center();

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "Views/Layers/ShapeLayer.hpp"
+#include "Platform/Screens/ShapeLayer.hpp"
 
 namespace quillet {
 
 /// The moving arc of the progress indicator: a circle around the middle of its parent, stroked and not
 /// filled.
-class SemiCircleLayer final : public ShapeLayer {
+class SemiCircleLayer final : public platform::ShapeLayer {
 public:
     SemiCircleLayer(double diameter, const QRectF& parentLayerBounds);
 

@@ -2,12 +2,14 @@
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 namespace quillet {
 
 /// A button of the design system, as QML draws it.
 class Button {
     Q_GADGET
+    QML_VALUE_TYPE(button)
     Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
     Q_PROPERTY(QString identifier MEMBER identifier CONSTANT FINAL)
     Q_PROPERTY(bool outlined MEMBER outlined CONSTANT FINAL)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelDS/KelTokens.hpp"
+#include "KelDS/KelMeasures.hpp"
 
 namespace quillet {
 
@@ -14,7 +14,7 @@ public:
 /// The design system's.
 class Opacities final : public Opacity {
 public:
-    [[nodiscard]] double mediumHigh() const override { return kel::opacity::mediumHigh; }
+    [[nodiscard]] double mediumHigh() const override { return kel::KelOpacity::mediumHigh; }
 };
 
 } // namespace quillet

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelDS/KelTokens.hpp"
+#include "KelDS/KelMeasures.hpp"
 
 namespace quillet {
 
@@ -18,11 +18,11 @@ public:
 /// The design system's.
 class Sizer final : public Sizing {
 public:
-    [[nodiscard]] int small() const override { return kel::sizes::small; }
-    [[nodiscard]] int semi() const override { return kel::sizes::semi; }
-    [[nodiscard]] int semiX() const override { return kel::sizes::semiX; }
-    [[nodiscard]] int medium() const override { return kel::sizes::medium; }
-    [[nodiscard]] int mediumX() const override { return kel::sizes::mediumX; }
+    [[nodiscard]] int small() const override { return kel::KelSizes::small; }
+    [[nodiscard]] int semi() const override { return kel::KelSizes::semi; }
+    [[nodiscard]] int semiX() const override { return kel::KelSizes::semiX; }
+    [[nodiscard]] int medium() const override { return kel::KelSizes::medium; }
+    [[nodiscard]] int mediumX() const override { return kel::KelSizes::mediumX; }
 };
 
 } // namespace quillet

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelDS/KelTokens.hpp"
+#include "KelDS/KelMeasures.hpp"
 
 namespace quillet {
 
@@ -16,9 +16,9 @@ public:
 /// The design system's.
 class Spacer final : public Spacing {
 public:
-    [[nodiscard]] int small() const override { return kel::spacing::small; }
-    [[nodiscard]] int semi() const override { return kel::spacing::semi; }
-    [[nodiscard]] int standard() const override { return kel::spacing::standard; }
+    [[nodiscard]] int small() const override { return kel::KelSpacing::small; }
+    [[nodiscard]] int semi() const override { return kel::KelSpacing::semi; }
+    [[nodiscard]] int standard() const override { return kel::KelSpacing::standard; }
 };
 
 } // namespace quillet

@@ -25,7 +25,7 @@ struct TryAgainPresenter {
 
 /// The view that stands in place of a screen's content after a failure, with one button. The screen that
 /// shows it owns it. Main thread only.
-class TryAgainScreen : public ThemedView {
+class TryAgainScreen : public quillet::ThemedView {
     Q_OBJECT
 
 public:
@@ -34,17 +34,16 @@ public:
     virtual void tap() = 0;
 };
 
-class TryAgainView final : public TryAgainScreen {
+class TryAgainView final : public quillet::TryAgainScreen {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by a TryAgainFactory")
     Q_PROPERTY(QUrl icon READ icon CONSTANT FINAL)
     Q_PROPERTY(QString message READ message CONSTANT FINAL)
     Q_PROPERTY(quillet::Button submitButton READ submitButton CONSTANT FINAL)
     Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY themeChanged FINAL)
     Q_PROPERTY(QColor labelColor READ labelColor NOTIFY themeChanged FINAL)
     Q_PROPERTY(int iconSize READ iconSize CONSTANT FINAL)
-    Q_PROPERTY(int labelSpacing READ labelSpacing CONSTANT FINAL)
-    Q_PROPERTY(int buttonSpacing READ buttonSpacing CONSTANT FINAL)
-    Q_PROPERTY(int sideSpacing READ sideSpacing CONSTANT FINAL)
 
 public:
     TryAgainView(std::unique_ptr<ButtonCreating> buttonFactory, std::unique_ptr<Coloring> colors,
@@ -59,17 +58,12 @@ public:
     [[nodiscard]] QColor labelColor() const { return colors_->highEmphasis(); }
     /// The image is five of the size token semiX wide and high.
     [[nodiscard]] int iconSize() const { return 5 * sizing_->semiX(); }
-    /// Between image and label, and on either side of the label.
-    [[nodiscard]] int labelSpacing() const { return spacing_->standard(); }
-    /// Below the button.
-    [[nodiscard]] int buttonSpacing() const { return spacing_->semi(); }
-    /// On either side of the button.
-    [[nodiscard]] int sideSpacing() const { return spacing_->small(); }
     Q_INVOKABLE void tap() override { didTapButton_(); }
 
 private:
     std::unique_ptr<ButtonCreating> buttonFactory_;
     std::unique_ptr<Coloring> colors_;
+    // Handed in by the factory. The QML that lays the view out reads the same tokens from the design system.
     std::unique_ptr<Spacing> spacing_;
     std::unique_ptr<Sizing> sizing_;
     TryAgainPresenter presenter_;

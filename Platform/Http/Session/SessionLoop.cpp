@@ -1,0 +1,305 @@
+#include "Platform/Http/Session/SessionLoop.hpp"
+
+#include "Platform/Http/Curl/CurlErrorCode.hpp"
+#include "Platform/Http/Curl/CurlLibrary.hpp"
+#include "Platform/Http/Process/HostSignals.hpp"
+#include "Platform/Http/Process/OpenSsl.hpp"
+
+#include <algorithm>
+#include <atomic>
+#include <new>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace quillet::platform {
+
+namespace {
+
+std::atomic<std::uint64_t> exchangeCount = 0;
+
+constexpr std::chrono::hours longestTimeout(24);
+
+URLSessionConfiguration completed(URLSessionConfiguration configuration) {
+    if (!configuration.networkPath) {
+        configuration.networkPath = std::make_shared<SystemNetworkPathMonitor>();
+    }
+    if (!configuration.clock) {
+        configuration.clock = std::make_shared<SystemSessionClock>();
+    }
+    return configuration;
+}
+
+} // namespace
+
+SessionLoop::SessionLoop(URLSessionConfiguration configuration)
+    : configuration_(completed(std::move(configuration))) {
+    // As early as possible, for the sake of the order in which the process ends. Each call asks for the
+    // error.
+    static_cast<void>(initialiseCurl());
+}
+
+void SessionLoop::start(URLSessionExchange exchange) {
+    const auto now = configuration_.clock->now();
+    const auto deadline =
+        now + std::min<std::chrono::milliseconds>(exchange.request.timeoutInterval, longestTimeout);
+    Calls call;
+    call.push_back(
+        {.exchange = std::move(exchange), .number = ++exchangeCount, .start = now, .deadline = deadline});
+    {
+        const std::lock_guard lock(mutex_);
+        if (multi_ || startThread()) {
+            arrived_.splice(arrived_.end(), call);
+            wakeUp();
+            return;
+        }
+    }
+    call.front().exchange.completionHandler(
+        {}, {}, URLError::of(URLError::Code::unknown, "No thread for the session"));
+}
+
+bool SessionLoop::startThread() {
+    multi_ = curl_multi_init();
+    try {
+        // A multi handle that found no file descriptors for waking it up would sleep through every call.
+        if (multi_ && curl_multi_wakeup(multi_) == CURLM_OK) {
+            std::thread([self = shared_from_this()] { self->run(); }).detach();
+            return true;
+        }
+    } catch (const std::system_error&) {
+    } catch (const std::bad_alloc&) {
+    }
+    curl_multi_cleanup(std::exchange(multi_, nullptr));
+    return false;
+}
+
+void SessionLoop::ownerIsGone() {
+    const std::lock_guard lock(mutex_);
+    ownerIsGone_ = true;
+    wakeUp();
+}
+
+void SessionLoop::clockDidJump() {
+    const std::lock_guard lock(mutex_);
+    wakeUp();
+}
+
+void SessionLoop::wakeUp() {
+    if (multi_) {
+        curl_multi_wakeup(multi_);
+    }
+}
+
+template <typename Foreign>
+void SessionLoop::outside(Foreign foreign) {
+    struct Outside {
+        explicit Outside(ProcessEnd::Lock& work) : work_(work) { work_.unlock(); }
+        ~Outside() { work_.lock(); }
+        ProcessEnd::Lock& work_;
+    };
+    const Outside guard(work_);
+    foreign();
+}
+
+template <typename Tell>
+void SessionLoop::tellObserver(Tell tell) {
+    if (configuration_.observer) {
+        try {
+            outside([&] { tell(*configuration_.observer); });
+        } catch (...) {
+            // Watching must not change what is watched.
+        }
+    }
+}
+
+void SessionLoop::run() noexcept {
+    leaveSignalsToTheHost();
+    work_ = ProcessEnd::lock();
+    while (true) {
+        beginArrivedCalls();
+        int unfinished = 0;
+        if (const CURLMcode code = curl_multi_perform(multi_, &unfinished); code != CURLM_OK) {
+            finishAllCalls(code);
+        }
+        finishTransferredCalls();
+        finishOverdueCalls();
+        if (endIfDone()) {
+            return;
+        }
+        // A wake-up that comes before the poll is not lost: it ends the poll at once.
+        outside([&] { curl_multi_poll(multi_, nullptr, 0, millisecondsToSleep(), nullptr); });
+    }
+}
+
+void SessionLoop::beginArrivedCalls() {
+    Calls arrived;
+    {
+        const std::lock_guard lock(mutex_);
+        arrived.swap(arrived_);
+    }
+    while (!arrived.empty()) {
+        const auto call = arrived.begin();
+        running_.splice(running_.end(), arrived, call);
+        tellObserver([&](auto& observer) { observer.willSend(call->number, call->exchange.request); });
+        begin(call);
+    }
+}
+
+void SessionLoop::begin(Calls::iterator call) {
+    std::optional<URLError> error;
+    try {
+        error = beginTransfer(*call);
+    } catch (const std::bad_alloc&) {
+        error = URLError::outOfMemory();
+    }
+    if (error) {
+        finish(call, {.error = std::move(error)});
+    }
+}
+
+std::optional<URLError> SessionLoop::beginTransfer(Call& call) {
+    if (auto error = initialiseCurl()) {
+        return error;
+    }
+    auto transfer = CurlTransfer::create(call.exchange.request, configuration_);
+    if (!transfer) {
+        return std::move(transfer).error();
+    }
+    if (const CURLMcode code = curl_multi_add_handle(multi_, (*transfer)->handle()); code != CURLM_OK) {
+        return URLError::of(URLError::Code::unknown, curl_multi_strerror(code));
+    }
+    call.transfer = *std::move(transfer);
+    return std::nullopt;
+}
+
+void SessionLoop::endTransfer(Call& call) {
+    if (call.transfer) {
+        curl_multi_remove_handle(multi_, call.transfer->handle());
+        call.transfer.reset();
+    }
+}
+
+void SessionLoop::finishTransferredCalls() {
+    int left = 0;
+    while (const CURLMsg* message = curl_multi_info_read(multi_, &left)) {
+        const auto call = std::ranges::find_if(running_, [&](const Call& one) {
+            return one.transfer && one.transfer->handle() == message->easy_handle;
+        });
+        if (message->msg == CURLMSG_DONE && call != running_.end()) {
+            finishTransferredCall(call, message->data.result);
+        }
+    }
+}
+
+void SessionLoop::finishTransferredCall(Calls::iterator call, CURLcode code) {
+    // Only connecting has a time-out of libcurl's.
+    const bool isConnectTimeout = code == CURLE_OPERATION_TIMEDOUT && !call->transfer->hasTlsBegun();
+    if ((isConnectTimeout || isFailureToConnect(code)) && !isNetworkThere(*call)) {
+        finish(call, {.error = URLError::of(URLError::Code::notConnectedToInternet, "There is no network")});
+        return;
+    }
+    if (isConnectTimeout) {
+        endTransfer(*call);
+        begin(call);
+        return;
+    }
+    URLSessionOutcome outcome;
+    try {
+        outcome = call->transfer->outcome(code);
+    } catch (const std::bad_alloc&) {
+        outcome = {.error = URLError::outOfMemory()};
+    }
+    finish(call, std::move(outcome));
+}
+
+bool SessionLoop::isNetworkThere(const Call& call) {
+    const std::string& host = call.exchange.request.url.host;
+    bool isThere = true;
+    try {
+        outside([&] {
+            isThere = configuration_.networkPath->isSatisfied(host, configuration_.mapping(host) != nullptr);
+        });
+    } catch (...) {
+        // Whoever cannot tell does not say that there is none.
+    }
+    return isThere;
+}
+
+void SessionLoop::finishOverdueCalls() {
+    const auto now = configuration_.clock->now();
+    for (auto call = running_.begin(); call != running_.end();) {
+        const auto next = std::next(call);
+        if (call->deadline <= now) {
+            finish(call, {.error = URLError::of(URLError::Code::timedOut, "The request timed out")});
+        }
+        call = next;
+    }
+}
+
+void SessionLoop::finishAllCalls(CURLMcode code) {
+    while (!running_.empty()) {
+        finish(running_.begin(), {.error = URLError::of(URLError::Code::unknown, curl_multi_strerror(code))});
+    }
+}
+
+void SessionLoop::finish(Calls::iterator call, URLSessionOutcome outcome) {
+    Calls finished;
+    finished.splice(finished.end(), running_, call);
+    endTransfer(*call);
+    tellObserver([&](auto& observer) {
+        URLSessionExchangeEnd end;
+        end.statusCode = outcome.response ? outcome.response->statusCode : 0;
+        end.errorCode = outcome.error ? std::optional(outcome.error->code) : std::nullopt;
+        end.duration =
+            std::chrono::duration_cast<std::chrono::milliseconds>(configuration_.clock->now() - call->start);
+        observer.didEnd(call->number, call->exchange.request, end);
+    });
+    outside([&] {
+        auto completionHandler = std::move(call->exchange.completionHandler);
+        completionHandler(std::move(outcome.data), std::move(outcome.response), std::move(outcome.error));
+    });
+}
+
+int SessionLoop::millisecondsToSleep() const {
+    // Without a call there is nothing to wait for but a wake-up.
+    std::chrono::milliseconds wait = std::chrono::hours(1);
+    const auto now = configuration_.clock->now();
+    for (const auto& call : running_) {
+        wait = std::min(wait, std::chrono::ceil<std::chrono::milliseconds>(call.deadline - now));
+        if (call.transfer && !call.transfer->hasTlsBegun() && !call.transfer->isRequestBegun()) {
+            // libcurl 7.88 gives an address up in time, but goes on to the next one only when it is called
+            // again, and does not ask for that.
+            wait = std::min(wait, std::chrono::milliseconds(250));
+        }
+    }
+    return static_cast<int>(std::max(wait, std::chrono::milliseconds(0)).count());
+}
+
+bool SessionLoop::endIfDone() {
+    CURLM* multi = nullptr;
+    {
+        const std::lock_guard lock(mutex_);
+        if (!ownerIsGone_ || !arrived_.empty() || !running_.empty()) {
+            return false;
+        }
+        multi = std::exchange(multi_, nullptr);
+    }
+    curl_multi_cleanup(multi);
+    leaveOpenSsl();
+    work_.unlock();
+    return true;
+}
+
+SessionOwner::SessionOwner(URLSessionConfiguration configuration) {
+    const auto clock = configuration.clock;
+    loop_ = std::make_shared<SessionLoop>(std::move(configuration));
+    if (clock) {
+        clock->addListener(loop_);
+    }
+}
+
+SessionOwner::~SessionOwner() {
+    loop_->ownerIsGone();
+}
+
+} // namespace quillet::platform

@@ -1,0 +1,61 @@
+#include "Platform/Json/Cursor.hpp"
+
+#include "Platform/Json/Number.hpp"
+#include "Platform/Json/Text.hpp"
+
+#include <bitset>
+
+namespace quillet::platform::json {
+
+bool Cursor::skipString() {
+    if (peek() != '"') {
+        return invalidate();
+    }
+    const std::string_view raw = passString();
+    return !hasEscapes(raw) || unescape(raw, scratch_) || invalidate();
+}
+
+bool Cursor::skipScalar() {
+    switch (peek()) {
+    case '"':
+        return skipString();
+    case 't':
+        return passLiteral("true");
+    case 'f':
+        return passLiteral("false");
+    case 'n':
+        return passLiteral("null");
+    }
+    const auto number = scanNumber(rest());
+    return number ? passScalar(number->end) : invalidate();
+}
+
+bool Cursor::skip() {
+    // A loop with a stack of bits, one for each level: no body can make it recurse.
+    std::bitset<maximumDepth + 1> objects;
+    const int outside = depth_;
+    const auto inObject = [&] { return objects.test(static_cast<std::size_t>(depth_)); };
+    const auto closing = [&] { return inObject() ? '}' : ']'; };
+    do {
+        bool more = false;
+        if (peek() == '{' || peek() == '[') {
+            const bool object = peek() == '{';
+            if (!open()) {
+                return false;
+            }
+            objects.set(static_cast<std::size_t>(depth_), object);
+            more = first(closing());
+        } else if (!skipScalar()) {
+            return false;
+        }
+        while (!more && depth_ > outside && !invalid_) {
+            more = next(closing());
+        }
+        if (more && inObject() && !(skipString() && passColon())) {
+            return false;
+        }
+    } while (depth_ > outside && !invalid_);
+    return !invalid_;
+}
+
+} // namespace quillet::platform::json

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "Platform/Json/Cursor.hpp"
+#include "Platform/Json/DecodingError.hpp"
+#include "Platform/Json/Expected.hpp"
+#include "Platform/Json/Number.hpp"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace quillet::platform::json {
+
+/// Reads single values. Each `read` passes the whole value at the cursor, also one that it cannot use. It is
+/// false if it could not use the value, and then the reader holds the error, or if the body is not JSON, and
+/// then nothing more can be read.
+class Reader {
+public:
+    Reader(const std::string& body, std::span<const std::uint32_t> offsets) : cursor_(body, offsets) {}
+
+    /// Whether all of the body was passed and was JSON.
+    [[nodiscard]] bool passedAll() const { return !cursor_.invalid() && cursor_.atEnd(); }
+    [[nodiscard]] DecodingError takeError() { return std::move(error_); }
+
+protected:
+    ~Reader() = default;
+
+    bool read(std::uint64_t& value) {
+        const bool plain = readPlainUnsigned(cursor_.token(), cursor_.followingToken(), value);
+        return plain ? cursor_.passToken() : readNumber(value, toUnsigned);
+    }
+    bool read(std::int64_t& value) { return readNumber(value, toSigned); }
+    bool read(Decimal& value) {
+        const bool plain = readPlainDecimal(cursor_.token(), cursor_.followingToken(), value);
+        return plain ? cursor_.passToken() : readNumber(value, toDecimal);
+    }
+    bool read(bool& value) {
+        value = cursor_.peek() == 't';
+        if (value) {
+            return cursor_.passLiteral("true");
+        }
+        return cursor_.peek() == 'f' ? cursor_.passLiteral("false") : passUnexpected(expectedOf<bool>());
+    }
+    bool read(std::string& value);
+
+    template <HasTextForm T>
+    bool read(T& value) {
+        std::string_view text;
+        if (!readText(text, expectedOf<T>())) {
+            return false;
+        }
+        const auto converted = TextForm<T>::read(text);
+        if (converted) {
+            value = *converted;
+        }
+        return converted || fail(DecodingError::Reason::unexpectedValue, expectedOf<T>());
+    }
+
+    /// Passes the key at the cursor and its colon, whatever it is. `key` is good until the next string is
+    /// read.
+    bool passKey(std::string_view& key);
+
+    /// Passes the value at the cursor, which is not what was expected. Always false.
+    bool passUnexpected(std::string_view expected);
+
+    /// Keeps the error. Always false.
+    bool fail(DecodingError::Reason reason, std::string_view expected);
+
+    /// Puts the way from the record or list that is being read before the way that the error already has.
+    void prefixError(std::string_view key);
+    void prefixError(std::size_t position);
+
+    Cursor cursor_;
+
+private:
+    /// A string's text, good until the next string is read.
+    bool readText(std::string_view& text, std::string_view expected);
+
+    template <typename T>
+    bool readNumber(T& value, std::optional<T> (*convert)(const NumberToken&));
+
+    DecodingError error_;
+    std::string scratch_;
+};
+
+} // namespace quillet::platform::json

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <list>
+#include <mutex>
+
+namespace quillet::platform {
+
+/// A serial queue that the user interface drains on its own thread.
+class MainQueue {
+public:
+    /// Queues a block. May be called on any thread, also from within a block. Throws what the allocation or
+    /// the wake-up throws; the block is not queued then.
+    void async(std::function<void()> block);
+
+    /// Runs the blocks that are queued at this moment, in order, and returns how many ran. Blocks that are
+    /// queued meanwhile wait for the next drain, so that the user interface gets its turn between them.
+    /// Called on the user interface's thread only; a block may call it again, as a nested event loop does.
+    std::size_t drain();
+
+    /// How an event loop learns that there is something to drain: called within each `async`, on that thread,
+    /// and at once if blocks are waiting. It should only leave a note for the event loop, and must not use
+    /// this queue. Once this returns the previous hook is not running and will not be called again; an empty
+    /// function takes it away.
+    void setWakeUp(std::function<void()> wakeUp);
+
+private:
+    using Blocks = std::list<std::function<void()>>;
+
+    std::mutex mutex_;
+    Blocks blocks_;
+    std::function<void()> wakeUp_;
+};
+
+/// The main queue of the process. It is never torn down, so that a reply may come at any time, even while the
+/// program exits.
+[[nodiscard]] MainQueue& mainQueue();
+
+} // namespace quillet::platform

@@ -1,0 +1,94 @@
+#include "Platform/Screens/NavigationController.hpp"
+
+#include "Platform/Screens/QuickViewController.hpp"
+
+#include <QLoggingCategory>
+#include <QQmlComponent>
+#include <QQmlEngine>
+
+namespace quillet::platform {
+
+namespace {
+Q_LOGGING_CATEGORY(lcNavigation, "quillet.navigation")
+
+// What arranges its children would arrange an overlay as one more of them. QML's layouts, positioners and
+// containers have no public class in C++, so they are told by a property of theirs that nothing else has.
+bool arrangesChildren(const QQuickItem& item) {
+    const auto has = [&](const char* property) { return item.metaObject()->indexOfProperty(property) >= 0; };
+    return has("layoutDirection") || has("populate") || has("currentIndex");
+}
+
+} // namespace
+
+NavigationController::NavigationController(QQuickItem& stackView)
+    : QObject(&stackView), stackView_(&stackView) {}
+
+NavigationController& NavigationController::of(QQuickItem& stackView) {
+    auto* existing = stackView.findChild<NavigationController*>(QString(), Qt::FindDirectChildrenOnly);
+    return existing ? *existing : *new NavigationController(stackView);
+}
+
+bool NavigationController::holds(const QQuickItem& page) const {
+    QQmlEngine* const ours = engine();
+    if (!ours) {
+        return false;
+    }
+    const QJSValue stack = ours->toScriptValue<QObject*>(stackView_.data());
+    const QJSValue get = stack.property(QStringLiteral("get"));
+    for (int index = stack.property(QStringLiteral("depth")).toInt() - 1; index >= 0; --index) {
+        if (get.callWithInstance(stack, {index}).toQObject() == &page) {
+            return true;
+        }
+    }
+    return false;
+}
+
+QQmlEngine* NavigationController::engine() const {
+    return stackView_ ? qmlEngine(stackView_) : nullptr;
+}
+
+QQuickItem* NavigationController::coverArea() const {
+    QQuickItem* area = stackView_ ? stackView_->parentItem() : nullptr;
+    while (area && arrangesChildren(*area)) {
+        area = area->parentItem();
+    }
+    return area ? area : stackView_.data();
+}
+
+bool NavigationController::push(const std::shared_ptr<QuickViewController>& screen) {
+    QQmlEngine* const engine = this->engine();
+    if (!engine) {
+        qCWarning(lcNavigation) << "no StackView to push on";
+        return false;
+    }
+    if (screen->hasLeft()) {
+        qCWarning(lcNavigation) << "this screen was shown before; make a new one";
+        return false;
+    }
+    auto* component = new QQmlComponent(engine, screen->viewUrl(), this);
+    if (component->isError()) {
+        qCWarning(lcNavigation) << component->errors();
+        delete component;
+        return false;
+    }
+    screen->setNavigationController(this);
+
+    // StackView destroys a page on popping it only if it made that page itself, hence a component; and its
+    // `push` can be called from JavaScript alone. The engine must own neither the component nor the screen.
+    QQmlEngine::setObjectOwnership(component, QQmlEngine::CppOwnership);
+    QQmlEngine::setObjectOwnership(screen.get(), QQmlEngine::CppOwnership);
+    QJSValue properties = engine->newObject();
+    properties.setProperty(QStringLiteral("controller"), engine->newQObject(screen.get()));
+    const QJSValue stack = engine->toScriptValue<QObject*>(stackView_.data());
+    const QJSValue page = stack.property(QStringLiteral("push"))
+                              .callWithInstance(stack, {engine->newQObject(component), properties});
+    if (page.isError() || !page.isQObject()) {
+        qCWarning(lcNavigation) << "push failed:" << page.toString();
+        delete component;
+        return false;
+    }
+    component->setParent(page.toQObject());
+    return true;
+}
+
+} // namespace quillet::platform

@@ -1,0 +1,57 @@
+#include "Platform/Screens/ScreenItem.hpp"
+
+#include "Platform/Screens/NavigationController.hpp"
+
+namespace quillet::platform {
+
+ScreenItem::ScreenItem(QQuickItem* parent) : QQuickItem(parent) {}
+
+ScreenItem::~ScreenItem() {
+    viewDidLeave();
+}
+
+void ScreenItem::setViewController(QuickViewController* controller) {
+    if (!controller_ && controller) {
+        controller_ = controller->shared_from_this();
+        controller_->enter();
+        Q_EMIT viewControllerChanged();
+    }
+}
+
+QQuickItem* ScreenItem::coverArea() const {
+    const NavigationController* navigation = controller_ ? controller_->navigationController() : nullptr;
+    return navigation ? navigation->coverArea() : nullptr;
+}
+
+void ScreenItem::componentComplete() {
+    QQuickItem::componentComplete();
+    if (controller_) {
+        controller_->viewDidLoad();
+    }
+}
+
+void ScreenItem::viewWillAppear() {
+    if (controller_) {
+        controller_->viewWillAppear();
+    }
+}
+
+void ScreenItem::viewWillDisappear() {
+    if (controller_) {
+        controller_->viewWillDisappear();
+        // A page that is popped is taken out of the stack before its animation begins, and told only after it
+        // has ended.
+        const NavigationController* navigation = controller_->navigationController();
+        if (!navigation || !navigation->holds(*this)) {
+            controller_->leave();
+        }
+    }
+}
+
+void ScreenItem::viewDidLeave() {
+    if (controller_) {
+        controller_->leave();
+    }
+}
+
+} // namespace quillet::platform

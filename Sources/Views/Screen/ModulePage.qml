@@ -1,0 +1,44 @@
+// Bound components cannot be made by a view or a loader in Qt 6.4, so the ids of this file are seen from inside them.
+// qmllint disable unqualified
+
+import QtQuick
+import Quillet
+import Quillet.Screens
+
+// What every page of the module has: overlays of its own, which lie above the host's bar.
+ScreenPage {
+    id: page
+
+    required property LoadingView loadingView
+    property Dialog dialog: null
+    property TryAgainView tryAgainView: null
+
+    Loader {
+        anchors.fill: parent
+        z: 1
+        active: page.tryAgainView !== null
+        sourceComponent: TryAgainItem {
+            tryAgain: page.tryAgainView
+        }
+    }
+    Loader {
+        parent: page.coverArea
+        anchors.fill: parent
+        z: 1
+        active: page.onTop && page.dialog !== null && page.dialog.onScreen
+        sourceComponent: DialogItem {
+            dialog: page.dialog
+        }
+    }
+    Loader {
+        parent: page.coverArea
+        anchors.fill: parent
+        z: 2
+        active: page.onTop && page.loadingView.onScreen
+        sourceComponent: LoadingItem {
+            loadingView: page.loadingView
+            screenArea: page.coverArea ? page.coverArea.mapFromItem(page.parent, 0, 0, page.width, page.height)
+                                       : Qt.rect(0, 0, 0, 0)
+        }
+    }
+}

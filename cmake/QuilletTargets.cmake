@@ -1,0 +1,72 @@
+# What several targets have in common. Headers are found by their folder's name: those of the module below Sources, those
+# of the platform below the project's own folder. Which folder may include which is checked by scripts/lint-includes.
+
+# quillet_qml_library(TARGET URI uri [QML ...] [SOURCES ...] [LIBRARIES ...] [IMPORTS ...]): a static library that is a QML
+# module too. A QML file is known by its own name, whatever folder it lies in.
+function(quillet_qml_library target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "NO_CACHEGEN" "URI" "SOURCES;QML;LIBRARIES;IMPORTS;RESOURCES")
+    foreach(file ${arg_QML})
+        cmake_path(GET file FILENAME name)
+        set_source_files_properties("${file}" PROPERTIES QT_RESOURCE_ALIAS "${name}")
+    endforeach()
+    string(REPLACE "." "/" folder "${arg_URI}")
+    set(options "")
+    if(arg_NO_CACHEGEN)
+        set(options NO_CACHEGEN)
+    endif()
+    qt_add_library(${target} STATIC)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    qt_add_qml_module(${target}
+        URI ${arg_URI}
+        VERSION 1.0
+        NO_PLUGIN
+        ${options}
+        RESOURCE_PREFIX /qt/qml
+        OUTPUT_TARGETS resource_targets
+        OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/qml/${folder}"
+        IMPORT_PATH "${PROJECT_BINARY_DIR}/qml"
+        DEPENDENCIES QtQuick ${arg_IMPORTS}
+        SOURCES ${arg_SOURCES}
+        QML_FILES ${arg_QML}
+        RESOURCES ${arg_RESOURCES})
+    # The generated type registration includes headers by their bare names.
+    set(folders "")
+    foreach(file ${arg_SOURCES})
+        cmake_path(GET file PARENT_PATH parent)
+        list(APPEND folders "${CMAKE_CURRENT_SOURCE_DIR}/${parent}")
+    endforeach()
+    list(REMOVE_DUPLICATES folders)
+    string(TOLOWER "${target}_qmltyperegistrations.cpp" registrations)
+    set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${registrations}"
+        PROPERTIES INCLUDE_DIRECTORIES "${folders}")
+    target_link_libraries(${target} PUBLIC Qt6::Quick ${arg_LIBRARIES} PRIVATE QuilletQmlWarnings)
+    quillet_precompile_qt(${target})
+endfunction()
+
+# Most of the time a QML target takes to compile goes into the same few Qt headers, in our sources and in what Qt
+# generates from the QML files alike. They are compiled once for all such targets, with the flags that these share.
+function(quillet_precompile_qt target)
+    if(NOT TARGET QuilletQtHeaders)
+        file(GENERATE OUTPUT "${PROJECT_BINARY_DIR}/QuilletQtHeaders.cpp" CONTENT "")
+        add_library(QuilletQtHeaders STATIC "${PROJECT_BINARY_DIR}/QuilletQtHeaders.cpp")
+        target_link_libraries(QuilletQtHeaders PRIVATE Qt6::Quick QuilletQmlWarnings)
+        quillet_precompile(QuilletQtHeaders
+            <QtQuick/QQuickItem> <QtQml/QQmlEngine> <QtQml/qqmlprivate.h> <functional> <memory> <optional> <string>)
+    endif()
+    target_precompile_headers(${target} REUSE_FROM QuilletQtHeaders)
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+endfunction()
+function(quillet_precompile target)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+endfunction()
+
+# Compiles string tables and packs them into a target, as "<prefix>/<file>.qm".
+function(quillet_string_tables target resource prefix)
+    qt_add_lrelease(${target} TS_FILES ${ARGN} QM_FILES_OUTPUT_VARIABLE tables)
+    foreach(table ${tables})
+        cmake_path(GET table FILENAME name)
+        set_source_files_properties("${table}" PROPERTIES QT_RESOURCE_ALIAS "${name}")
+    endforeach()
+    qt_add_resources(${target} ${resource} PREFIX ${prefix} FILES ${tables})
+endfunction()
