@@ -1,6 +1,6 @@
 #include "Platform/Json/Cursor.hpp"
 
-#include "Platform/Json/Number.hpp"
+#include "Platform/Json/NumberToken.hpp"
 #include "Platform/Json/Text.hpp"
 
 #include <bitset>

@@ -1,6 +1,6 @@
 #include "Platform/Json/Decimal.hpp"
 
-#include "Platform/Json/Number.hpp"
+#include "Platform/Json/NumberToken.hpp"
 
 #include <algorithm>
 #include <limits>
@@ -88,7 +88,11 @@ private:
 
 std::optional<Decimal> Decimal::parse(std::string_view text) {
     const auto number = json::scanNumber(text);
-    return number && number->end == text.data() + text.size() ? json::toDecimal(*number) : std::nullopt;
+    if (!number || number->end != text.data() + text.size()) {
+        return std::nullopt;
+    }
+    bool exact = false;
+    return fromToken(*number, exact);
 }
 
 std::optional<Decimal> Decimal::fromToken(const json::NumberToken& number, bool& exact) {

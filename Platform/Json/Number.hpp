@@ -1,27 +1,13 @@
 #pragma once
 
 #include "Platform/Json/Decimal.hpp"
+#include "Platform/Json/NumberToken.hpp"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string_view>
 
 namespace quillet::platform::json {
-
-/// A number taken apart as JSON writes it.
-struct NumberToken {
-    bool negative = false;
-    std::string_view integer;
-    std::string_view fraction;
-    /// Kept within a bound far above any that counts, so that no exponent can overflow it.
-    std::int64_t exponent = 0;
-    /// Where the number ends.
-    const char* end = nullptr;
-};
-
-/// The longest number at the start of `text`; nothing if none stands there, or one that JSON does not allow.
-[[nodiscard]] std::optional<NumberToken> scanNumber(std::string_view text);
 
 /// The exact value, however it is written (1.0, 1e2, 100e-2, -0); nothing if it is not whole or out of range.
 [[nodiscard]] std::optional<std::uint64_t> toUnsigned(const NumberToken& number);
@@ -30,10 +16,6 @@ struct NumberToken {
 /// The value with digits beyond the 38th significant one rounded; nothing if its power of ten is out of
 /// range.
 [[nodiscard]] std::optional<Decimal> toDecimal(const NumberToken& number);
-
-[[nodiscard]] constexpr bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 /// The readers below take the short plain numbers that nearly all are, from text that ends right where the
 /// next token begins. They give false for any other text, which then is `scanNumber`'s.

@@ -28,6 +28,11 @@ NavigationController& NavigationController::of(QQuickItem& stackView) {
     return existing ? *existing : *new NavigationController(stackView);
 }
 
+NavigationController* NavigationController::of(const QuickViewController* screen) {
+    QQuickItem* const stackView = screen ? screen->stackView() : nullptr;
+    return stackView ? &of(*stackView) : nullptr;
+}
+
 bool NavigationController::holds(const QQuickItem& page) const {
     QQmlEngine* const ours = engine();
     if (!ours) {
@@ -71,7 +76,7 @@ bool NavigationController::push(const std::shared_ptr<QuickViewController>& scre
         delete component;
         return false;
     }
-    screen->setNavigationController(this);
+    screen->setStackView(stackView_);
 
     // StackView destroys a page on popping it only if it made that page itself, hence a component; and its
     // `push` can be called from JavaScript alone. The engine must own neither the component nor the screen.

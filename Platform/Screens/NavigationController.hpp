@@ -20,6 +20,8 @@ class NavigationController final : public QObject {
 public:
     /// The navigation controller of a StackView; made when first asked for.
     [[nodiscard]] static NavigationController& of(QQuickItem& stackView);
+    /// That of the StackView that a screen is on; null where there is no screen, or it is on none.
+    [[nodiscard]] static NavigationController* of(const QuickViewController* screen);
 
     /// Pushes a screen, with the stack's own animation. From here on the stack owns the screen: popping it
     /// destroys it. Returns false, having shown nothing, if the QML of the screen does not load or if it has

@@ -1,7 +1,5 @@
 #include "Platform/Screens/QuickViewController.hpp"
 
-#include "Platform/Screens/NavigationController.hpp"
-
 namespace quillet::platform {
 
 void QuickViewController::setTitle(const QString& title) {
@@ -30,14 +28,6 @@ void QuickViewController::setContinuesBar(bool continues) {
         continuesBar_ = continues;
         Q_EMIT continuesBarChanged();
     }
-}
-
-NavigationController* QuickViewController::navigationController() const {
-    return stay_ ? navigation_.data() : nullptr;
-}
-
-void QuickViewController::setNavigationController(NavigationController* navigation) {
-    navigation_ = navigation;
 }
 
 void QuickViewController::enter() {

@@ -3,14 +3,13 @@
 #include <QColor>
 #include <QObject>
 #include <QPointer>
+#include <QQuickItem>
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
 
 namespace quillet::platform {
-
-class NavigationController;
 
 /// A screen: it owns everything behind what it shows, and a QML file draws it. Made by a factory, it lives in
 /// a std::shared_ptr; once it is pushed, the QML item that draws it is its one owner, so taking the screen
@@ -42,10 +41,11 @@ public:
     void setTitle(const QString& title);
     void setHidesBackButton(bool hides);
 
-    /// The stack that this screen was pushed on; null before that, once the screen has left it (though it may
-    /// still be on its way out), and when the stack is gone.
-    [[nodiscard]] NavigationController* navigationController() const;
-    void setNavigationController(NavigationController* navigation);
+    /// The StackView that this screen was pushed on; null before that, once the screen has left it (though it
+    /// may still be on its way out), and when the stack is gone. NavigationController::of turns it into what
+    /// the next screen is pushed with.
+    [[nodiscard]] QQuickItem* stackView() const { return stay_ ? stackView_.data() : nullptr; }
+    void setStackView(QQuickItem* stackView) { stackView_ = stackView; }
 
     /// The way back to this screen, or to a part of the graph that it owns, for those that may come back
     /// later: it finds nobody once the screen has left the stack.
@@ -96,7 +96,7 @@ private:
     QColor backgroundColor_ = Qt::transparent;
     bool hidesBackButton_ = false;
     bool continuesBar_ = false;
-    QPointer<NavigationController> navigation_;
+    QPointer<QQuickItem> stackView_;
     std::shared_ptr<Stay> stay_ = std::make_shared<Stay>();
 };
 

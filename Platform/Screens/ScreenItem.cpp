@@ -19,7 +19,7 @@ void ScreenItem::setViewController(QuickViewController* controller) {
 }
 
 QQuickItem* ScreenItem::coverArea() const {
-    const NavigationController* navigation = controller_ ? controller_->navigationController() : nullptr;
+    const NavigationController* navigation = NavigationController::of(controller_.get());
     return navigation ? navigation->coverArea() : nullptr;
 }
 
@@ -41,7 +41,7 @@ void ScreenItem::viewWillDisappear() {
         controller_->viewWillDisappear();
         // A page that is popped is taken out of the stack before its animation begins, and told only after it
         // has ended.
-        const NavigationController* navigation = controller_->navigationController();
+        const NavigationController* navigation = NavigationController::of(controller_.get());
         if (!navigation || !navigation->holds(*this)) {
             controller_->leave();
         }

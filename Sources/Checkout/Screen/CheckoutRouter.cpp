@@ -25,7 +25,7 @@ void show(const Creating& factory, Input input, const ViewController& from) {
     screen->setNavigationDelegate(factory.navigationDelegate());
     screen->setHidesBackButton(true);
     const auto origin = from.originViewController();
-    if (auto* navigation = origin ? origin->navigationController() : nullptr) {
+    if (auto* navigation = platform::NavigationController::of(origin.get())) {
         navigation->push(screen);
     }
 }

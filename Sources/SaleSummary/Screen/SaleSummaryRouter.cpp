@@ -14,7 +14,7 @@ void SaleSummaryRouter::showCheckout(const ViewController* from) {
     const auto checkout = checkoutFactory_->create();
     checkout->setHidesBackButton(true);
     const auto origin = from ? from->originViewController() : nullptr;
-    if (auto* navigation = origin ? origin->navigationController() : nullptr) {
+    if (auto* navigation = platform::NavigationController::of(origin.get())) {
         navigation->push(checkout);
     }
 }

@@ -9,7 +9,7 @@ namespace quillet {
 void AlertDialog::show(const QString& title, const QString& body, const ViewController& viewController,
                        bool animated) const {
     const auto screen = viewController.originViewController();
-    const auto* navigation = screen ? screen->navigationController() : nullptr;
+    const auto* navigation = platform::NavigationController::of(screen.get());
     if (QQmlEngine* engine = navigation ? navigation->engine() : nullptr) {
         kel::KelDialogController::present(std::make_unique<kel::KelDialogController>(title, body), *engine,
                                           *navigation->coverArea(), animated);
