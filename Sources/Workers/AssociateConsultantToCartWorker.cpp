@@ -34,13 +34,4 @@ void AssociateConsultantToCartWorker::call(Completion completion) {
     service_->associateConsultantToCart(cartUUID_, consultantId_, std::move(completion));
 }
 
-bool AssociateConsultantToCartWorker::hasResponse(const OrderResult& result) const {
-    return result.response.has_value();
-}
-
-void AssociateConsultantToCartWorker::deliver(AssociateConsultantToCartWorkerDelegate& delegate,
-                                              const OrderResult& result) const {
-    delegate.didAssociate(result);
-}
-
 } // namespace quillet

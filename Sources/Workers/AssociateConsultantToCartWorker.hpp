@@ -9,7 +9,8 @@ namespace quillet {
 
 /// Associates the consultant with the customer's cart.
 class AssociateConsultantToCartWorker final
-    : public ServiceWorker<OrderResult, AssociateConsultantToCartWorkerDelegate> {
+    : public ServiceWorker<OrderResult, &OrderResult::response, AssociateConsultantToCartWorkerDelegate,
+                           &AssociateConsultantToCartWorkerDelegate::didAssociate> {
 public:
     AssociateConsultantToCartWorker(std::unique_ptr<const SellOutCartServiceRequestable> service,
                                     std::string cartUUID, std::uint64_t consultantId,
@@ -23,8 +24,6 @@ public:
 
 private:
     void call(Completion completion) override;
-    [[nodiscard]] bool hasResponse(const OrderResult& result) const override;
-    void deliver(AssociateConsultantToCartWorkerDelegate& delegate, const OrderResult& result) const override;
 
     std::unique_ptr<const SellOutCartServiceRequestable> service_;
     std::string cartUUID_;

@@ -2,6 +2,8 @@
 
 #include "Network/Results/OrderResult.hpp"
 
+#include <memory>
+
 namespace quillet {
 
 /// Receives the outcome of associating a consultant with a cart: once for each run, on the main queue, as
@@ -10,7 +12,7 @@ class AssociateConsultantToCartWorkerDelegate {
 public:
     virtual ~AssociateConsultantToCartWorkerDelegate() = default;
 
-    virtual void didAssociate(const OrderResult& result) = 0;
+    virtual void didAssociate(const std::shared_ptr<const OrderResult>& result) = 0;
 };
 
 } // namespace quillet

@@ -18,12 +18,4 @@ void CheckoutWorker::call(Completion completion) {
     service_->checkout(std::move(completion));
 }
 
-bool CheckoutWorker::hasResponse(const CheckoutResult& result) const {
-    return result.checkoutResponse.has_value();
-}
-
-void CheckoutWorker::deliver(CheckoutWorkerDelegate& delegate, const CheckoutResult& result) const {
-    delegate.didCheckout(result);
-}
-
 } // namespace quillet

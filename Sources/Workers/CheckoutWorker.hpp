@@ -7,7 +7,9 @@
 namespace quillet {
 
 /// Sends the products to the consultant's cart.
-class CheckoutWorker final : public ServiceWorker<CheckoutResult, CheckoutWorkerDelegate> {
+class CheckoutWorker final
+    : public ServiceWorker<CheckoutResult, &CheckoutResult::checkoutResponse, CheckoutWorkerDelegate,
+                           &CheckoutWorkerDelegate::didCheckout> {
 public:
     CheckoutWorker(std::unique_ptr<const SellOutCartCheckoutServiceRequestable> service,
                    std::unique_ptr<const DispatchQueuing> dispatchMainQueue);
@@ -15,8 +17,6 @@ public:
 private:
     void willCall() override;
     void call(Completion completion) override;
-    [[nodiscard]] bool hasResponse(const CheckoutResult& result) const override;
-    void deliver(CheckoutWorkerDelegate& delegate, const CheckoutResult& result) const override;
 
     std::unique_ptr<const SellOutCartCheckoutServiceRequestable> service_;
 };

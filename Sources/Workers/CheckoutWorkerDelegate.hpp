@@ -2,6 +2,8 @@
 
 #include "Network/Results/CheckoutResult.hpp"
 
+#include <memory>
+
 namespace quillet {
 
 /// Follows a checkout. Held weakly.
@@ -13,7 +15,7 @@ public:
     virtual void willCheckout() = 0;
 
     /// The outcome: once for each run, on the main queue, as long as the worker is there.
-    virtual void didCheckout(const CheckoutResult& result) = 0;
+    virtual void didCheckout(const std::shared_ptr<const CheckoutResult>& result) = 0;
 };
 
 } // namespace quillet

@@ -13,13 +13,4 @@ void GetOpenOrdersWorker::call(Completion completion) {
     service_->getOpenOrders(std::move(completion));
 }
 
-bool GetOpenOrdersWorker::hasResponse(const OpenOrdersResult& result) const {
-    return result.response.has_value();
-}
-
-void GetOpenOrdersWorker::deliver(GetOpenOrdersWorkerDelegate& delegate,
-                                  const OpenOrdersResult& result) const {
-    delegate.didGetOpenOrders(result);
-}
-
 } // namespace quillet

@@ -7,15 +7,15 @@
 namespace quillet {
 
 /// Loads the consultant's open carts.
-class GetOpenOrdersWorker final : public ServiceWorker<OpenOrdersResult, GetOpenOrdersWorkerDelegate> {
+class GetOpenOrdersWorker final
+    : public ServiceWorker<OpenOrdersResult, &OpenOrdersResult::response, GetOpenOrdersWorkerDelegate,
+                           &GetOpenOrdersWorkerDelegate::didGetOpenOrders> {
 public:
     GetOpenOrdersWorker(std::unique_ptr<const SellOutCartsStatusOpenServiceRequestable> service,
                         std::unique_ptr<const DispatchQueuing> dispatchMainQueue);
 
 private:
     void call(Completion completion) override;
-    [[nodiscard]] bool hasResponse(const OpenOrdersResult& result) const override;
-    void deliver(GetOpenOrdersWorkerDelegate& delegate, const OpenOrdersResult& result) const override;
 
     std::unique_ptr<const SellOutCartsStatusOpenServiceRequestable> service_;
 };

@@ -17,10 +17,12 @@ namespace quillet {
 /// What the workers have in common: run one service call, remember whether it brought a response, and take
 /// the outcome to the delegate on the main queue. Held by std::shared_ptr; pending calls and queued blocks
 /// hold it weakly, so a worker that is freed takes its outstanding outcomes with it. Where memory runs out
-/// the outcome is an error.
-template <typename Result, typename Delegate>
-class ServiceWorker : public Executable,
-                      public std::enable_shared_from_this<ServiceWorker<Result, Delegate>> {
+/// the outcome is an error. `response` is the member of a `Result` whose presence means success,
+/// `didComplete` the member function of a `Delegate` that takes the outcome.
+template <typename Result, auto response, typename Delegate, auto didComplete>
+class ServiceWorker
+    : public Executable,
+      public std::enable_shared_from_this<ServiceWorker<Result, response, Delegate, didComplete>> {
 public:
     [[nodiscard]] bool isFinishedSuccessfully() const final {
         return isFinishedSuccessfully_.load(std::memory_order_acquire);
@@ -31,11 +33,11 @@ public:
         try {
             call([self = this->weak_from_this()](Result result) {
                 if (const auto worker = self.lock()) {
-                    worker->didComplete(std::move(result));
+                    worker->end(std::move(result));
                 }
             });
         } catch (const std::bad_alloc&) {
-            didComplete(resultWithoutMemory<Result>());
+            end(resultWithoutMemory<Result>());
         }
     }
 
@@ -54,12 +56,10 @@ private:
     virtual void willCall() {}
     /// Has the completion called once, on any thread; or throws std::bad_alloc, and never has it called.
     virtual void call(Completion completion) = 0;
-    [[nodiscard]] virtual bool hasResponse(const Result& result) const = 0;
-    virtual void deliver(Delegate& delegate, const Result& result) const = 0;
 
     // Runs wherever the service calls back. Somebody waits for every outcome, so where there is no memory to
     // queue one, the response makes room for an error, and that is tried until it succeeds.
-    void didComplete(Result result) noexcept {
+    void end(Result result) noexcept {
         while (!queue(std::move(result))) {
             result = resultWithoutMemory<Result>();
             std::this_thread::sleep_for(std::chrono::milliseconds(50));
@@ -69,12 +69,12 @@ private:
     // False where there is no memory. Queueing the block after the write makes the flag visible to whoever is
     // told on the main queue; the flag is atomic for those who ask at other times.
     bool queue(Result result) noexcept try {
-        isFinishedSuccessfully_.store(hasResponse(result), std::memory_order_release);
+        isFinishedSuccessfully_.store((result.*response).has_value(), std::memory_order_release);
         auto outcome = std::make_shared<const Result>(std::move(result));
         dispatchMainQueue_->async([self = this->weak_from_this(), outcome = std::move(outcome)] {
             if (const auto worker = self.lock()) {
                 if (const auto target = worker->delegate()) {
-                    worker->deliver(*target, *outcome);
+                    ((*target).*didComplete)(outcome);
                 }
             }
         });

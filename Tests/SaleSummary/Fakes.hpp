@@ -8,6 +8,12 @@
 
 namespace quillet::testing {
 
+/// A result as workers hand it on.
+template <typename Result>
+std::shared_ptr<const Result> shared(Result result) {
+    return std::make_shared<const Result>(std::move(result));
+}
+
 class FakeSaleSummaryViewModel final : public SaleSummaryViewModeling {
 public:
     explicit FakeSaleSummaryViewModel(Log log) : log_(std::move(log)) {}

@@ -73,7 +73,7 @@ std::vector<Outcome> outcomes() {
 struct SaleSummaryOutcomes : ::testing::TestWithParam<Outcome> {
     void show() {
         const auto useCases = SaleSummaryUseCaseFactory().createAllUseCases(
-            {screen, GetParam().association, std::nullopt, std::make_shared<FakeAnalytics>(log)});
+            {screen, shared(GetParam().association), nullptr, std::make_shared<FakeAnalytics>(log)});
         const auto& chosen =
             *std::ranges::find_if(useCases, [](const auto& useCase) { return useCase->canShowContent(); });
         chosen->showContent();

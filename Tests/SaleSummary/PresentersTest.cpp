@@ -30,7 +30,8 @@ OpenOrdersResult openOrders(std::vector<Order> orders, std::optional<Cycle> cycl
 }
 
 SaleSummaryPresenter present(const OrderResponse& response, std::optional<OpenOrdersResult> open) {
-    return SaleSummarySuccessUseCase({}, OrderResult{response, {}, 200}, std::move(open),
+    return SaleSummarySuccessUseCase({}, shared(OrderResult{response, {}, 200}),
+                                     open ? shared(*std::move(open)) : nullptr,
                                      std::make_shared<FakeAnalytics>(makeLog()))
         .createPresenter(response.order);
 }

@@ -57,8 +57,9 @@ struct SaleSummaryViewModelTest : ::testing::Test {
 
     void finishFirstPass() {
         viewModel.doRequests();
-        viewModel.didAssociate({.response = {}, .error = {}, .httpStatusCode = 504});
-        viewModel.didGetOpenOrders({.response = {}, .error = {}, .httpStatusCode = 504});
+        viewModel.didAssociate(shared(OrderResult{.response = {}, .error = {}, .httpStatusCode = 504}));
+        viewModel.didGetOpenOrders(
+            shared(OpenOrdersResult{.response = {}, .error = {}, .httpStatusCode = 504}));
         log->clear();
         inputs.clear();
     }
@@ -76,9 +77,10 @@ TEST_F(SaleSummaryViewModelTest, AsksForTheOpenOrdersOnlyAfterTheAssociationHowe
         SCOPED_TRACE(answer.httpStatusCode);
         viewModel.doRequests();
         EXPECT_THAT(taken(log), ElementsAre("associate", "startLoading"));
-        viewModel.didAssociate(answer);
+        viewModel.didAssociate(shared(answer));
         EXPECT_THAT(taken(log), ElementsAre("open orders"));
-        viewModel.didGetOpenOrders({.response = {}, .error = {}, .httpStatusCode = 500});
+        viewModel.didGetOpenOrders(
+            shared(OpenOrdersResult{.response = {}, .error = {}, .httpStatusCode = 500}));
         EXPECT_THAT(taken(log), ElementsAre("stopLoading", "show second"));
         EXPECT_EQ(inputs.back().associateResult->httpStatusCode, answer.httpStatusCode);
         EXPECT_EQ(inputs.back().getOpenOrdersResult->httpStatusCode, 500);
@@ -111,10 +113,12 @@ TEST_F(SaleSummaryViewModelTest, JoinsTwiceWhereBothCallsAreRetriedAndTheAssocia
     finishFirstPass();
     viewModel.tryAgainDoRequests();
     log->clear();
-    viewModel.didAssociate({.response = OrderResponse{}, .error = {}, .httpStatusCode = 200});
+    viewModel.didAssociate(
+        shared(OrderResult{.response = OrderResponse{}, .error = {}, .httpStatusCode = 200}));
     EXPECT_THAT(taken(log), ElementsAre("open orders"));
     for (const std::int64_t status : {500, 200}) {
-        viewModel.didGetOpenOrders({.response = {}, .error = {}, .httpStatusCode = status});
+        viewModel.didGetOpenOrders(
+            shared(OpenOrdersResult{.response = {}, .error = {}, .httpStatusCode = status}));
         EXPECT_THAT(taken(log), ElementsAre("stopLoading", "show second"));
         EXPECT_EQ(inputs.back().getOpenOrdersResult->httpStatusCode, status);
         EXPECT_TRUE(inputs.back().associateResult->response);
@@ -125,11 +129,11 @@ TEST_F(SaleSummaryViewModelTest, WaitsForTheRepeatedAssociationWhereTheOpenOrder
     finishFirstPass();
     viewModel.tryAgainDoRequests();
     log->clear();
-    viewModel.didGetOpenOrders({});
+    viewModel.didGetOpenOrders(shared(OpenOrdersResult()));
     EXPECT_THAT(taken(log), IsEmpty());
-    viewModel.didAssociate({});
+    viewModel.didAssociate(shared(OrderResult()));
     // The first answer still counts for this pass, so the next one joins.
-    viewModel.didGetOpenOrders({});
+    viewModel.didGetOpenOrders(shared(OpenOrdersResult()));
     EXPECT_THAT(taken(log), ElementsAre("open orders", "stopLoading", "show second"));
 }
 
@@ -137,8 +141,8 @@ TEST_F(SaleSummaryViewModelTest, GoesOnWithoutItsScreen) {
     screen.reset();
     viewModel.doRequests();
     viewModel.tryAgainDoRequests();
-    viewModel.didAssociate({});
-    viewModel.didGetOpenOrders({});
+    viewModel.didAssociate(shared(OrderResult()));
+    viewModel.didGetOpenOrders(shared(OpenOrdersResult()));
     EXPECT_THAT(taken(log),
                 ElementsAre("associate", "associate", "open orders", "open orders", "show second"));
 }

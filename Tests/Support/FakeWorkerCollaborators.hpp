@@ -79,21 +79,21 @@ class FakeAssociateDelegate final
     : public FakeWorkerDelegate<OrderResult, AssociateConsultantToCartWorkerDelegate> {
 public:
     using FakeWorkerDelegate::FakeWorkerDelegate;
-    void didAssociate(const OrderResult& result) override { took(result); }
+    void didAssociate(const std::shared_ptr<const OrderResult>& result) override { took(*result); }
 };
 
 class FakeOpenOrdersDelegate final
     : public FakeWorkerDelegate<OpenOrdersResult, GetOpenOrdersWorkerDelegate> {
 public:
     using FakeWorkerDelegate::FakeWorkerDelegate;
-    void didGetOpenOrders(const OpenOrdersResult& result) override { took(result); }
+    void didGetOpenOrders(const std::shared_ptr<const OpenOrdersResult>& result) override { took(*result); }
 };
 
 class FakeCheckoutDelegate final : public FakeWorkerDelegate<CheckoutResult, CheckoutWorkerDelegate> {
 public:
     using FakeWorkerDelegate::FakeWorkerDelegate;
     void willCheckout() override { talk_->log.push_back("starting"); }
-    void didCheckout(const CheckoutResult& result) override { took(result); }
+    void didCheckout(const std::shared_ptr<const CheckoutResult>& result) override { took(*result); }
 };
 
 /// A main queue that the test drains.

@@ -37,10 +37,10 @@ std::ostream& operator<<(std::ostream& stream, const Scarcity& scarcity) {
 // Only counts: a delegate that writes down what it is told would need memory too.
 class CountingDelegate final : public AssociateConsultantToCartWorkerDelegate {
 public:
-    void didAssociate(const OrderResult& result) override {
+    void didAssociate(const std::shared_ptr<const OrderResult>& result) override {
         ++outcomes;
-        complete += result.response && !result.error && result.httpStatusCode == 200;
-        failed += !result.response && result.error && result.httpStatusCode == 0;
+        complete += result->response && !result->error && result->httpStatusCode == 200;
+        failed += !result->response && result->error && result->httpStatusCode == 0;
     }
 
     std::size_t outcomes = 0;

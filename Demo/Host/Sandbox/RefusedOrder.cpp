@@ -27,11 +27,12 @@ public:
     void showCheckout(const quillet::ViewController*) override {}
 };
 
-quillet::OrderResult refusal(const std::string& code) {
+std::shared_ptr<const quillet::OrderResult> refusal(const std::string& code) {
     constexpr int unprocessable = 422;
     const quillet::HttpErrorResponse response{unprocessable, code, "Unprocessable Entity"};
-    return {std::nullopt, quillet::ServerError{{response, unprocessable, code}, unprocessable, "/"},
-            unprocessable};
+    return std::make_shared<const quillet::OrderResult>(quillet::OrderResult{
+        std::nullopt, quillet::ServerError{{response, unprocessable, code}, unprocessable, "/"},
+        unprocessable});
 }
 
 } // namespace
@@ -50,7 +51,9 @@ refusedOrderScreen(const std::string& code,
     const auto viewModel = std::make_shared<quillet::SaleSummaryViewModel>(
         kel::KelAnalyticsManager::shared(),
         answer([result = refusal(code)](quillet::SaleSummaryViewModel& to) { to.didAssociate(result); }),
-        answer([](quillet::SaleSummaryViewModel& to) { to.didGetOpenOrders({}); }),
+        answer([](quillet::SaleSummaryViewModel& to) {
+            to.didGetOpenOrders(std::make_shared<const quillet::OpenOrdersResult>());
+        }),
         std::make_unique<quillet::SaleSummaryUseCaseFactory>());
     auto screen = std::make_shared<quillet::SaleSummaryViewController>(
         viewModel, std::make_unique<quillet::Colors>(), std::make_unique<NoRouter>(),

@@ -39,13 +39,13 @@ void CheckoutViewModel::willCheckout() {
     }
 }
 
-void CheckoutViewModel::didCheckout(const CheckoutResult& result) {
+void CheckoutViewModel::didCheckout(const std::shared_ptr<const CheckoutResult>& result) {
     if (const auto screen = delegate_.lock()) {
         screen->stopLoading();
     }
-    if (result.checkoutResponse) {
-        showFeedback(*result.checkoutResponse, result.httpStatusCode);
-    } else if (result.error) {
+    if (result->checkoutResponse) {
+        showFeedback(*result->checkoutResponse, result->httpStatusCode);
+    } else if (result->error) {
         showGenericError();
     }
 }

@@ -24,7 +24,7 @@ public:
 
     void startCheckout() override;
     void willCheckout() override;
-    void didCheckout(const CheckoutResult& result) override;
+    void didCheckout(const std::shared_ptr<const CheckoutResult>& result) override;
 
 private:
     void showFeedback(const CheckoutResponse& response, std::int64_t httpStatusCode);

@@ -13,7 +13,7 @@ namespace {
 
 /// Whether the association was refused with the given code of the back end. The codes come as server errors
 /// only: a 422 whose body the client reads as its own mistake does not count.
-bool wasRefused(const std::optional<OrderResult>& result, std::string_view code) {
+bool wasRefused(const std::shared_ptr<const OrderResult>& result, std::string_view code) {
     if (!result || result->httpStatusCode != 422 || !result->error) {
         return false;
     }
@@ -45,13 +45,6 @@ std::function<void()> trackThen(const std::shared_ptr<kel::KelAnalyticsManagerTy
 
 } // namespace
 
-SaleSummaryOtherRegisteredOrderUseCase::SaleSummaryOtherRegisteredOrderUseCase(
-    std::optional<OrderResult> associateResult, std::weak_ptr<SaleSummaryViewModelDelegate> delegate,
-    std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager)
-    : associateResult_(std::move(associateResult)),
-      delegate_(std::move(delegate)),
-      analyticsManager_(std::move(analyticsManager)) {}
-
 bool SaleSummaryOtherRegisteredOrderUseCase::canShowContent() const {
     return wasRefused(associateResult_, "ERROR_CART_OTHER_CONSULTANT");
 }
@@ -71,13 +64,6 @@ void SaleSummaryOtherRegisteredOrderUseCase::showContent() {
                  trackThen(analyticsManager_, SaleSummaryAnalyticsEvent::registerOrderClose, goHome)});
     }
 }
-
-SaleSummaryCartAlreadySubmittedUseCase::SaleSummaryCartAlreadySubmittedUseCase(
-    std::optional<OrderResult> associateResult, std::weak_ptr<SaleSummaryViewModelDelegate> delegate,
-    std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager)
-    : associateResult_(std::move(associateResult)),
-      delegate_(std::move(delegate)),
-      analyticsManager_(std::move(analyticsManager)) {}
 
 bool SaleSummaryCartAlreadySubmittedUseCase::canShowContent() const {
     return wasRefused(associateResult_, "ERROR_CART_ALREADY_SUBMITTED");

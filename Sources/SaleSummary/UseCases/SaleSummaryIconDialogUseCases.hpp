@@ -5,33 +5,19 @@
 namespace quillet {
 
 /// Another consultant registered the order first: her customer can be asked for a new one, or the flow ends.
-class SaleSummaryOtherRegisteredOrderUseCase final : public SaleSummaryUseCase {
+class SaleSummaryOtherRegisteredOrderUseCase final : public SaleSummaryAssociationUseCase {
 public:
-    SaleSummaryOtherRegisteredOrderUseCase(std::optional<OrderResult> associateResult,
-                                           std::weak_ptr<SaleSummaryViewModelDelegate> delegate,
-                                           std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager);
+    using SaleSummaryAssociationUseCase::SaleSummaryAssociationUseCase;
     [[nodiscard]] bool canShowContent() const override;
     void showContent() override;
-
-private:
-    std::optional<OrderResult> associateResult_;
-    std::weak_ptr<SaleSummaryViewModelDelegate> delegate_;
-    std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager_;
 };
 
 /// The order was sent to the cart before: every way out leads home.
-class SaleSummaryCartAlreadySubmittedUseCase final : public SaleSummaryUseCase {
+class SaleSummaryCartAlreadySubmittedUseCase final : public SaleSummaryAssociationUseCase {
 public:
-    SaleSummaryCartAlreadySubmittedUseCase(std::optional<OrderResult> associateResult,
-                                           std::weak_ptr<SaleSummaryViewModelDelegate> delegate,
-                                           std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager);
+    using SaleSummaryAssociationUseCase::SaleSummaryAssociationUseCase;
     [[nodiscard]] bool canShowContent() const override;
     void showContent() override;
-
-private:
-    std::optional<OrderResult> associateResult_;
-    std::weak_ptr<SaleSummaryViewModelDelegate> delegate_;
-    std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager_;
 };
 
 } // namespace quillet

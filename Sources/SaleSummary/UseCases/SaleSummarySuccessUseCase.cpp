@@ -11,8 +11,8 @@
 namespace quillet {
 
 SaleSummarySuccessUseCase::SaleSummarySuccessUseCase(
-    std::weak_ptr<SaleSummaryViewModelDelegate> delegate, std::optional<OrderResult> associateResult,
-    std::optional<OpenOrdersResult> getOpenOrdersResult,
+    std::weak_ptr<SaleSummaryViewModelDelegate> delegate, std::shared_ptr<const OrderResult> associateResult,
+    std::shared_ptr<const OpenOrdersResult> getOpenOrdersResult,
     std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager)
     : delegate_(std::move(delegate)),
       associateResult_(std::move(associateResult)),

@@ -9,8 +9,8 @@ namespace quillet {
 class SaleSummarySuccessUseCase final : public SaleSummaryUseCase {
 public:
     SaleSummarySuccessUseCase(std::weak_ptr<SaleSummaryViewModelDelegate> delegate,
-                              std::optional<OrderResult> associateResult,
-                              std::optional<OpenOrdersResult> getOpenOrdersResult,
+                              std::shared_ptr<const OrderResult> associateResult,
+                              std::shared_ptr<const OpenOrdersResult> getOpenOrdersResult,
                               std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager);
 
     [[nodiscard]] bool canShowContent() const override;
@@ -27,8 +27,8 @@ private:
     void showOrderRegistered();
 
     std::weak_ptr<SaleSummaryViewModelDelegate> delegate_;
-    std::optional<OrderResult> associateResult_;
-    std::optional<OpenOrdersResult> getOpenOrdersResult_;
+    std::shared_ptr<const OrderResult> associateResult_;
+    std::shared_ptr<const OpenOrdersResult> getOpenOrdersResult_;
     std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager_;
 };
 

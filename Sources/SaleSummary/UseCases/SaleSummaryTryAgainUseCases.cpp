@@ -45,13 +45,6 @@ void retry(SaleSummaryViewModelDelegate& screen) {
 
 } // namespace
 
-SaleSummaryTimeoutUseCase::SaleSummaryTimeoutUseCase(
-    std::optional<OrderResult> associateResult, std::weak_ptr<SaleSummaryViewModelDelegate> delegate,
-    std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager)
-    : associateResult_(std::move(associateResult)),
-      delegate_(std::move(delegate)),
-      analyticsManager_(std::move(analyticsManager)) {}
-
 bool SaleSummaryTimeoutUseCase::canShowContent() const {
     return associateResult_ && associateResult_->httpStatusCode == 504;
 }
@@ -60,13 +53,6 @@ void SaleSummaryTimeoutUseCase::showContent() {
     showTryAgain(*analyticsManager_, delegate_, retryPresenter(QStringLiteral("Lo sentimos, algo salió mal")),
                  retry);
 }
-
-SaleSummaryNoConnectionUseCase::SaleSummaryNoConnectionUseCase(
-    std::optional<OrderResult> associateResult, std::weak_ptr<SaleSummaryViewModelDelegate> delegate,
-    std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager)
-    : associateResult_(std::move(associateResult)),
-      delegate_(std::move(delegate)),
-      analyticsManager_(std::move(analyticsManager)) {}
 
 bool SaleSummaryNoConnectionUseCase::canShowContent() const {
     return associateResult_ && associateResult_->error &&

@@ -5,33 +5,19 @@
 namespace quillet {
 
 /// The gateway gave up waiting (504): the calls can be tried again.
-class SaleSummaryTimeoutUseCase final : public SaleSummaryUseCase {
+class SaleSummaryTimeoutUseCase final : public SaleSummaryAssociationUseCase {
 public:
-    SaleSummaryTimeoutUseCase(std::optional<OrderResult> associateResult,
-                              std::weak_ptr<SaleSummaryViewModelDelegate> delegate,
-                              std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager);
+    using SaleSummaryAssociationUseCase::SaleSummaryAssociationUseCase;
     [[nodiscard]] bool canShowContent() const override;
     void showContent() override;
-
-private:
-    std::optional<OrderResult> associateResult_;
-    std::weak_ptr<SaleSummaryViewModelDelegate> delegate_;
-    std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager_;
 };
 
 /// The device has no network: the calls can be tried again.
-class SaleSummaryNoConnectionUseCase final : public SaleSummaryUseCase {
+class SaleSummaryNoConnectionUseCase final : public SaleSummaryAssociationUseCase {
 public:
-    SaleSummaryNoConnectionUseCase(std::optional<OrderResult> associateResult,
-                                   std::weak_ptr<SaleSummaryViewModelDelegate> delegate,
-                                   std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager);
+    using SaleSummaryAssociationUseCase::SaleSummaryAssociationUseCase;
     [[nodiscard]] bool canShowContent() const override;
     void showContent() override;
-
-private:
-    std::optional<OrderResult> associateResult_;
-    std::weak_ptr<SaleSummaryViewModelDelegate> delegate_;
-    std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager_;
 };
 
 /// Anything else: the one way out leads home.

@@ -5,7 +5,7 @@
 #include "Network/Results/OrderResult.hpp"
 
 #include <memory>
-#include <optional>
+#include <utility>
 #include <vector>
 
 namespace quillet {
@@ -23,10 +23,28 @@ public:
     virtual void showContent() = 0;
 };
 
+/// What the outcomes of a failed association have in common: they look at its result alone.
+class SaleSummaryAssociationUseCase : public SaleSummaryUseCase {
+public:
+    SaleSummaryAssociationUseCase(std::shared_ptr<const OrderResult> associateResult,
+                                  std::weak_ptr<SaleSummaryViewModelDelegate> delegate,
+                                  std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager)
+        : associateResult_(std::move(associateResult)),
+          delegate_(std::move(delegate)),
+          analyticsManager_(std::move(analyticsManager)) {}
+
+protected:
+    /// Null before the first answer.
+    std::shared_ptr<const OrderResult> associateResult_;
+    std::weak_ptr<SaleSummaryViewModelDelegate> delegate_;
+    std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager_;
+};
+
+/// Results are null before the first answer.
 struct SaleSummaryUseCaseFactoryInput {
     std::weak_ptr<SaleSummaryViewModelDelegate> delegate;
-    std::optional<OrderResult> associateResult;
-    std::optional<OpenOrdersResult> getOpenOrdersResult;
+    std::shared_ptr<const OrderResult> associateResult;
+    std::shared_ptr<const OpenOrdersResult> getOpenOrdersResult;
     std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager;
 };
 

@@ -50,13 +50,13 @@ void SaleSummaryViewModel::tryAgainDoRequests() {
     }
 }
 
-void SaleSummaryViewModel::didAssociate(const OrderResult& result) {
+void SaleSummaryViewModel::didAssociate(const std::shared_ptr<const OrderResult>& result) {
     didFinishAssociate_ = true;
     associateResult_ = result;
     getOpenOrdersWorker_->execute();
 }
 
-void SaleSummaryViewModel::didGetOpenOrders(const OpenOrdersResult& result) {
+void SaleSummaryViewModel::didGetOpenOrders(const std::shared_ptr<const OpenOrdersResult>& result) {
     didFinishGetOpenOrders_ = true;
     getOpenOrdersResult_ = result;
     if (didFinishAssociate_ && didFinishGetOpenOrders_) {

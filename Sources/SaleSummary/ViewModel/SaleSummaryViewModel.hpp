@@ -9,7 +9,6 @@
 #include "Workers/GetOpenOrdersWorkerDelegate.hpp"
 
 #include <memory>
-#include <optional>
 
 namespace quillet {
 
@@ -32,9 +31,9 @@ public:
     void trackSendOrdersToCart() override;
 
     /// Whatever the association answered, the open orders are asked for next.
-    void didAssociate(const OrderResult& result) override;
+    void didAssociate(const std::shared_ptr<const OrderResult>& result) override;
     /// Joins once both calls have answered in this pass.
-    void didGetOpenOrders(const OpenOrdersResult& result) override;
+    void didGetOpenOrders(const std::shared_ptr<const OpenOrdersResult>& result) override;
 
 private:
     void showContent();
@@ -45,9 +44,9 @@ private:
     std::shared_ptr<Executable> getOpenOrdersWorker_;
     std::unique_ptr<SaleSummaryUseCaseCreating> useCasesFactory_;
     bool didFinishAssociate_ = false;
-    std::optional<OrderResult> associateResult_;
+    std::shared_ptr<const OrderResult> associateResult_;
     bool didFinishGetOpenOrders_ = false;
-    std::optional<OpenOrdersResult> getOpenOrdersResult_;
+    std::shared_ptr<const OpenOrdersResult> getOpenOrdersResult_;
 };
 
 } // namespace quillet
