@@ -28,7 +28,7 @@ CheckoutResponse::create(const std::optional<std::string>& data) {
         // never do.
         const auto received = platform::json::decode<ReceivedVerdict>(*data);
         if (received) {
-            return std::unexpected(checkoutResponseMessage(received->message).error());
+            return std::unexpected(CheckoutResponseMessage::create(received->message).error());
         }
     }
     return response;

@@ -19,7 +19,7 @@ namespace quillet {
 struct CheckoutResponse {
     /// The reply had no body at all.
     enum class CodingError { emptyData };
-    using Error = std::variant<CodingError, CheckoutResponseMessageCodingError, platform::DecodingError>;
+    using Error = std::variant<CodingError, CheckoutResponseMessage::CodingError, platform::DecodingError>;
 
     /// Identifier of the order that the checkout produced.
     std::string submittedOrderId;

@@ -2,19 +2,18 @@
 
 namespace quillet {
 
-std::expected<CheckoutResponseMessage, CheckoutResponseMessageCodingError>
-checkoutResponseMessage(std::string_view text) {
+std::expected<CheckoutResponseMessage, CheckoutResponseMessage::CodingError>
+CheckoutResponseMessage::create(std::string_view text) {
     if (text == "CART_SUBMITTED_SUCCESS") {
-        return CheckoutResponseMessage::cartSubmittedSuccess;
+        return cartSubmittedSuccess;
     }
     if (text == "CART_SUBMITTED_PARTIAL_SUCCESS") {
-        return CheckoutResponseMessage::cartSubmittedPartialSuccess;
+        return cartSubmittedPartialSuccess;
     }
     if (text == "CART_SUBMITTED_ERROR") {
-        return CheckoutResponseMessage::cartSubmittedError;
+        return cartSubmittedError;
     }
-    return std::unexpected(
-        CheckoutResponseMessageCodingError{"Error decoding - \"" + std::string(text) + "\"\n"});
+    return std::unexpected(CodingError{"Error decoding - \"" + std::string(text) + "\"\n"});
 }
 
 } // namespace quillet

@@ -43,14 +43,14 @@ public:
 
     /// Set once by whoever assembles the worker, before the first run.
     void setDelegate(std::weak_ptr<Delegate> delegate) { delegate_ = std::move(delegate); }
+    /// Null before it was set, and once it is gone.
+    [[nodiscard]] std::shared_ptr<Delegate> delegate() const { return delegate_.lock(); }
 
 protected:
     using Completion = std::function<void(Result)>;
 
     explicit ServiceWorker(std::unique_ptr<const DispatchQueuing> dispatchMainQueue)
         : dispatchMainQueue_(std::move(dispatchMainQueue)) {}
-
-    [[nodiscard]] std::shared_ptr<Delegate> delegate() const { return delegate_.lock(); }
 
 private:
     virtual void willCall() {}

@@ -12,7 +12,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using Lines = std::vector<std::string>;
-using enum CheckoutResponseMessage;
+using enum CheckoutResponseMessage::Case;
 
 const std::string kDialog = "dialog: ¡Ups, tuvimos un problema! | Estamos experimentando inestabilidad en "
                             "nuestros sistemas. Por favor, inténtalo de nuevo más tarde. | Actualizar";

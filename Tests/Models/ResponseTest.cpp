@@ -141,7 +141,7 @@ TEST(CheckoutResponseTest, RepeatsAnUnknownVerdictInAnErrorOfItsOwn) {
     const auto unknown = replaced(checkoutJson, "CART_SUBMITTED_PARTIAL_SUCCESS", "CART_SUBMITTED_OK");
     EXPECT_EQ(CheckoutResponse::create(unknown).error(),
               CheckoutResponse::Error(
-                  CheckoutResponseMessageCodingError{"Error decoding - \"CART_SUBMITTED_OK\"\n"}));
+                  CheckoutResponseMessage::CodingError{"Error decoding - \"CART_SUBMITTED_OK\"\n"}));
     // An earlier field's fault comes first.
     const auto earlier = CheckoutResponse::create(replaced(unknown, "\"A-1\"", "1"));
     EXPECT_EQ(std::get<platform::DecodingError>(earlier.error()).path, "submittedOrderId");

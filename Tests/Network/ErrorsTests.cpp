@@ -1,3 +1,4 @@
+#include "Models/ResponseCodingError.hpp"
 #include "Network/Errors/HttpErrorFactory.hpp"
 #include "Platform/Json/JSONEncoder.hpp"
 
@@ -18,7 +19,10 @@ TEST(ServiceError, DescribesItself) {
     EXPECT_EQ(description(inner), "HTTP Code: 422\ninner\nUnprocessable");
     EXPECT_EQ(description(ServiceError(serverError)), "HTTP Code: 422\nERROR_CART_ALREADY_SUBMITTED");
     EXPECT_EQ(description(ServiceError(NetworkServiceError::invalidUrl)), "Invalid URL");
-    EXPECT_NE(description(ServiceError(HttpStatusCodeError{500})), "");
+    EXPECT_EQ(description(ServiceError(HttpStatusCodeError{500})),
+              "The operation couldn’t be completed. (Quillet.HttpStatusCodeError error 1.)");
+    EXPECT_EQ(description(ResponseCodingError::emptyData),
+              "The operation couldn’t be completed. (Quillet.ResponseCodingError error 0.)");
 }
 
 TEST(ServiceError, HasAPlatformCodeOnlyWhenTheExchangeFailed) {

@@ -20,7 +20,11 @@ public:
                       std::shared_ptr<kel::KelAnalyticsManagerType> analyticsManager);
 
     void setDelegate(std::weak_ptr<CheckoutViewModelDelegate> delegate);
+    [[nodiscard]] std::shared_ptr<CheckoutViewModelDelegate> delegate() const { return delegate_.lock(); }
     void setNavigationDelegate(std::weak_ptr<QuilletNavigationDelegate> navigationDelegate);
+    [[nodiscard]] std::shared_ptr<QuilletNavigationDelegate> navigationDelegate() const {
+        return navigationDelegate_.lock();
+    }
 
     void startCheckout() override;
     void willCheckout() override;

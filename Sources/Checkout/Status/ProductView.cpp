@@ -20,20 +20,6 @@ QString ProductView::points() const {
     return Localization::pointsCount(product_.totalPoints);
 }
 
-QString UnshippedProductView::reason() const {
-    switch (productView_.product().status) {
-    case ProductErrorStatus::unavailable:
-        return Localization::productsUnavailableByStock();
-    case ProductErrorStatus::quantityError:
-        return Localization::productsUnavailableByQuota();
-    case ProductErrorStatus::notFound:
-        return Localization::productsNotFound();
-    case ProductErrorStatus::none:
-        break;
-    }
-    return {};
-}
-
 ProductRow UnshippedProductView::row() const {
     ProductRow row = productView_.row();
     row.hasReason = true;

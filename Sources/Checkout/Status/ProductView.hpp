@@ -35,8 +35,6 @@ public:
     explicit UnshippedProductView(Product product) : productView_(std::move(product)) {}
 
     [[nodiscard]] const ProductView& productView() const { return productView_; }
-    /// Why the product was not sent; empty where its status gives no reason.
-    [[nodiscard]] QString reason() const;
     /// What the tag reads, which is nothing.
     [[nodiscard]] static QString reasonTagText() { return {}; }
     [[nodiscard]] ProductRow row() const;

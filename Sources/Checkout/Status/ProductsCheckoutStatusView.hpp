@@ -42,6 +42,9 @@ public:
                                std::unique_ptr<Spacing> spacing, std::unique_ptr<Sizing> sizing);
 
     void setDelegate(std::weak_ptr<ProductsCheckoutStatusViewDelegate> delegate);
+    [[nodiscard]] std::shared_ptr<ProductsCheckoutStatusViewDelegate> delegate() const {
+        return delegate_.lock();
+    }
 
     [[nodiscard]] CycleLabel* cycleLabel() const { return cycleLabel_.get(); }
     [[nodiscard]] PointsLabel* totalAddedProductPointsLabel() const {

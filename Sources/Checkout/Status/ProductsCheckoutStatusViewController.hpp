@@ -25,6 +25,9 @@ public:
     ~ProductsCheckoutStatusViewController() override;
 
     void setNavigationDelegate(std::weak_ptr<QuilletNavigationDelegate> navigationDelegate);
+    [[nodiscard]] std::shared_ptr<QuilletNavigationDelegate> navigationDelegate() const {
+        return navigationDelegate_.lock();
+    }
     /// Installs the root view; once, before the screen is pushed.
     void setView(std::unique_ptr<ProductsCheckoutStatusView> view) { view_ = std::move(view); }
     [[nodiscard]] std::weak_ptr<ProductsCheckoutStatusViewController> weakSelf();

@@ -63,6 +63,9 @@ public:
         std::shared_ptr<ViewAnimating> viewAnimating = std::make_shared<ViewAnimatingWrapper>());
 
     void setDelegate(std::weak_ptr<ShippingStatusProductsViewDelegate> delegate);
+    [[nodiscard]] std::shared_ptr<ShippingStatusProductsViewDelegate> delegate() const {
+        return delegate_.lock();
+    }
     /// Stacks the sections that are present, the shipped one first, and from then on tells the delegate of
     /// taps.
     void setup();

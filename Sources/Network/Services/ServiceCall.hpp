@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Models/Response.hpp"
 #include "Network/Errors/NetworkErrorParser.hpp"
 #include "Network/Session/URLSessionDataTaskCreating.hpp"
 
@@ -17,16 +18,16 @@ template <typename Result>
     return {std::nullopt, platform::URLError::outOfMemory(), 0};
 }
 
-/// What an exchange came to: the answer decoded as a `Response`, and its error classified.
-template <typename Response, typename Result>
+/// What an exchange came to: the answer decoded as a `Record`, and its error classified.
+template <Response Record, typename Result>
 [[nodiscard]] Result serviceResult(const NetworkErrorParser& errorParser,
                                    const std::optional<std::string>& data,
                                    const std::optional<platform::HTTPURLResponse>& response,
                                    std::optional<platform::URLError> transportError) noexcept {
     try {
-        std::optional<Response> decoded;
-        if (auto record = Response::create(data)) {
-            decoded = *std::move(record);
+        std::optional<Record> decoded;
+        if (auto created = Record::create(data)) {
+            decoded = *std::move(created);
         }
         return {std::move(decoded), errorParser.parse(data, response, std::move(transportError)),
                 response ? response->statusCode : 0};
@@ -38,7 +39,7 @@ template <typename Response, typename Result>
 /// The road that all three services take: send the request, decode the answer, and hand a `Result` to the
 /// completion, which must not throw. Keeps what it needs by itself until then. Throws std::bad_alloc where
 /// there is no memory to begin; the completion is not called then.
-template <typename Response, typename Result, typename Completion>
+template <Response Record, typename Result, typename Completion>
 void performServiceCall(std::expected<platform::URLRequest, ServiceError> request,
                         const URLSessionDataTaskCreating& session,
                         std::shared_ptr<const HttpErrorThrowable> httpErrorFactory, Completion completion) {
@@ -50,7 +51,7 @@ void performServiceCall(std::expected<platform::URLRequest, ServiceError> reques
         [errorParser = NetworkErrorParser(std::move(httpErrorFactory)), done = std::move(completion)](
             const std::optional<std::string>& data, const std::optional<platform::HTTPURLResponse>& response,
             std::optional<platform::URLError> transportError) {
-            done(serviceResult<Response, Result>(errorParser, data, response, std::move(transportError)));
+            done(serviceResult<Record, Result>(errorParser, data, response, std::move(transportError)));
         };
     session.dataTask(*request, std::move(completionHandler))->resume();
 }

@@ -29,6 +29,7 @@ public:
 
     [[nodiscard]] const SaleSummaryPresenter& presenter() const override { return presenter_; }
     void setDelegate(std::weak_ptr<SaleSummaryViewDelegate> delegate) override;
+    [[nodiscard]] std::shared_ptr<SaleSummaryViewDelegate> delegate() const { return delegate_.lock(); }
 
     [[nodiscard]] QString inProgressTab() const { return QStringLiteral("En Curso"); }
     [[nodiscard]] SaleSummaryHeaderView* headerView() { return &headerView_; }

@@ -25,6 +25,7 @@ public:
                          std::unique_ptr<SaleSummaryUseCaseCreating> useCasesFactory);
 
     void setDelegate(std::weak_ptr<SaleSummaryViewModelDelegate> delegate) override;
+    [[nodiscard]] std::shared_ptr<SaleSummaryViewModelDelegate> delegate() const { return delegate_.lock(); }
     void trackAnalyticsScreen() override;
     void doRequests() override;
     void tryAgainDoRequests() override;

@@ -34,8 +34,7 @@ void ModuleViewController::hideLoading() {
 }
 
 void ModuleViewController::setDialog(std::unique_ptr<Dialog> dialog) {
-    // The page lets go of the dialog before when it is told of this one.
-    const auto previous = std::exchange(dialog_, std::unique_ptr<Dialog, DeleteLater>(dialog.release()));
+    dialog_.reset(dialog.release());
     Q_EMIT dialogChanged();
 }
 
