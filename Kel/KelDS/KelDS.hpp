@@ -1,10 +1,10 @@
 #pragma once
 
-class QQmlEngine;
-
-namespace kel {
-
-/// Makes `import KelDS` work in the given engine. Cheap, and may be called again for the same engine.
-void useDesignSystem(QQmlEngine& engine);
-
-} // namespace kel
+/// The design system for C++.
+#include "KelDS/KelAppearance.hpp"
+#include "KelDS/KelColors.hpp"
+#include "KelDS/KelDesignSystem.hpp"
+#include "KelDS/KelDialogController.hpp"
+#include "KelDS/KelFonts.hpp"
+#include "KelDS/KelMeasures.hpp"
+#include "KelDS/KelTagColor.hpp"

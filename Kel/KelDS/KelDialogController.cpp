@@ -1,7 +1,7 @@
 #include "KelDS/KelDialogController.hpp"
 
 #include "KelCommon/KelLocalized.hpp"
-#include "KelDS/KelDS.hpp"
+#include "KelDS/KelDesignSystem.hpp"
 
 #include <QLoggingCategory>
 #include <QQmlComponent>

@@ -3,7 +3,7 @@
 #include "Checkout/Screen/CheckoutRouter.hpp"
 #include "Checkout/Screen/CheckoutViewController.hpp"
 #include "Checkout/Screen/CheckoutViewModel.hpp"
-#include "KelCommon/KelAnalyticsManager.hpp"
+#include "KelCommon/KelCommon.hpp"
 
 #include <utility>
 

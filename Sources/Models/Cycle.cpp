@@ -6,7 +6,7 @@ namespace quillet {
 
 std::string Cycle::onlyCode(const Cycle& cycle) {
     constexpr std::size_t shown = 2;
-    const std::string digits = std::to_string(cycle.code);
+    std::string digits = std::to_string(cycle.code);
     if (digits.size() < shown) {
         FatalErrorWrapper::fatalErrorClosure("The cycle's code has fewer than two digits", __FILE_NAME__,
                                              __LINE__);

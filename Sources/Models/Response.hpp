@@ -9,7 +9,7 @@ namespace quillet {
 /// that does not decode.
 template <typename Record>
 concept Response = requires(const std::optional<std::string>& data) {
-    { Record::create(data).has_value() };
+    {Record::create(data).has_value()};
     typename Record::Error;
 };
 

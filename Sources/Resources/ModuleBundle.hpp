@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelCommon/KelLocalized.hpp"
+#include "KelCommon/KelCommon.hpp"
 
 #include <QUrl>
 

@@ -1,6 +1,6 @@
 #include "SaleSummary/SaleSummaryFactory.hpp"
 
-#include "KelCommon/KelAnalyticsManager.hpp"
+#include "KelCommon/KelCommon.hpp"
 #include "SaleSummary/Screen/SaleSummaryRouter.hpp"
 #include "SaleSummary/Screen/SaleSummaryViewController.hpp"
 #include "SaleSummary/UseCases/SaleSummaryUseCaseFactory.hpp"

@@ -256,7 +256,7 @@ void SessionLoop::finish(Calls::iterator call, URLSessionOutcome outcome) {
     });
     outside([&] {
         auto completionHandler = std::move(call->exchange.completionHandler);
-        completionHandler(std::move(outcome.data), std::move(outcome.response), std::move(outcome.error));
+        completionHandler(std::move(outcome.data), outcome.response, std::move(outcome.error));
     });
 }
 

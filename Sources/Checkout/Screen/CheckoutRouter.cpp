@@ -1,6 +1,6 @@
 #include "Checkout/Screen/CheckoutRouter.hpp"
 
-#include "KelCommon/KelAnalyticsManager.hpp"
+#include "KelCommon/KelCommon.hpp"
 #include "Platform/Screens/NavigationController.hpp"
 #include "Views/Screen/ViewController.hpp"
 

@@ -2,7 +2,7 @@
 
 #include "Checkout/Screen/CheckoutViewModelDelegate.hpp"
 #include "Checkout/Screen/CheckoutViewModeling.hpp"
-#include "KelCommon/KelAnalytics.hpp"
+#include "KelCommon/KelCommon.hpp"
 #include "Workers/CheckoutWorkerDelegate.hpp"
 #include "Workers/Executable.hpp"
 

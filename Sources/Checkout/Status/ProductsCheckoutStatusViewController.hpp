@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Checkout/Status/ProductsCheckoutStatusView.hpp"
-#include "KelCommon/KelAnalytics.hpp"
+#include "KelCommon/KelCommon.hpp"
 #include "Views/Loading/LoadingDisplayer.hpp"
 #include "Views/Screen/ModuleViewController.hpp"
 

@@ -1,6 +1,6 @@
 #include "Checkout/Status/ProductsViewFactory.hpp"
 
-#include "KelDS/KelColors.hpp"
+#include "KelDS/KelDS.hpp"
 #include "Views/Tokens/HexColor.hpp"
 
 #include <utility>

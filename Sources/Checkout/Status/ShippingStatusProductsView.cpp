@@ -1,6 +1,6 @@
 #include "Checkout/Status/ShippingStatusProductsView.hpp"
 
-#include "KelDS/KelMeasures.hpp"
+#include "KelDS/KelDS.hpp"
 
 #include <QPointer>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelCommon/KelAnalytics.hpp"
+#include "KelCommon/KelCommon.hpp"
 
 namespace quillet {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelDS/KelTagColor.hpp"
+#include "KelDS/KelDS.hpp"
 #include "SaleSummary/Presenters/SaleSummaryPresenter.hpp"
 #include "Views/Labels/PointsLabel.hpp"
 

@@ -2,7 +2,7 @@
 
 namespace quillet {
 
-SaleSummaryHeaderView::SaleSummaryHeaderView(SaleSummaryHeaderPresenter presenter)
+SaleSummaryHeaderView::SaleSummaryHeaderView(const SaleSummaryHeaderPresenter& presenter)
     : pointsInProgressLabel_(
           std::make_unique<PointsLabel>(presenter.pointsInProgressPresenter, kel::KelFonts::Headline6)) {
     if (const auto& cycle = presenter.cycle) {

@@ -19,7 +19,7 @@ class SaleSummaryHeaderView final : public QObject {
     Q_PROPERTY(quillet::Label* pointsInProgressLabel READ pointsInProgressLabel CONSTANT FINAL)
 
 public:
-    explicit SaleSummaryHeaderView(SaleSummaryHeaderPresenter presenter);
+    explicit SaleSummaryHeaderView(const SaleSummaryHeaderPresenter& presenter);
 
     [[nodiscard]] CycleLabel* cycleLabel() const { return cycleLabel_.get(); }
     [[nodiscard]] QString cycleStart() const { return cyclePeriod_ ? cyclePeriod_->startText() : QString(); }

@@ -36,7 +36,7 @@ std::function<void()> navigate(const std::weak_ptr<SaleSummaryViewModelDelegate>
 
 /// The same, after an event has been sent.
 std::function<void()> trackThen(const std::shared_ptr<kel::KelAnalyticsManagerType>& analytics,
-                                SaleSummaryAnalyticsEvent event, std::function<void()> action) {
+                                const SaleSummaryAnalyticsEvent& event, std::function<void()> action) {
     return [analytics, event, action = std::move(action)] {
         analytics->trackEvent(event);
         action();

@@ -70,7 +70,7 @@ std::uint64_t SaleSummarySuccessUseCase::pointsInProgress() const {
 }
 
 void SaleSummarySuccessUseCase::showOrderRegistered() {
-    const auto track = [analytics = analyticsManager_](SaleSummaryAnalyticsEvent event) {
+    const auto track = [analytics = analyticsManager_](const SaleSummaryAnalyticsEvent& event) {
         return [analytics, event] { analytics->trackEvent(event); };
     };
     track(SaleSummaryAnalyticsEvent::registerOrderDeepLinking)();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelCommon/KelAnalytics.hpp"
+#include "KelCommon/KelCommon.hpp"
 #include "Network/Results/OpenOrdersResult.hpp"
 #include "Network/Results/OrderResult.hpp"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelCommon/KelAnalytics.hpp"
+#include "KelCommon/KelCommon.hpp"
 #include "SaleSummary/UseCases/SaleSummaryUseCase.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModelDelegate.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModeling.hpp"

@@ -1,6 +1,6 @@
 #include "Views/Dialogs/AlertDialog.hpp"
 
-#include "KelDS/KelDialogController.hpp"
+#include "KelDS/KelDS.hpp"
 #include "Platform/Screens/NavigationController.hpp"
 #include "Views/Screen/ViewController.hpp"
 

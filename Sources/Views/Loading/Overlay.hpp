@@ -2,7 +2,7 @@
 
 #include "Views/Tokens/Opacity.hpp"
 
-#include "KelDS/KelColors.hpp"
+#include "KelDS/KelDS.hpp"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelDS/KelColors.hpp"
+#include "KelDS/KelDS.hpp"
 
 namespace quillet {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelDS/KelFonts.hpp"
+#include "KelDS/KelDS.hpp"
 
 namespace quillet {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelDS/KelMeasures.hpp"
+#include "KelDS/KelDS.hpp"
 
 namespace quillet {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KelDS/KelAppearance.hpp"
+#include "KelDS/KelDS.hpp"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>

@@ -1,4 +1,4 @@
-#include "KelDS/KelDS.hpp"
+#include "KelDS/KelDesignSystem.hpp"
 
 #include <QQmlEngine>
 #include <QQmlExtensionPlugin>

@@ -1,0 +1,5 @@
+import KelDS
+
+KelButton {
+    property int number
+}

@@ -1,0 +1,9 @@
+import QtQuick
+import KelDS
+
+Text {
+    property int size: KelFonts.Subtitle1
+    property int weight: KelFonts.Regular
+    font: KelFonts.font(size, weight)
+    textFormat: Text.PlainText
+}

@@ -1,0 +1,6 @@
+import KelDS
+
+KelLabel {
+    property var titles
+    text: titles[0]
+}

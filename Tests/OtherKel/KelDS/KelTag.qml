@@ -1,0 +1,5 @@
+import KelDS
+
+KelLabel {
+    property int tagColor
+}

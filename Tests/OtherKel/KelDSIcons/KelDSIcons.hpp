@@ -1,0 +1,5 @@
+#pragma once
+
+namespace kel {
+enum class KelIconNumber { checkCircle = 1, error, inventory, warning };
+}
