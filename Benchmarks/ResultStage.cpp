@@ -19,7 +19,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr auto kHost = R"(
+constexpr auto host = R"(
     import QtQuick
     import QtQuick.Controls.Basic
     ApplicationWindow {
@@ -55,7 +55,7 @@ QQuickItem* findList(const QQuickItem& root) {
 ResultStage::ResultStage() : engine_(std::make_unique<QQmlEngine>()) {
     useQuilletViews(*engine_);
     QQmlComponent component(engine_.get());
-    component.setData(kHost, QUrl());
+    component.setData(host, QUrl());
     window_.reset(qobject_cast<QQuickWindow*>(component.create()));
     if (!window_) {
         throw std::runtime_error(component.errorString().toStdString());

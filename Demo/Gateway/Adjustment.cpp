@@ -15,8 +15,9 @@ using Failure = std::unexpected<std::string>;
 std::optional<std::int64_t> number(std::string_view text) {
     std::int64_t value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (text.empty() || error != std::errc{} || end != text.data() + text.size() || value < 0)
+    if (text.empty() || error != std::errc{} || end != text.data() + text.size() || value < 0) {
         return std::nullopt;
+    }
     return value;
 }
 
@@ -43,36 +44,42 @@ struct Applier {
     Database& database;
 
     std::expected<void, std::string> operator()(const FaultChange& change) const {
-        if (!hasConsultant(database, change.consultant))
+        if (!hasConsultant(database, change.consultant)) {
             return noSuchConsultant(change.consultant);
-        if (change.kind)
+        }
+        if (change.kind) {
             database.execute("INSERT OR REPLACE INTO faults (consultant, call, kind, value, remaining) "
                              "VALUES (?, ?, ?, ?, ?)",
                              change.consultant, change.call, *change.kind, change.value, change.times);
-        else
+        } else {
             database.execute("DELETE FROM faults WHERE consultant = ? AND call = ?", change.consultant,
                              change.call);
+        }
         return {};
     }
 
     std::expected<void, std::string> operator()(const StockChange& change) const {
         if (database.execute("UPDATE catalogue SET stock = ? WHERE code = ?", change.units, change.product) ==
-            0)
+            0) {
             return noSuchProduct(change.product);
+        }
         return {};
     }
 
     std::expected<void, std::string> operator()(const QuotaChange& change) const {
-        if (!exists(database, "SELECT 1 FROM catalogue WHERE code = ?", change.product))
+        if (!exists(database, "SELECT 1 FROM catalogue WHERE code = ?", change.product)) {
             return noSuchProduct(change.product);
-        if (change.consultant != 0 && !hasConsultant(database, change.consultant))
+        }
+        if (change.consultant != 0 && !hasConsultant(database, change.consultant)) {
             return noSuchConsultant(change.consultant);
-        if (change.units)
+        }
+        if (change.units) {
             database.execute("INSERT OR REPLACE INTO quotas (product, consultant, units) VALUES (?, ?, ?)",
                              change.product, change.consultant, *change.units);
-        else
+        } else {
             database.execute("DELETE FROM quotas WHERE product = ? AND consultant = ?", change.product,
                              change.consultant);
+        }
         return {};
     }
 };
@@ -85,8 +92,9 @@ std::expected<Adjustment, std::string> parseFault(std::string_view text) {
     for (std::string word; stream >> word;) {
         const auto equals = word.find('=');
         if (equals == std::string::npos ||
-            !words.emplace(word.substr(0, equals), word.substr(equals + 1)).second)
+            !words.emplace(word.substr(0, equals), word.substr(equals + 1)).second) {
             return notUnderstood("--fault", word);
+        }
     }
     const auto take = [&](const char* key) {
         const auto node = words.extract(key);
@@ -101,19 +109,25 @@ std::expected<Adjustment, std::string> parseFault(std::string_view text) {
                        .kind = kind == "none" ? std::nullopt : std::optional(kind),
                        .value = take("value").value_or(""),
                        .times = times ? number(*times) : std::nullopt};
-    if (!words.empty())
+    if (!words.empty()) {
         return notUnderstood("--fault", words.begin()->first);
-    if (!consultant || !callKind(call))
+    }
+    if (!consultant || !callKind(call)) {
         return Failure("--fault needs consultant=N and call=associate, open or checkout");
-    if (times && change.times.value_or(0) < 1)
+    }
+    if (times && change.times.value_or(0) < 1) {
         return Failure("--fault needs times=N of 1 or more");
-    if (!change.kind)
+    }
+    if (!change.kind) {
         return change;
+    }
     const auto known = faultKind(kind);
-    if (!known)
+    if (!known) {
         return Failure("--fault needs kind=delay, status, malformed, cut, silence, close or none");
-    if (const auto wrong = checkFaultValue({.kind = *known, .value = change.value}))
+    }
+    if (const auto wrong = checkFaultValue({.kind = *known, .value = change.value})) {
         return Failure("--fault: " + *wrong);
+    }
     return change;
 }
 
@@ -121,15 +135,17 @@ std::expected<Adjustment, std::string> parseStock(std::string_view text) {
     const auto equals = text.find('=');
     const auto product = number(text.substr(0, equals));
     const auto units = equals == std::string_view::npos ? std::nullopt : number(text.substr(equals + 1));
-    if (!product || !units)
+    if (!product || !units) {
         return notUnderstood("--stock", text);
+    }
     return StockChange{.product = *product, .units = *units};
 }
 
 std::expected<Adjustment, std::string> parseQuota(std::string_view text) {
     const auto equals = text.find('=');
-    if (equals == std::string_view::npos)
+    if (equals == std::string_view::npos) {
         return notUnderstood("--quota", text);
+    }
     const auto left = text.substr(0, equals);
     const auto right = text.substr(equals + 1);
     const auto at = left.find('@');
@@ -137,8 +153,9 @@ std::expected<Adjustment, std::string> parseQuota(std::string_view text) {
     const auto consultant =
         at == std::string_view::npos ? std::optional<std::int64_t>(0) : number(left.substr(at + 1));
     const auto units = number(right);
-    if (!product || !consultant || (!units && right != "none"))
+    if (!product || !consultant || (!units && right != "none")) {
         return notUnderstood("--quota", text);
+    }
     return QuotaChange{.product = *product, .consultant = *consultant, .units = units};
 }
 

@@ -84,13 +84,16 @@ Json cartJson(Database& database, const std::string& uuid) {
 Reply associate(Database& database, const Consultant& consultant, const Call& call, std::string_view target) {
     Transaction transaction(database);
     auto cart = database.query("SELECT consultant, status FROM carts WHERE uuid = ?", call.cart);
-    if (!cart.next())
+    if (!cart.next()) {
         return clientError(404, target, "There is no such cart.");
-    if (!cart.isNull(0) && cart.integer(0) != consultant.id)
+    }
+    if (!cart.isNull(0) && cart.integer(0) != consultant.id) {
         return serverError(422, target, "ERROR_CART_OTHER_CONSULTANT", "Another consultant holds this cart.");
-    if (cart.text(1) == "SUBMITTED")
+    }
+    if (cart.text(1) == "SUBMITTED") {
         return serverError(422, target, "ERROR_CART_ALREADY_SUBMITTED",
                            "This cart has been submitted before.");
+    }
     database.execute("UPDATE carts SET consultant = ? WHERE uuid = ?", consultant.id, call.cart);
     const Json body{{"consultant", consultantJson(database, consultant)},
                     {"cart", cartJson(database, call.cart)}};
@@ -103,8 +106,9 @@ Reply listOpenCarts(Database& database, const Consultant& consultant) {
     auto rows = database.query(
         "SELECT uuid FROM carts WHERE consultant = ? AND status = 'OPEN' ORDER BY created, number",
         consultant.id);
-    while (rows.next())
+    while (rows.next()) {
         carts.push_back(cartJson(database, rows.text(0)));
+    }
     const Json body{{"consultant", consultantJson(database, consultant)}, {"carts", std::move(carts)}};
     return {.status = 200, .body = body.dump(), .headers = {}};
 }

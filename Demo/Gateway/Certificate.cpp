@@ -18,8 +18,9 @@ using Extension = std::unique_ptr<X509_EXTENSION, Freer<X509_EXTENSION_free>>;
 using Number = std::unique_ptr<BIGNUM, Freer<BN_free>>;
 
 void require(bool done) {
-    if (!done)
+    if (!done) {
         throw std::runtime_error(std::string("OpenSSL: ") + ERR_error_string(ERR_get_error(), nullptr));
+    }
 }
 
 Key makeKey() {
@@ -72,8 +73,9 @@ Credentials makeServer(const Credentials& authority, std::span<const std::string
     auto certificate = begin(key.get(), "Quillet gateway", 397);
     auto* const issuer = authority.certificate.get();
     std::string alternatives = "IP:127.0.0.1";
-    for (const auto name : names)
+    for (const auto name : names) {
         alternatives.append(",DNS:").append(name);
+    }
     require(X509_set_issuer_name(certificate.get(), X509_get_subject_name(issuer)) == 1);
     addExtension(certificate.get(), issuer, NID_basic_constraints, "critical,CA:FALSE");
     addExtension(certificate.get(), issuer, NID_key_usage, "critical,digitalSignature");

@@ -38,7 +38,7 @@ std::vector<Product> productsOf(Database& database, const Consultant& consultant
     sql.append(taken).append(") GROUP BY product ORDER BY min(place)");
     auto rows = database.query(sql, consultant.id, consultant.cycle);
     std::vector<Product> products;
-    while (rows.next())
+    while (rows.next()) {
         products.push_back({.code = rows.integer(0),
                             .description = rows.text(1),
                             .quantity = rows.integer(2),
@@ -46,20 +46,24 @@ std::vector<Product> productsOf(Database& database, const Consultant& consultant
                             .points = rows.integer(4),
                             .unitPoints = rows.integer(5),
                             .status = {}});
+    }
     return products;
 }
 
 std::string_view statusOf(Database& database, const Consultant& consultant, const Product& product) {
     auto catalogue = database.query("SELECT stock FROM catalogue WHERE code = ?", product.code);
-    if (!catalogue.next())
+    if (!catalogue.next()) {
         return "NOT_FOUND";
-    if (catalogue.integer(0) < product.quantity)
+    }
+    if (catalogue.integer(0) < product.quantity) {
         return "UNAVAILABLE";
+    }
     auto quota = database.query("SELECT units FROM quotas WHERE product = ? AND consultant IN (0, ?) "
                                 "ORDER BY consultant DESC LIMIT 1",
                                 product.code, consultant.id);
-    if (!quota.next())
+    if (!quota.next()) {
         return "OK";
+    }
     auto before = database.query("SELECT ifnull(sum(quantity), 0) FROM sent "
                                  "WHERE consultant = ? AND product = ? AND cycle IS ?",
                                  consultant.id, product.code, consultant.cycle);
@@ -86,8 +90,9 @@ void send(Database& database, const Consultant& consultant, const std::string& o
 Count countOf(const std::vector<Product>& products, bool added) {
     Count count;
     for (const auto& product : products) {
-        if (product.isAdded() != added)
+        if (product.isAdded() != added) {
             continue;
+        }
         ++count.products;
         count.items += product.quantity;
         count.points += product.points;
@@ -102,8 +107,9 @@ Json productJson(const Product& product) {
               {"quantity", product.quantity},
               {"totalPrice", money(product.price)}};
     // Where points come by the pack, or some units were a present, there are no points of one unit to tell.
-    if (product.unitPoints * product.quantity == product.points)
+    if (product.unitPoints * product.quantity == product.points) {
         json["unitPoints"] = product.unitPoints;
+    }
     json["totalPoints"] = product.points;
     return json;
 }
@@ -113,17 +119,20 @@ Json productJson(const Product& product) {
 Reply checkOut(Database& database, const Consultant& consultant) {
     Transaction transaction(database);
     auto products = productsOf(database, consultant);
-    for (auto& product : products)
+    for (auto& product : products) {
         product.status = statusOf(database, consultant, product);
+    }
     const auto added = countOf(products, true);
     const auto failed = countOf(products, false);
 
     std::string order;
     if (added.products > 0) {
         order = nextOrderId(database, consultant);
-        for (const auto& product : products)
-            if (product.isAdded())
+        for (const auto& product : products) {
+            if (product.isAdded()) {
                 send(database, consultant, order, product);
+            }
+        }
         database.execute(std::string("UPDATE carts SET status = 'SUBMITTED' WHERE ").append(taken),
                          consultant.id, consultant.cycle);
     }

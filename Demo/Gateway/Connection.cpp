@@ -32,33 +32,39 @@ Request requestOf(const http::request<http::string_body>& message) {
                     .target = std::string(message.target()),
                     .headers = {},
                     .body = message.body()};
-    for (const auto& field : message)
+    for (const auto& field : message) {
         request.headers.emplace_back(field.name_string(), field.value());
+    }
     return request;
 }
 
 // The reply to what could not even be read as a request; nothing if the client has simply gone.
 std::optional<Reply> replyTo(const Failure& failure, const std::string& target) {
-    if (failure == http::error::header_limit)
+    if (failure == http::error::header_limit) {
         return clientError(431, target, "The headers are over 16 KiB.");
-    if (failure == http::error::body_limit)
+    }
+    if (failure == http::error::body_limit) {
         return clientError(413, target, "The body is over 64 KiB.");
+    }
     const Failure anyOfHttp = http::error::bad_method;
     if (failure.category() == anyOfHttp.category() && failure != http::error::end_of_stream &&
-        failure != http::error::partial_message)
+        failure != http::error::partial_message) {
         return clientError(400, target, "This is not HTTP: " + failure.message() + ".");
+    }
     return std::nullopt;
 }
 
 std::string bytesOf(const Reply& reply, bool keepAlive, bool withBody) {
     auto bytes = "HTTP/1.1 " + std::to_string(reply.status) + " ";
     bytes.append(reasonPhrase(reply.status)).append("\r\n");
-    for (const auto& [name, value] : reply.headers)
+    for (const auto& [name, value] : reply.headers) {
         bytes += name + ": " + value + "\r\n";
+    }
     const bool mayHaveBody = reply.status != 204 && reply.status != 304;
-    if (mayHaveBody)
+    if (mayHaveBody) {
         bytes +=
             "Content-Type: application/json\r\nContent-Length: " + std::to_string(reply.body.size()) + "\r\n";
+    }
     bytes += std::string("Cache-Control: no-store\r\nConnection: ") + (keepAlive ? "keep-alive" : "close") +
              "\r\n\r\n";
     return withBody && mayHaveBody ? bytes + reply.body : bytes;
@@ -90,8 +96,9 @@ void Connection::interrupt() {
     interruption_.notify_all();
     // Blocking reads and writes of the other thread return at once; the descriptor itself stays its own to
     // close.
-    if (!closed_)
+    if (!closed_) {
         ::shutdown(stream_.next_layer().native_handle(), SHUT_RDWR);
+    }
 }
 
 void Connection::serve() {
@@ -105,16 +112,18 @@ void Connection::serve() {
         Failure failure;
         http::read(stream_, buffer, parser, failure);
         if (failure) {
-            if (const auto reply = replyTo(failure, std::string(parser.get().target())))
+            if (const auto reply = replyTo(failure, std::string(parser.get().target()))) {
                 send(bytesOf(*reply, false, true));
+            }
             break;
         }
         const auto request = requestOf(parser.get());
         const auto outcome = router_.handle(request);
         log_.write(number_, request, outcome);
         then = answer(request, outcome, parser.get().keep_alive());
-        if (then == Then::drop)
+        if (then == Then::drop) {
             return;
+        }
     }
     endPolitely();
 }
@@ -128,8 +137,9 @@ Connection::Then Connection::answer(const Request& request, const Outcome& outco
     }
     switch (outcome.fault->kind) {
     case FaultKind::delay:
-        if (!waitFor(delayOf(*outcome.fault)))
+        if (!waitFor(delayOf(*outcome.fault))) {
             return Then::drop;
+        }
         [[fallthrough]];
     case FaultKind::status:
     case FaultKind::malformed:
@@ -160,8 +170,9 @@ bool Connection::waitFor(std::chrono::milliseconds time) {
 void Connection::waitForClientToGo() {
     std::array<char, 4096> ignored;
     Failure gone;
-    while (!gone)
+    while (!gone) {
         stream_.read_some(asio::buffer(ignored), gone);
+    }
 }
 
 void Connection::endPolitely() {
@@ -173,8 +184,9 @@ void Connection::endPolitely() {
     socket.shutdown(asio::ip::tcp::socket::shutdown_send, ignored);
     std::array<char, 4096> rest;
     std::size_t drained = 0;
-    for (Failure gone; !gone && drained < drainLimit;)
+    for (Failure gone; !gone && drained < drainLimit;) {
         drained += socket.read_some(asio::buffer(rest), gone);
+    }
 }
 
 } // namespace quillet::gateway

@@ -9,8 +9,9 @@ namespace {
 constexpr int lockWaitMilliseconds = 5000;
 
 void check(int code, sqlite3* database) {
-    if (code != SQLITE_OK && code != SQLITE_ROW && code != SQLITE_DONE)
+    if (code != SQLITE_OK && code != SQLITE_ROW && code != SQLITE_DONE) {
         throw DatabaseError(database ? sqlite3_errmsg(database) : sqlite3_errstr(code));
+    }
 }
 
 } // namespace
@@ -80,8 +81,9 @@ Transaction::Transaction(Database& database) : database_(database) {
 }
 
 Transaction::~Transaction() {
-    if (!open_)
+    if (!open_) {
         return;
+    }
     try {
         database_.script("ROLLBACK");
     } catch (const DatabaseError&) {

@@ -42,8 +42,9 @@ public:
     }
     template <class Value>
     void bind(int place, const std::optional<Value>& value) {
-        if (value)
+        if (value) {
             bind(place, *value);
+        }
     }
 
 private:

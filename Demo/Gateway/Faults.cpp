@@ -34,8 +34,9 @@ constexpr int longestDelay = 600'000;
 std::optional<int> number(std::string_view text) {
     int value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc{} || end != text.data() + text.size())
+    if (error != std::errc{} || end != text.data() + text.size()) {
         return std::nullopt;
+    }
     return value;
 }
 
@@ -54,23 +55,27 @@ std::optional<std::string> checkFaultValue(const Fault& fault) {
     const auto value = number(fault.value);
     switch (fault.kind) {
     case FaultKind::delay:
-        if (!value || *value < 0 || *value > longestDelay)
+        if (!value || *value < 0 || *value > longestDelay) {
             return "a delay needs value=MILLISECONDS, at most 600000";
+        }
         return {};
     case FaultKind::status:
-        if (!value || *value < 200 || *value > 599)
+        if (!value || *value < 200 || *value > 599) {
             return "a status needs value=CODE, from 200 to 599";
+        }
         return {};
     case FaultKind::malformed:
         if (std::ranges::find(nonsense, fault.value, &std::pair<std::string_view, std::string_view>::first) ==
-            nonsense.end())
+            nonsense.end()) {
             return "malformed takes value=shape, null, empty or html, or none";
+        }
         return {};
     case FaultKind::cut:
     case FaultKind::silence:
     case FaultKind::close:
-        if (!fault.value.empty())
+        if (!fault.value.empty()) {
             return std::string(name(fault.kind)) + " takes no value";
+        }
         return {};
     }
     std::unreachable();
@@ -80,15 +85,17 @@ std::optional<Fault> takeFault(Database& database, std::int64_t consultant, Call
     auto row = database.query("UPDATE faults SET remaining = remaining - 1 WHERE consultant = ? AND call = ? "
                               "AND (remaining IS NULL OR remaining > 0) RETURNING kind, value",
                               consultant, name(call));
-    if (!row.next())
+    if (!row.next()) {
         return std::nullopt;
+    }
     const auto kind = faultKind(row.text(0));
     Fault fault{.kind = kind.value_or(FaultKind::status), .value = row.text(1)};
     row.next();
     // The table may have been edited by hand. A fault that nobody can understand is the gateway's own
     // failure.
-    if (!kind || checkFaultValue(fault))
+    if (!kind || checkFaultValue(fault)) {
         throw DatabaseError("the table \"faults\" holds a kind or value that is not known");
+    }
     return fault;
 }
 
@@ -98,16 +105,20 @@ std::optional<Reply> replyInPlace(const Fault& fault, std::string_view target) {
             std::ranges::find(nonsense, fault.value, &std::pair<std::string_view, std::string_view>::first);
         return Reply{.status = 200, .body = std::string(body->second), .headers = {}};
     }
-    if (fault.kind != FaultKind::status)
+    if (fault.kind != FaultKind::status) {
         return std::nullopt;
+    }
     const int status = number(fault.value).value_or(500);
-    if (status >= 500)
+    if (status >= 500) {
         return serverError(status, target, "ERROR_ON_REQUEST", "This failure was asked for.");
-    if (status >= 400)
+    }
+    if (status >= 400) {
         return clientError(status, target, "This failure was asked for.");
+    }
     Reply reply{.status = status, .body = status == 204 || status == 304 ? "" : "{}", .headers = {}};
-    if (status >= 300 && status != 304)
+    if (status >= 300 && status != 304) {
         reply.headers.emplace_back("Location", "/quillet-bff/elsewhere");
+    }
     return reply;
 }
 

@@ -12,8 +12,9 @@ using Json = nlohmann::ordered_json;
 /// An amount of money for a body, from whole hundredths. The library writes the shortest text that reads back
 /// as the same double; for every amount of up to 4,000,000.00 that has been checked to be the decimal itself.
 inline Json money(std::int64_t hundredths) {
-    if (hundredths % 100 == 0)
+    if (hundredths % 100 == 0) {
         return hundredths / 100;
+    }
     return static_cast<double>(hundredths) / 100.0;
 }
 

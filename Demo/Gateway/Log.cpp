@@ -30,12 +30,13 @@ std::string now() {
 Json headersOf(const Request& request) {
     Json headers = Json::object();
     for (const auto& [name, value] : request.headers) {
-        if (sameHeader(name, "Consultant-Token"))
+        if (sameHeader(name, "Consultant-Token")) {
             headers[name] = value.size();
-        else if (headers.contains(name))
+        } else if (headers.contains(name)) {
             headers[name] = headers[name].get<std::string>() + ", " + value;
-        else
+        } else {
             headers[name] = value;
+        }
     }
     return headers;
 }
@@ -44,8 +45,9 @@ Json headersOf(const Request& request) {
 
 std::expected<Log, std::string> Log::open(const std::filesystem::path& file) {
     std::ofstream stream(file, std::ios::app);
-    if (!stream)
+    if (!stream) {
         return std::unexpected("cannot write the log " + file.string() + ": " + std::strerror(errno));
+    }
     return Log(std::move(stream));
 }
 
@@ -63,10 +65,12 @@ void Log::write(std::uint64_t connection, const Request& request, const Outcome&
         line["status"] = outcome.reply.status;
         line["bytesOut"] = outcome.reply.body.size();
     }
-    if (outcome.fault)
+    if (outcome.fault) {
         line["fault"] = name(outcome.fault->kind);
-    if (outcome.consultant)
+    }
+    if (outcome.consultant) {
         line["consultant"] = *outcome.consultant;
+    }
     line["headers"] = headersOf(request);
     const auto text = line.dump(-1, ' ', false, Json::error_handler_t::replace);
 

@@ -30,8 +30,9 @@ constexpr std::array longOptions{
 std::expected<std::uint16_t, std::string> parsePort(std::string_view text) {
     std::uint16_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (text.empty() || error != std::errc{} || end != text.data() + text.size())
+    if (text.empty() || error != std::errc{} || end != text.data() + text.size()) {
         return std::unexpected("--port needs a number from 0 to 65535, not \"" + std::string(text) + "\"");
+    }
     return number;
 }
 
@@ -39,8 +40,9 @@ using Parser = std::expected<Adjustment, std::string> (*)(std::string_view);
 
 std::optional<std::string> add(Options& options, Parser parse, std::string_view text) {
     auto adjustment = parse(text);
-    if (!adjustment)
+    if (!adjustment) {
         return adjustment.error();
+    }
     options.adjustments.push_back(std::move(*adjustment));
     return {};
 }
@@ -103,17 +105,22 @@ std::expected<Options, std::string> parseOptions(std::span<char* const> argument
     for (int found = 0;
          (found = ::getopt_long(count, all.data(), "+:", longOptions.data(), nullptr)) != -1;) {
         const std::string written = all[static_cast<std::size_t>(::optind - 1)];
-        if (found == ':')
+        if (found == ':') {
             return std::unexpected(written + " needs a value");
-        if (found == '?')
+        }
+        if (found == '?') {
             return std::unexpected("unknown option " + written);
-        if (auto wrong = take(options, found, ::optarg ? ::optarg : ""))
+        }
+        if (auto wrong = take(options, found, ::optarg ? ::optarg : "")) {
             return std::unexpected(*wrong);
+        }
     }
-    if (::optind < count)
+    if (::optind < count) {
         return std::unexpected(std::string("unexpected argument ") + all[static_cast<std::size_t>(::optind)]);
-    if (options.data.empty() && !options.help && !options.version)
+    }
+    if (options.data.empty() && !options.help && !options.version) {
         return std::unexpected("--data DIR is needed");
+    }
     return options;
 }
 

@@ -29,8 +29,9 @@ Router::Router(std::filesystem::path data, const Identity& identity)
 
 Outcome Router::handle(const Request& request) const {
     auto call = checkRequest(request, identity_);
-    if (!call)
+    if (!call) {
         return {.reply = std::move(call.error()), .fault = {}, .consultant = {}};
+    }
     try {
         return carryOut(*call, request.target);
     } catch (const DatabaseError& error) {
@@ -49,12 +50,14 @@ Outcome Router::carryOut(const Call& call, const std::string& target) const {
         return outcome;
     }
     outcome.fault = takeFault(database, consultant->id, call.kind);
-    if (outcome.fault && outcome.fault->kind == FaultKind::silence)
+    if (outcome.fault && outcome.fault->kind == FaultKind::silence) {
         return outcome;
-    if (auto instead = outcome.fault ? replyInPlace(*outcome.fault, target) : std::nullopt)
+    }
+    if (auto instead = outcome.fault ? replyInPlace(*outcome.fault, target) : std::nullopt) {
         outcome.reply = std::move(*instead);
-    else
+    } else {
         outcome.reply = answer(database, *consultant, call, target);
+    }
     return outcome;
 }
 

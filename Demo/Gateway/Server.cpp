@@ -34,8 +34,9 @@ void usePair(asio::ssl::context& tls, const Credentials& credentials) {
     auto* const context = tls.native_handle();
     if (SSL_CTX_use_certificate(context, credentials.certificate.get()) != 1 ||
         SSL_CTX_use_PrivateKey(context, credentials.key.get()) != 1 ||
-        SSL_CTX_set_min_proto_version(context, TLS1_2_VERSION) != 1)
+        SSL_CTX_set_min_proto_version(context, TLS1_2_VERSION) != 1) {
         throw std::runtime_error("OpenSSL does not take the server's certificate");
+    }
 }
 
 } // namespace
@@ -46,12 +47,14 @@ struct Server::Implementation {
 
     void accept() {
         acceptor.async_accept([this](const Failure& failure, asio::ip::tcp::socket socket) {
-            if (failure == asio::error::operation_aborted)
+            if (failure == asio::error::operation_aborted) {
                 return;
+            }
             sessions.remove_if([](const Session& session) { return session.ended.load(); });
             // Beyond the limit a client is turned away: its socket closes right here.
-            if (!failure && sessions.size() < mostConnections)
+            if (!failure && sessions.size() < mostConnections) {
                 start(std::move(socket));
+            }
             accept();
         });
     }
@@ -105,8 +108,9 @@ void Server::run(bool stopWithStdin) {
     }
     self.accept();
     self.loop.run();
-    for (auto& session : self.sessions)
+    for (auto& session : self.sessions) {
         session.connection.interrupt();
+    }
     self.sessions.clear();
 }
 

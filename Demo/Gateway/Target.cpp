@@ -25,8 +25,9 @@ std::optional<std::string> percentDecode(std::string_view text) {
         unsigned char byte = 0;
         const auto digits = text.substr(at + 1, 2);
         const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16);
-        if (digits.size() != 2 || error != std::errc{} || end != digits.data() + 2)
+        if (digits.size() != 2 || error != std::errc{} || end != digits.data() + 2) {
             return std::nullopt;
+        }
         decoded += static_cast<char>(byte);
         at += 2;
     }
@@ -34,8 +35,9 @@ std::optional<std::string> percentDecode(std::string_view text) {
 }
 
 bool take(std::string_view& text, std::string_view prefix) {
-    if (!text.starts_with(prefix))
+    if (!text.starts_with(prefix)) {
         return false;
+    }
     text.remove_prefix(prefix.size());
     return true;
 }
@@ -68,23 +70,29 @@ std::expected<Target, TargetError> parseTarget(std::string_view target) {
         auto cartText = percentDecode(cart);
         auto countryText = percentDecode(country);
         auto consultantText = percentDecode(consultant);
-        if (!cartText || !countryText || !consultantText)
+        if (!cartText || !countryText || !consultantText) {
             return std::unexpected(TargetError::badEncoding);
+        }
         return Target{kind, std::move(*cartText), std::move(*countryText), std::move(*consultantText), query};
     };
 
-    if (take(target, "/quillet-bff/sell-out-carts/"))
+    if (take(target, "/quillet-bff/sell-out-carts/")) {
         return make(CallKind::associate, target, "", "");
-    if (!take(target, "/quillet-bff/consultants/"))
+    }
+    if (!take(target, "/quillet-bff/consultants/")) {
         return std::unexpected(TargetError::unknown);
+    }
     const auto country = takeSegment(target);
-    if (!take(target, "/"))
+    if (!take(target, "/")) {
         return std::unexpected(TargetError::unknown);
+    }
     const auto consultant = takeSegment(target);
-    if (target == "/sell-out-carts")
+    if (target == "/sell-out-carts") {
         return make(CallKind::open, "", country, consultant);
-    if (target == "/sell-out-carts/checkout")
+    }
+    if (target == "/sell-out-carts/checkout") {
         return make(CallKind::checkout, "", country, consultant);
+    }
     return std::unexpected(TargetError::unknown);
 }
 

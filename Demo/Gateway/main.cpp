@@ -21,22 +21,27 @@ int fail(int status, const std::string& what) {
 
 int runErrand(Database& database, const Options& options) {
     Transaction transaction(database);
-    for (const auto& adjustment : options.adjustments)
-        if (const auto applied = apply(database, adjustment); !applied)
+    for (const auto& adjustment : options.adjustments) {
+        if (const auto applied = apply(database, adjustment); !applied) {
             return fail(failureStatus, applied.error());
+        }
+    }
     transaction.commit();
-    if (options.list)
+    if (options.list) {
         std::cout << incomingOrders(database).dump(2) << '\n';
+    }
     return 0;
 }
 
 int serve(const Options& options) {
     const auto authority = provideAuthority(options.data, options.ca.value_or(options.data / "ca.pem"));
-    if (!authority)
+    if (!authority) {
         return fail(failureStatus, authority.error());
+    }
     auto log = Log::open(options.log.value_or(options.data / "gateway.log"));
-    if (!log)
+    if (!log) {
         return fail(failureStatus, log.error());
+    }
 
     const auto& identity = builtInIdentity();
     std::vector<std::string_view> names(identity.hosts.begin(), identity.hosts.end());
@@ -60,8 +65,9 @@ int main(int count, char** arguments) {
     // A client or a reader of our output that goes away must not take the gateway along.
     std::signal(SIGPIPE, SIG_IGN);
     const auto options = parseOptions({arguments + 1, static_cast<std::size_t>(count - 1)});
-    if (!options)
+    if (!options) {
         return fail(usageStatus, options.error() + " (try --help)");
+    }
     if (options->help) {
         std::cout << helpText();
         return 0;

@@ -21,8 +21,8 @@
 
 namespace {
 
-constexpr int kFailed = 1;
-constexpr int kUsage = 2;
+constexpr int failed = 1;
+constexpr int usage = 2;
 
 int complain(const QString& line, int status) {
     std::fprintf(stderr, "quillet-host: %s\n", qUtf8Printable(line));
@@ -76,14 +76,14 @@ int perform(const std::vector<demo::PlayScript>& plays, demo::PlayRunner& runner
     QFile file(outFolder + QStringLiteral("/tour.json"));
     const QByteArray json = QJsonDocument(QJsonObject{{QStringLiteral("plays"), reports}}).toJson();
     if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size()) {
-        return complain(QStringLiteral("cannot write ") + file.fileName(), kFailed);
+        return complain(QStringLiteral("cannot write ") + file.fileName(), failed);
     }
-    return ok ? 0 : kFailed;
+    return ok ? 0 : failed;
 }
 
 int drawSheet(const QString& file) {
     const auto drawn = demo::drawControls(file);
-    return drawn ? 0 : complain(drawn.error(), kFailed);
+    return drawn ? 0 : complain(drawn.error(), failed);
 }
 
 /// Sets the gateway and the host up and does what was asked for. All that it made is gone when it returns.
@@ -108,7 +108,7 @@ int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& p
         QDir().mkpath(settings.dataFolder);
         const auto started = gateway.start(settings);
         if (!started) {
-            return complain(started.error(), kFailed);
+            return complain(started.error(), failed);
         }
         address = *started;
         orders = demo::GatewayProcess::seededOrders(settings);
@@ -122,7 +122,7 @@ int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& p
     demo::configurePlatform(network ? network->address() : address, journal, network);
     const auto host = std::make_shared<demo::HostApplication>(*journal, status, orders);
     if (!host->load(host, !inWindow)) {
-        return complain(QStringLiteral("the window does not load"), kFailed);
+        return complain(QStringLiteral("the window does not load"), failed);
     }
     if (inWindow) {
         return QGuiApplication::exec();
@@ -146,7 +146,7 @@ int main(int argc, char** argv) {
     }
     const auto options = demo::parseOptions(arguments);
     if (!options) {
-        return options.error().isEmpty() ? 0 : complain(options.error(), kUsage);
+        return options.error().isEmpty() ? 0 : complain(options.error(), usage);
     }
     const bool inWindow = options->mode == demo::Options::Mode::window;
     const bool onSheet = options->mode == demo::Options::Mode::controls;
@@ -154,11 +154,11 @@ int main(int argc, char** argv) {
     if (!inWindow && !onSheet) {
         auto read = readPlays(*options);
         if (!read) {
-            return complain(read.error(), kUsage);
+            return complain(read.error(), usage);
         }
         plays = std::move(*read);
         if (!QDir().mkpath(options->outFolder)) {
-            return complain(QStringLiteral("cannot make the folder ") + options->outFolder, kFailed);
+            return complain(QStringLiteral("cannot make the folder ") + options->outFolder, failed);
         }
     }
     if (!inWindow) {
@@ -179,5 +179,5 @@ int main(int argc, char** argv) {
         return status;
     }
     std::printf("FAILED  warnings of Qt or QML, on standard error: %d\n", demo::WarningCounter::count());
-    return kFailed;
+    return failed;
 }

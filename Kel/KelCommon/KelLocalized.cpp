@@ -12,7 +12,7 @@ namespace kel {
 
 namespace {
 
-constexpr auto kFallbackLanguage = "es";
+constexpr auto fallbackLanguage = "es";
 
 QString& chosenLanguage() {
     static QString language;
@@ -24,7 +24,7 @@ QString currentLanguage() {
         return chosenLanguage();
     }
     const QLocale system = QLocale::system();
-    return system.language() == QLocale::C ? QString::fromLatin1(kFallbackLanguage) : system.name().left(2);
+    return system.language() == QLocale::C ? QString::fromLatin1(fallbackLanguage) : system.name().left(2);
 }
 
 std::shared_ptr<const QTranslator> table(const KelBundle& bundle) {
@@ -33,7 +33,7 @@ std::shared_ptr<const QTranslator> table(const KelBundle& bundle) {
     auto& translator = tables[bundle.folder + u'/' + bundle.table + u'/' + language];
     if (!translator) {
         translator = std::make_shared<QTranslator>();
-        for (const QString& candidate : {language, QString::fromLatin1(kFallbackLanguage)}) {
+        for (const QString& candidate : {language, QString::fromLatin1(fallbackLanguage)}) {
             if (translator->load(bundle.folder + u'/' + bundle.table + u'_' + candidate)) {
                 break;
             }

@@ -19,7 +19,7 @@ public:
 
     [[nodiscard]] KelTheme theme() const { return theme_; }
     [[nodiscard]] const KelPalette& palette() const {
-        return theme_ == KelTheme::light ? kLightPalette : kDarkPalette;
+        return theme_ == KelTheme::light ? lightPalette : darkPalette;
     }
     void setTheme(KelTheme theme);
 

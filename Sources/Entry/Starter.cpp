@@ -19,13 +19,13 @@ namespace {
 std::string gatewayHost(Environment environment) {
     switch (environment) {
     case Environment::dev:
-        return build::kGatewayHostDev;
+        return build::gatewayHostDev;
     case Environment::hml:
-        return build::kGatewayHostHml;
+        return build::gatewayHostHml;
     case Environment::prd:
         break;
     }
-    return build::kGatewayHostPrd;
+    return build::gatewayHostPrd;
 }
 
 } // namespace
@@ -34,7 +34,7 @@ std::expected<Starter, JWTError>
 Starter::create(const std::string& accessToken, std::string authorizationProvider, CartForConsultant cart,
                 const std::shared_ptr<QuilletNavigationDelegate>& navigationDelegate) {
     auto domainUrl = gatewayHost(QuilletConfiguration::shared().environment());
-    const JWTCreator creator{Header{"HS256", "JWT"}, Payload{accessToken}, build::kSigningSecret,
+    const JWTCreator creator{Header{"HS256", "JWT"}, Payload{accessToken}, build::signingSecret,
                              std::make_shared<HmacSha256Scrivener>()};
     auto token = creator.createJSONWebToken();
     if (!token) {

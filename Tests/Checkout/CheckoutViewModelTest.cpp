@@ -14,8 +14,8 @@ using ::testing::IsEmpty;
 using Lines = std::vector<std::string>;
 using enum CheckoutResponseMessage::Case;
 
-const std::string kDialog = "dialog: ¡Ups, tuvimos un problema! | Estamos experimentando inestabilidad en "
-                            "nuestros sistemas. Por favor, inténtalo de nuevo más tarde. | Actualizar";
+const std::string dialog = "dialog: ¡Ups, tuvimos un problema! | Estamos experimentando inestabilidad en "
+                           "nuestros sistemas. Por favor, inténtalo de nuevo más tarde. | Actualizar";
 
 /// A view model with its real worker, whose service and main queue are the test's.
 struct CheckoutViewModelTest : ::testing::Test {
@@ -59,7 +59,7 @@ TEST_F(CheckoutViewModelTest, RoutesByTheVerdictAndLooksAtTheStatusForErrorsOnly
     const Lines all{"all added order-7"};
     const Lines some{"partially added order-7"};
     const Lines none{"none added order-7"};
-    const Lines generic{"screen Error", kDialog};
+    const Lines generic{"screen Error", dialog};
     const struct {
         CheckoutResult result;
         Lines shown;
@@ -105,7 +105,7 @@ TEST_F(CheckoutViewModelTest, RetriesFromTheDialogsButtonAndLeavesFromItsOtherTo
     screen->dialog.didTapButton();
     EXPECT_THAT(taken(log), ElementsAre("removeTryAgainView", "startLoading"));
     answer(failure());
-    EXPECT_THAT(taken(log), ElementsAre("stopLoading", "screen Error", kDialog));
+    EXPECT_THAT(taken(log), ElementsAre("stopLoading", "screen Error", dialog));
 
     host.reset();
     screen->dialog.didTapBackgroundView();

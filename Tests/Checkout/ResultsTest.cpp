@@ -13,7 +13,7 @@ namespace quillet::testing {
 namespace {
 
 using ::testing::ElementsAre;
-constexpr auto kLargest = std::numeric_limits<std::uint64_t>::max();
+constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
 
 /// Keeps the input that the router makes and what the real factory makes of it.
 template <typename Input>
@@ -43,7 +43,7 @@ Product product(std::uint64_t code, ProductErrorStatus status) {
 CheckoutResponse response(std::optional<Cycle> cycle) {
     CheckoutResponse result;
     result.consultant.cycle = cycle;
-    result.summary = {.addedPoints = 120, .addedProducts = kLargest, .errorProducts = 9};
+    result.summary = {.addedPoints = 120, .addedProducts = largest, .errorProducts = 9};
     result.products = {product(5, ProductErrorStatus::notFound), product(3, ProductErrorStatus::none),
                        product(4, ProductErrorStatus::unavailable), product(1, ProductErrorStatus::none),
                        product(2, ProductErrorStatus::quantityError)};
@@ -152,7 +152,7 @@ TEST(TotalAddedProductPoints, AreWrittenInFullAndInTheRightNumber) {
         {1, "1 punto enviado en total"},
         {2, "2 puntos enviados en total"},
         {1500, "1500 puntos enviados en total"},
-        {kLargest, "18446744073709551615 puntos enviados en total"},
+        {largest, "18446744073709551615 puntos enviados en total"},
     };
     for (const auto& [points, text] : cases) {
         EXPECT_EQ(TotalAddedProductPointsPresenter(points).pointsText(), text);

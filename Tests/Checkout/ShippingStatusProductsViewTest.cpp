@@ -79,7 +79,7 @@ struct Sections : ::testing::Test {
         return *view;
     }
 
-    static constexpr int kRoom = 100;
+    static constexpr int room = 100;
     Log log = makeLog();
     std::shared_ptr<FakeDelegate> delegate = std::make_shared<FakeDelegate>(log);
     std::shared_ptr<HandDrivenAnimating> animating = std::make_shared<HandDrivenAnimating>();
@@ -113,7 +113,7 @@ TEST_F(Sections, OpenAndCloseAtOnceWithReducedMotionAndTellOncePerTap) {
         auto& list = show(sentPanel, notSentPanel);
         EXPECT_EQ(shape(list), atFirst);
         for (const auto& [row, notice, afterwards] : taps) {
-            list.toggle(row, kRoom);
+            list.toggle(row, room);
             EXPECT_THAT(taken(log), ElementsAre(notice));
             EXPECT_EQ(shape(list), afterwards);
         }
@@ -206,7 +206,7 @@ TEST_F(Sections, ComeToRestWhenAnotherIsTappedAndOutliveNothing) {
 TEST_F(Sections, IgnoreTapsBesideTheHeadsAndADelegateThatHasGone) {
     auto& list = show(sent(2), notSent(1));
     for (const int row : {-1, 1, 2, 4, 5, std::numeric_limits<int>::max()}) {
-        list.toggle(row, kRoom);
+        list.toggle(row, room);
     }
     EXPECT_EQ(shape(list), "opPoP");
     delegate.reset();

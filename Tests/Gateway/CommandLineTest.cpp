@@ -56,8 +56,9 @@ TEST(GatewayCommandLine, EndsWithOneLineWhenTheMachineRefuses) {
     const std::string data = folder.path();
     GatewayProcess other({"--data", data + "/other"});
     const auto taken = std::to_string(other.port());
-    for (const char* const name : {"/text", "/key", "/folder"})
+    for (const char* const name : {"/text", "/key", "/folder"}) {
         std::filesystem::create_directory(data + name);
+    }
     std::ofstream(data + "/text/gateway.sqlite") << std::string(5000, 'x');
     std::ofstream(data + "/key/authority.pem") << "no key\n";
     const std::vector<std::pair<std::vector<std::string>, std::string>> cases{

@@ -21,8 +21,9 @@ protected:
     }
     std::vector<Json> log() const {
         std::vector<Json> entries;
-        for (const auto& line : linesOf(folder.path() / "gateway.log"))
+        for (const auto& line : linesOf(folder.path() / "gateway.log")) {
             entries.push_back(Json::parse(line));
+        }
         return entries;
     }
 

@@ -17,22 +17,25 @@ namespace {
 // Close-on-exec, or a gateway started by one test would keep another's input from ending.
 std::array<int, 2> makePipe() {
     std::array<int, 2> ends{};
-    if (::pipe2(ends.data(), O_CLOEXEC) != 0)
+    if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
         throw std::runtime_error("no pipe");
+    }
     return ends;
 }
 
 std::string readToEnd(int descriptor) {
     std::string text;
     std::array<char, 4096> part;
-    for (ssize_t size = 0; (size = ::read(descriptor, part.data(), part.size())) > 0;)
+    for (ssize_t size = 0; (size = ::read(descriptor, part.data(), part.size())) > 0;) {
         text.append(part.data(), static_cast<std::size_t>(size));
+    }
     return text;
 }
 
 void closeOnce(int& descriptor) {
-    if (descriptor >= 0)
+    if (descriptor >= 0) {
         ::close(descriptor);
+    }
     descriptor = -1;
 }
 
@@ -42,8 +45,9 @@ GatewayProcess::GatewayProcess(const std::vector<std::string>& arguments) {
     std::string program = QUILLET_GATEWAY_PROGRAM;
     auto copies = arguments;
     std::vector<char*> all{program.data()};
-    for (auto& argument : copies)
+    for (auto& argument : copies) {
         all.push_back(argument.data());
+    }
     all.push_back(nullptr);
 
     const auto input = makePipe();
@@ -56,13 +60,15 @@ GatewayProcess::GatewayProcess(const std::vector<std::string>& arguments) {
     ::posix_spawn_file_actions_adddup2(&actions, errors[1], STDERR_FILENO);
     const int failure = ::posix_spawn(&process_, program.c_str(), &actions, nullptr, all.data(), environ);
     ::posix_spawn_file_actions_destroy(&actions);
-    for (const int end : {input[0], output[1], errors[1]})
+    for (const int end : {input[0], output[1], errors[1]}) {
         ::close(end);
+    }
     input_ = input[1];
     output_ = output[0];
     errors_ = errors[0];
-    if (failure != 0)
+    if (failure != 0) {
         throw std::runtime_error("cannot start " + program);
+    }
 }
 
 GatewayProcess::~GatewayProcess() {
@@ -76,9 +82,11 @@ GatewayProcess::~GatewayProcess() {
 }
 
 std::uint16_t GatewayProcess::port() {
-    if (firstLine_.empty())
-        for (char letter = 0; ::read(output_, &letter, 1) == 1 && letter != '\n';)
+    if (firstLine_.empty()) {
+        for (char letter = 0; ::read(output_, &letter, 1) == 1 && letter != '\n';) {
             firstLine_ += letter;
+        }
+    }
     const std::string prefix = "listening on 127.0.0.1:";
     return firstLine_.starts_with(prefix)
                ? static_cast<std::uint16_t>(std::stoul(firstLine_.substr(prefix.size())))
@@ -108,8 +116,9 @@ Ended runGateway(const std::vector<std::string>& arguments) {
 std::vector<std::string> linesOf(const std::filesystem::path& file) {
     std::ifstream stream(file);
     std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);)
+    for (std::string line; std::getline(stream, line);) {
         lines.push_back(line);
+    }
     return lines;
 }
 

@@ -30,12 +30,16 @@ Exchange HttpsClient::send(const Request& request, std::chrono::milliseconds dea
     List mapping;
     add(mapping, "::127.0.0.1:" + std::to_string(port_));
     // curl adds an Accept of its own, and a Content-Type to what has a body, if it is not told otherwise.
-    for (const char* const name : {"Accept", "Content-Type"})
-        if (request.count(name) == 0)
+    for (const char* const name : {"Accept", "Content-Type"}) {
+        if (request.count(name) == 0) {
             add(headers, std::string(name) + ":");
-    for (const auto& [name, value] : request.headers)
-        if (!sameHeader(name, "Host"))
+        }
+    }
+    for (const auto& [name, value] : request.headers) {
+        if (!sameHeader(name, "Host")) {
             add(headers, name + ": " + value);
+        }
+    }
 
     Exchange exchange;
     const auto url = "https://" + std::string(request.header("Host")) + request.target;

@@ -15,8 +15,9 @@ std::string base64Url(std::string_view bytes) {
         EVP_EncodeBlock(reinterpret_cast<unsigned char*>(text.data()),
                         reinterpret_cast<const unsigned char*>(bytes.data()), static_cast<int>(bytes.size()));
     text.resize(static_cast<std::size_t>(size));
-    for (char& letter : text)
+    for (char& letter : text) {
         letter = letter == '+' ? '-' : letter == '/' ? '_' : letter;
+    }
     std::erase(text, '=');
     return text;
 }
@@ -68,8 +69,9 @@ Request checkoutRequest(std::uint64_t consultant, const std::string& country) {
 }
 
 std::string cartOf(std::uint64_t consultant) {
-    if (consultant == 41052)
+    if (consultant == 41052) {
         return "7f3c9a10-52e1-4d0b-9c77-1f0a6b2e84d3";
+    }
     const auto number = std::to_string(consultant);
     return number + "a00-52e1-4d0b-9c77-1f0a6b2e84" + number.substr(3);
 }

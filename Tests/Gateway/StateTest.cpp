@@ -53,8 +53,9 @@ protected:
 
 std::map<std::int64_t, std::string> statuses(const Answer& answer) {
     std::map<std::int64_t, std::string> found;
-    for (const auto& product : answer.body["products"])
+    for (const auto& product : answer.body["products"]) {
         found[product["productCode"]] = product["status"];
+    }
     return found;
 }
 
@@ -64,8 +65,9 @@ TEST_F(GatewayState, SendsWhatItCanAndCountsTheRest) {
     ASSERT_EQ(associate(41052, cartOf(41052)).body["cart"]["totalPoints"], 86);
     std::int64_t inProgress = 0;
     const auto open = ask(openRequest(41052));
-    for (const auto& cart : open.body["carts"])
+    for (const auto& cart : open.body["carts"]) {
         inProgress += cart["totalPoints"].get<std::int64_t>();
+    }
     EXPECT_EQ(inProgress, 1240);
 
     const auto answer = checkOut(41052);
@@ -75,8 +77,9 @@ TEST_F(GatewayState, SendsWhatItCanAndCountsTheRest) {
               R"({"allItems":18,"errorItems":15,"addedItems":3,"allPoints":120,"addedPoints":62,)"
               R"("addedProducts":2,"errorProducts":2})");
     std::vector<std::pair<std::int64_t, std::string>> products;
-    for (const auto& product : answer.body["products"])
+    for (const auto& product : answer.body["products"]) {
         products.emplace_back(product["productCode"], product["status"]);
+    }
     EXPECT_THAT(products, ElementsAre(Pair(70412, "OK"), Pair(81190, "OK"), Pair(90318, "UNAVAILABLE"),
                                       Pair(61204, "QUANTITY_ERROR")));
     // Points that come by the pack have no points of one unit.
@@ -177,8 +180,9 @@ TEST_F(GatewayState, SendsOnlyOnceWhenTwoCheckoutsMeet) {
     std::array<int, 4> answers{};
     {
         std::vector<std::jthread> threads;
-        for (auto& status : answers)
+        for (auto& status : answers) {
             threads.emplace_back([&] { status = router.handle(checkoutRequest(41051)).reply.status; });
+        }
     }
     std::ranges::sort(answers);
     EXPECT_THAT(answers, ElementsAre(200, 400, 400, 400));

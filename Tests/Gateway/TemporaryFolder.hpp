@@ -13,8 +13,9 @@ class TemporaryFolder {
 public:
     TemporaryFolder() {
         std::string pattern = std::filesystem::temp_directory_path() / "quillet-gateway-XXXXXX";
-        if (!::mkdtemp(pattern.data()))
+        if (!::mkdtemp(pattern.data())) {
             throw std::runtime_error("no temporary folder");
+        }
         path_ = pattern;
     }
     ~TemporaryFolder() {

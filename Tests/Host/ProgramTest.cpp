@@ -48,7 +48,7 @@ struct Program : ::testing::Test {
     QString complaint;
 };
 
-constexpr auto kNoneAdded = R"(# The outcome that takes the fewest taps.
+constexpr auto noneAdded = R"(# The outcome that takes the fewest taps.
 open cart=41053a00-52e1-4d0b-9c77-1f0a6b2e8453 consultant=41053 country=CL environment=hml
 close-icon
 tap "Enviar productos a mi carrito"
@@ -60,7 +60,7 @@ tap "Ir al carrito"
 } // namespace
 
 TEST_F(Program, ReportsAPlayWithItsTrafficAnalyticsAndNavigation) {
-    ASSERT_EQ(play(kNoneAdded), 0) << complaint.toStdString();
+    ASSERT_EQ(play(noneAdded), 0) << complaint.toStdString();
     EXPECT_EQ(complaint.toStdString(), "");
     const QJsonObject told = report();
     EXPECT_EQ(told["name"], "p");

@@ -12,7 +12,7 @@ namespace demo::testing {
 
 namespace {
 
-constexpr auto kPhone = R"(
+constexpr auto phone = R"(
     import QtQuick
     import QtQuick.Controls.Basic
     Window {
@@ -54,7 +54,7 @@ TEST(ScreenReader, ReadsWhatAPersonSeesOfTheModule) {
         SCOPED_TRACE(content);
         QQmlEngine engine;
         QQmlComponent component(&engine);
-        component.setData(QString::fromUtf8(kPhone).arg(QString::fromUtf8(content)).toUtf8(), QUrl());
+        component.setData(QString::fromUtf8(phone).arg(QString::fromUtf8(content)).toUtf8(), QUrl());
         const std::unique_ptr<QObject> window(component.create());
         ASSERT_TRUE(window) << component.errorString().toStdString();
         const ScreenReader reader(*window->property("phone").value<QQuickItem*>());

@@ -24,7 +24,7 @@ struct Outcome {
     friend void PrintTo(const Outcome& outcome, std::ostream* stream) { *stream << outcome.name; }
 };
 
-const auto kCloseEvent = event("Register Order", "Close");
+const auto closeEvent = event("Register Order", "Close");
 
 std::vector<Outcome> outcomes() {
     return {
@@ -34,7 +34,7 @@ std::vector<Outcome> outcomes() {
          {"content", event("Register Order", "Deep Linking"),
           "dialog: no icon | ¡Pedido del cliente registrado y con estatus en curso! | El pedido enviado por "
           "WhatsApp, fue registrado con éxito. | Ver Pedidos"},
-         {{event("Register Order", "View Orders")}, {}, {kCloseEvent}}},
+         {{event("Register Order", "View Orders")}, {}, {closeEvent}}},
         {"other registered order",
          {{}, refusal("ERROR_CART_OTHER_CONSULTANT"), 422},
          {},
@@ -43,12 +43,12 @@ std::vector<Outcome> outcomes() {
           "cree un nuevo pedido. | Compartir revista"},
          {{event("Register Order", "Share Magazine"), "navigateToShareMagazine"},
           {"navigateToHome"},
-          {kCloseEvent, "navigateToHome"}}},
+          {closeEvent, "navigateToHome"}}},
         {"already submitted",
          {{}, refusal("ERROR_CART_ALREADY_SUBMITTED"), 422},
          {},
          {"dialog: cart_already_submitted | "},
-         {{"navigateToHome"}, {"navigateToHome"}, {kCloseEvent, "navigateToHome"}}},
+         {{"navigateToHome"}, {"navigateToHome"}, {closeEvent, "navigateToHome"}}},
         {"time-out",
          {{}, {}, 504},
          {"screen Error"},

@@ -12,7 +12,7 @@ namespace quillet::testing {
 
 namespace {
 
-constexpr auto kLargest = std::numeric_limits<std::uint64_t>::max();
+constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
 
 Order orderOf(std::uint64_t points) {
     Order order;
@@ -66,7 +66,7 @@ public:
 
 TEST(SaleSummaryPresenters, CountRegularLinesAndAddThePointsOfAllOpenOrders) {
     OrderResponse response;
-    response.order = orderOf(kLargest);
+    response.order = orderOf(largest);
     response.order.regularItems.resize(3);
     response.order.benefitItems.resize(2);
     response.order.totalItems = 9;
@@ -75,7 +75,7 @@ TEST(SaleSummaryPresenters, CountRegularLinesAndAddThePointsOfAllOpenOrders) {
         QString points;
     } cases[] = {
         {openOrders({orderOf(1000), orderOf(500)}), "Puntos en curso: 1500"},
-        {openOrders({orderOf(kLargest - 1), orderOf(1)}), "Puntos en curso: 18446744073709551615"},
+        {openOrders({orderOf(largest - 1), orderOf(1)}), "Puntos en curso: 18446744073709551615"},
         {openOrders({}), "Puntos en curso: 0"},
         {OpenOrdersResult{{}, HttpStatusCodeError{500}, 500}, "Puntos en curso: 0"},
         {std::nullopt, "Puntos en curso: 0"},
@@ -95,10 +95,10 @@ TEST(SaleSummaryPresenters, HandPointsBeyondAllNumbersToTheFatalHook) {
     const auto previous =
         std::exchange(FatalErrorWrapper::fatalErrorClosure,
                       [&](std::string_view, const char* file, unsigned) { files.emplace_back(file); });
-    const auto shown = present({}, openOrders({orderOf(kLargest), orderOf(1), orderOf(1)}));
+    const auto shown = present({}, openOrders({orderOf(largest), orderOf(1), orderOf(1)}));
     FatalErrorWrapper::fatalErrorClosure = previous;
     EXPECT_EQ(files, std::vector<std::string>{"SaleSummarySuccessUseCase.cpp"});
-    EXPECT_EQ(shown.headerPresenter.pointsInProgressPresenter.points, kLargest);
+    EXPECT_EQ(shown.headerPresenter.pointsInProgressPresenter.points, largest);
 }
 
 TEST(SaleSummaryPresenters, PreferTheCycleOfTheAssociation) {

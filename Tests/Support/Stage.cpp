@@ -13,7 +13,7 @@ namespace quillet::testing {
 
 namespace {
 
-constexpr auto kHost = R"(
+constexpr auto host = R"(
     import QtQuick
     import QtQuick.Controls.Basic
     ApplicationWindow {
@@ -93,7 +93,7 @@ Stage::Stage() : engine_(std::make_unique<QQmlEngine>()) {
     collected().clear();
     previousHandler = qInstallMessageHandler(collect);
     QQmlComponent component(engine_.get());
-    component.setData(kHost, QUrl());
+    component.setData(host, QUrl());
     window_.reset(qobject_cast<QQuickWindow*>(component.create()));
     if (!window_) {
         throw std::runtime_error(component.errorString().toStdString());

@@ -11,7 +11,7 @@
 namespace quillet {
 namespace {
 
-constexpr double kTurn = 2 * std::numbers::pi;
+constexpr double turn = 2 * std::numbers::pi;
 
 /// The cubic Bézier (0.42, 0, 0.58, 1) by bisection: not how the module works it out.
 double eased(double progress) {
@@ -32,7 +32,7 @@ struct Moment {
 };
 
 /// The arc at moments of the first round, and where the second begins.
-const Moment kMoments[] = {
+const Moment moments[] = {
     {0, 0, 0},
     {0.25, 0.15 * eased(0.25), eased(0.25)},
     {0.5, 0.15 * eased(0.5), eased(0.5)},
@@ -43,29 +43,29 @@ const Moment kMoments[] = {
     {1.75, 0.15 * eased(0.25), eased(0.25)},
 };
 
-constexpr QSizeF kItem(56, 56);
+constexpr QSizeF item(56, 56);
 
 TEST(ProgressIndicator, MovesItsArcByTheFormula) {
     LoadingView loading;
     loading.startLoading();
-    loading.progressIndicator()->draw(kItem);
+    loading.progressIndicator()->draw(item);
     const SemiCircleLayer& arc = *loading.progressIndicator()->semiCircleLayer();
-    for (const auto& [time, start, end] : kMoments) {
+    for (const auto& [time, start, end] : moments) {
         SCOPED_TRACE(time);
         const platform::LayerMoment moment = arc.at(time);
         EXPECT_NEAR(moment.strokeStart, start, 1e-3);
         EXPECT_NEAR(moment.strokeEnd, end, 1e-3);
-        EXPECT_NEAR(moment.rotation, kTurn * time / 4, 1e-9);
+        EXPECT_NEAR(moment.rotation, turn * time / 4, 1e-9);
     }
 }
 
 TEST(ProgressIndicator, DrawsTheArcWhereTheFormulaHasIt) {
     LoadingView loading;
     loading.startLoading();
-    loading.progressIndicator()->draw(kItem);
-    for (const auto& [time, start, end] : kMoments) {
+    loading.progressIndicator()->draw(item);
+    for (const auto& [time, start, end] : moments) {
         SCOPED_TRACE(time);
-        QImage image(kItem.toSize() * 4, QImage::Format_ARGB32_Premultiplied);
+        QImage image(item.toSize() * 4, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         QPainter painter(&image);
         painter.scale(4, 4);
@@ -77,7 +77,7 @@ TEST(ProgressIndicator, DrawsTheArcWhereTheFormulaHasIt) {
             if (std::abs(part - start) < 0.01 || std::abs(part - end) < 0.01) {
                 continue;
             }
-            const double angle = kTurn * part + kTurn * time / 4;
+            const double angle = turn * part + turn * time / 4;
             const QPoint ring(int(4 * (28 + 24 * std::cos(angle))), int(4 * (28 + 24 * std::sin(angle))));
             EXPECT_EQ(qAlpha(image.pixel(ring)) > 128, part > start && part < end) << part;
         }
@@ -93,8 +93,8 @@ TEST(ProgressIndicator, AddsItsRingsOnceAndTakesThemAwayAtOnce) {
         loading.startLoading();
         loading.startLoading();
         EXPECT_TRUE(indicator.layer().sublayers().empty()) << "shown before it was drawn";
-        indicator.draw(kItem);
-        indicator.draw(kItem);
+        indicator.draw(item);
+        indicator.draw(item);
         ASSERT_EQ(indicator.layer().sublayers().size(), 1u);
         EXPECT_EQ(indicator.layer().sublayers().front()->sublayers().size(), 1u);
         EXPECT_EQ(indicator.semiCircleLayer()->animations().size(), 2u);

@@ -16,9 +16,9 @@ namespace demo {
 namespace {
 
 /// How often a step looks again that scrolls through a long list meanwhile.
-constexpr std::chrono::milliseconds kScrollGlance{1};
+constexpr std::chrono::milliseconds scrollGlance{1};
 /// How long a picture waits for the screen to come to rest.
-constexpr std::chrono::milliseconds kComingToRest{600};
+constexpr std::chrono::milliseconds comingToRest{600};
 
 void letTimePass(std::chrono::milliseconds time) {
     QEventLoop loop;
@@ -74,7 +74,7 @@ QJsonObject PlayRunner::run(const PlayScript& play) {
         }
     }
     // What the last step set off, such as the action of a dialog that still fades, belongs to the play.
-    wait(kPatience, [this] { return settled(); });
+    wait(patience, [this] { return settled(); });
     QJsonObject result{{QStringLiteral("name"), play.name},
                        {QStringLiteral("ok"), ok},
                        {QStringLiteral("steps"), reports},
@@ -87,7 +87,7 @@ QJsonObject PlayRunner::run(const PlayScript& play) {
         result[QStringLiteral("handmade")] = true;
     }
     host_.close();
-    wait(kPatience, [this] { return settled(); });
+    wait(patience, [this] { return settled(); });
     return result;
 }
 
@@ -116,13 +116,13 @@ QString PlayRunner::perform(const steps::Language& step) {
 
 QString PlayRunner::perform(const steps::Close&) {
     host_.close();
-    return wait(kPatience, [this] { return settled(); }) ? QString()
-                                                         : QStringLiteral("the module did not close");
+    return wait(patience, [this] { return settled(); }) ? QString()
+                                                        : QStringLiteral("the module did not close");
 }
 
 QString PlayRunner::perform(const steps::Tap& step) {
     const bool tapped = wait(
-        kPatience,
+        patience,
         [&] {
             if (tapHere(step)) {
                 return true;
@@ -130,7 +130,7 @@ QString PlayRunner::perform(const steps::Tap& step) {
             scrollTowards(step.name);
             return false;
         },
-        kScrollGlance);
+        scrollGlance);
     return tapped ? QString() : QStringLiteral("nothing to tap is called \"%1\"").arg(step.name);
 }
 
@@ -141,13 +141,13 @@ QString PlayRunner::perform(const steps::Expect& step) {
 }
 
 QString PlayRunner::perform(const steps::Absent& step) {
-    return wait(kPatience, [&] { return settled() && !reader_.shows(step.text); })
+    return wait(patience, [&] { return settled() && !reader_.shows(step.text); })
                ? QString()
                : QStringLiteral("still on the screen: \"%1\"").arg(step.text);
 }
 
 QString PlayRunner::perform(const steps::Title& step) {
-    return wait(kPatience, [&] { return settled() && title() == step.text; })
+    return wait(patience, [&] { return settled() && title() == step.text; })
                ? QString()
                : QStringLiteral("the title is \"%1\"").arg(title());
 }
@@ -164,7 +164,7 @@ QString PlayRunner::perform(const steps::Scroll& step) {
     // Rows that come into view on the way change where the end is, so it counts once it has stayed the same.
     // Where all of a page is in view there is nowhere to go.
     int stays = 0;
-    const bool arrived = wait(kPatience, [&] {
+    const bool arrived = wait(patience, [&] {
         QQuickItem* page = reader_.scrollable();
         stays = settled() && (!page || Scroller(*page).toEdge(step.toEnd)) ? stays + 1 : 0;
         return stays > 2;
@@ -173,7 +173,7 @@ QString PlayRunner::perform(const steps::Scroll& step) {
 }
 
 QString PlayRunner::perform(const steps::Back&) {
-    const bool went = wait(kPatience, [this] {
+    const bool went = wait(patience, [this] {
         const auto* back = host_.phone()->findChild<QQuickItem*>(QStringLiteral("hostBack"));
         if (!back || !settled() || !reader_.reaches(*back, middle(*back))) {
             return false;
@@ -186,10 +186,10 @@ QString PlayRunner::perform(const steps::Back&) {
 
 QString PlayRunner::perform(const steps::Shot& step) {
     const QString file = shots_ + u'/' + step.name + QStringLiteral(".png");
-    wait(kPatience, [this] { return settled(); });
+    wait(patience, [this] { return settled(); });
     // Something may still be on its way, as a section that opens is, or for ever, as the ring is.
     QImage picture;
-    wait(kComingToRest, [&] {
+    wait(comingToRest, [&] {
         const QImage before = std::exchange(picture, host_.window()->grabWindow());
         return picture == before;
     });
@@ -201,12 +201,12 @@ QString PlayRunner::perform(const steps::Network& step) {
     return {};
 }
 
-bool PlayRunner::wait(std::chrono::milliseconds patience, const std::function<bool()>& done,
+bool PlayRunner::wait(std::chrono::milliseconds longest, const std::function<bool()>& done,
                       std::chrono::milliseconds glance) {
     QElapsedTimer timer;
     timer.start();
     while (!done()) {
-        if (std::chrono::milliseconds(timer.elapsed()) > patience) {
+        if (std::chrono::milliseconds(timer.elapsed()) > longest) {
             return false;
         }
         letTimePass(glance);
@@ -215,7 +215,7 @@ bool PlayRunner::wait(std::chrono::milliseconds patience, const std::function<bo
 }
 
 QString PlayRunner::answerDialog(const QString& part, QPointF (*where)(const QQuickItem&), Device by) {
-    const bool answered = wait(kPatience, [&] {
+    const bool answered = wait(patience, [&] {
         const QQuickItem* item = settled() ? reader_.named(part) : nullptr;
         if (!item || !reader_.reaches(*item, where(*item))) {
             return false;

@@ -43,8 +43,8 @@ private:
     [[nodiscard]] QString perform(const steps::Shot& step);
     [[nodiscard]] QString perform(const steps::Network& step);
 
-    /// Lets time pass until `done`, at the most `patience`, looking every `glance`; whether it came to that.
-    bool wait(std::chrono::milliseconds patience, const std::function<bool()>& done,
+    /// Lets time pass until `done`, at the most `longest`, looking every `glance`; whether it came to that.
+    bool wait(std::chrono::milliseconds longest, const std::function<bool()>& done,
               std::chrono::milliseconds glance = std::chrono::milliseconds(20));
     /// Taps a part of the dialog, or presses Escape where the key is to do it; what is missing, as above.
     [[nodiscard]] QString answerDialog(const QString& part, QPointF (*where)(const QQuickItem&), Device by);

@@ -98,7 +98,7 @@ Parsed parseExpect(const Words& words) {
     if (words.isEmpty() || !values) {
         return std::unexpected(QStringLiteral("expect takes a text, and within=SECONDS if wanted"));
     }
-    auto within = kPatience;
+    auto within = patience;
     if (values->contains(QStringLiteral("within"))) {
         bool ok = false;
         const double seconds = values->value(QStringLiteral("within")).toDouble(&ok);

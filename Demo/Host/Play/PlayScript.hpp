@@ -79,7 +79,7 @@ struct PlayScript {
 };
 
 /// How long a step waits for what it needs, unless it says otherwise.
-inline constexpr std::chrono::milliseconds kPatience{10'000};
+inline constexpr std::chrono::milliseconds patience{10'000};
 
 /// Reads a play, one step a line; blank lines and lines that begin with "#" say nothing, and values with
 /// blanks stand in double quotes, in which a backslash takes the next character as it is. The error is one

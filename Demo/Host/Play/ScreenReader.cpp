@@ -14,7 +14,7 @@ namespace demo {
 namespace {
 
 /// Elements whose middles are closer than this stand on one line.
-constexpr double kLine = 8;
+constexpr double line = 8;
 
 // Maps with equal keys keep the order in which these came, and unlike a stable sort need no temporary buffer,
 // which libstdc++ 12 takes from a function that Clang warns of.
@@ -131,7 +131,7 @@ QList<ScreenElement> ScreenReader::elements() const {
         if (!name.isEmpty()) {
             const QPointF center = sceneRect(*item).center();
             inReadingOrder.emplace(
-                std::pair(std::floor(center.y() / kLine), center.x()),
+                std::pair(std::floor(center.y() / line), center.x()),
                 ScreenElement{item, name, center, reaches(*item, center), item->isEnabled()});
         }
     }

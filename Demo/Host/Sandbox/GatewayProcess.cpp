@@ -6,8 +6,8 @@ namespace demo {
 
 namespace {
 
-constexpr int kStartMilliseconds = 10'000;
-constexpr int kStopMilliseconds = 3'000;
+constexpr int startMilliseconds = 10'000;
+constexpr int stopMilliseconds = 3'000;
 
 QString firstLine(const QByteArray& output) {
     return QString::fromUtf8(output).trimmed().section(u'\n', 0, 0);
@@ -18,9 +18,9 @@ QString firstLine(const QByteArray& output) {
 GatewayProcess::~GatewayProcess() {
     if (process_.state() != QProcess::NotRunning) {
         process_.closeWriteChannel();
-        if (!process_.waitForFinished(kStopMilliseconds)) {
+        if (!process_.waitForFinished(stopMilliseconds)) {
             process_.kill();
-            process_.waitForFinished(kStopMilliseconds);
+            process_.waitForFinished(stopMilliseconds);
         }
     }
 }
@@ -32,19 +32,19 @@ std::expected<GatewayAddress, QString> GatewayProcess::start(const Settings& set
         arguments << QStringLiteral("--reset");
     }
     process_.start(settings.program, arguments);
-    if (!process_.waitForStarted(kStartMilliseconds)) {
+    if (!process_.waitForStarted(startMilliseconds)) {
         return std::unexpected(QStringLiteral("cannot start the gateway: ") + process_.errorString());
     }
     static const QRegularExpression listening(QStringLiteral("listening on ([0-9.]+):([0-9]+)"));
     QByteArray said;
-    while (process_.waitForReadyRead(kStartMilliseconds)) {
+    while (process_.waitForReadyRead(startMilliseconds)) {
         said += process_.readAllStandardOutput();
         if (const auto match = listening.match(QString::fromUtf8(said)); match.hasMatch()) {
             return GatewayAddress{match.captured(1), match.captured(2).toUShort(),
                                   settings.dataFolder + QStringLiteral("/ca.pem")};
         }
     }
-    process_.waitForFinished(kStopMilliseconds);
+    process_.waitForFinished(stopMilliseconds);
     const QString complaint = firstLine(process_.readAllStandardError());
     return std::unexpected(complaint.isEmpty() ? QStringLiteral("the gateway does not answer") : complaint);
 }
@@ -56,7 +56,7 @@ void GatewayProcess::whenEnded(const QObject& context, const std::function<void(
 QByteArray GatewayProcess::seededOrders(const Settings& settings) {
     QProcess list;
     list.start(settings.program, {QStringLiteral("--data"), settings.dataFolder, QStringLiteral("--list")});
-    list.waitForFinished(kStartMilliseconds);
+    list.waitForFinished(startMilliseconds);
     return list.readAllStandardOutput();
 }
 

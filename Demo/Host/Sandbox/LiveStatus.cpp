@@ -6,7 +6,7 @@ namespace demo {
 
 namespace {
 
-constexpr qsizetype kCartStart = 8;
+constexpr qsizetype cartStart = 8;
 
 QString countryName(const QString& code) {
     const QLocale::Territory territory = QLocale::codeToTerritory(code);
@@ -42,7 +42,7 @@ void LiveStatus::gatewayElsewhere(const GatewayAddress& address) {
 void LiveStatus::opened(const quillet::CartForConsultant& cart, quillet::Environment environment) {
     order_ = QStringLiteral("Consultant %1 · %2 · cart %3")
                  .arg(QString::number(cart.consultantId), countryName(QString::fromStdString(cart.country)),
-                      QString::fromStdString(cart.uuid).left(kCartStart));
+                      QString::fromStdString(cart.uuid).left(cartStart));
     environment_ = environmentName(environment);
     Q_EMIT changed();
 }

@@ -13,7 +13,7 @@ namespace quillet {
 namespace {
 
 /// The status with which the back end says that it read the order and could add no product of it.
-constexpr std::int64_t kUnprocessableEntity = 422;
+constexpr std::int64_t unprocessableEntity = 422;
 
 } // namespace
 
@@ -64,8 +64,8 @@ void CheckoutViewModel::showFeedback(const CheckoutResponse& response, std::int6
     case CheckoutResponseMessage::cartSubmittedPartialSuccess:
         return show(&CheckoutRoutering::showProductsPartiallyAdded);
     case CheckoutResponseMessage::cartSubmittedError:
-        return httpStatusCode == kUnprocessableEntity ? show(&CheckoutRoutering::showNoProductAdded)
-                                                      : showGenericError();
+        return httpStatusCode == unprocessableEntity ? show(&CheckoutRoutering::showNoProductAdded)
+                                                     : showGenericError();
     }
 }
 

@@ -11,7 +11,7 @@ namespace quillet {
 
 namespace {
 
-constexpr std::chrono::milliseconds kMove{kel::KelMotion::panel};
+constexpr std::chrono::milliseconds moveDuration{kel::KelMotion::panel};
 
 double easeOut(double progress) {
     const double left = 1 - progress;
@@ -190,7 +190,7 @@ void ShippingStatusProductsView::move(Section& section) {
     const QPointer<ShippingStatusProductsView> self(this);
     const int number = ++moves_;
     viewAnimating_->animate(
-        kMove,
+        moveDuration,
         [self, number, from = reveal_, to = section.panel.expanded ? 1.0 : 0.0](double progress) {
             if (self && self->moving_ && self->moves_ == number) {
                 self->setReveal(from + (to - from) * easeOut(progress));

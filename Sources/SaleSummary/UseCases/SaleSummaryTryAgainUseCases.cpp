@@ -13,7 +13,7 @@ namespace quillet {
 namespace {
 
 /// The platform's code for "not connected to the internet".
-constexpr int kNotConnectedToInternet = -1009;
+constexpr int notConnectedToInternet = -1009;
 
 /// Sends the error's screen view, screen or no screen, and puts a try-again view on the screen if there is
 /// one.
@@ -56,7 +56,7 @@ void SaleSummaryTimeoutUseCase::showContent() {
 
 bool SaleSummaryNoConnectionUseCase::canShowContent() const {
     return associateResult_ && associateResult_->error &&
-           platformErrorCode(*associateResult_->error) == kNotConnectedToInternet;
+           platformErrorCode(*associateResult_->error) == notConnectedToInternet;
 }
 
 void SaleSummaryNoConnectionUseCase::showContent() {

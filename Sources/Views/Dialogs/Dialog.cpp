@@ -10,7 +10,7 @@
 namespace quillet {
 
 namespace {
-constexpr std::chrono::milliseconds kFade{700};
+constexpr std::chrono::milliseconds fadeDuration{700};
 }
 
 Dialog::Dialog(const DialogPresenter& presenter, std::shared_ptr<ViewAnimating> viewAnimating,
@@ -33,7 +33,7 @@ QString Dialog::closeText() const {
 void Dialog::dismiss(std::function<void()> completion) {
     const QPointer<Dialog> self(this);
     viewAnimating_->animate(
-        kFade,
+        fadeDuration,
         [self, from = alpha_](double progress) {
             if (self) {
                 self->setAlpha(std::min(self->alpha_, from * (1 - progress)));

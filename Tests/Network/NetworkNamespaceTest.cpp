@@ -1,5 +1,5 @@
-#include "Platform/Http/URLSession.hpp"
 #include "Support/NetworkNamespace.hpp"
+#include "Platform/Http/URLSession.hpp"
 #include "Support/SandboxedSession.hpp"
 
 #include <gtest/gtest.h>
