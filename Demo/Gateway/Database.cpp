@@ -50,12 +50,12 @@ std::string Statement::text(int column) const {
                 : "";
 }
 
-void Statement::bind(int place, std::int64_t value) {
-    check(sqlite3_bind_int64(statement_.get(), place, value), sqlite3_db_handle(statement_.get()));
+void Statement::bind(int index, std::int64_t value) {
+    check(sqlite3_bind_int64(statement_.get(), index, value), sqlite3_db_handle(statement_.get()));
 }
 
-void Statement::bind(int place, std::string_view value) {
-    check(sqlite3_bind_text(statement_.get(), place, value.data(), static_cast<int>(value.size()),
+void Statement::bind(int index, std::string_view value) {
+    check(sqlite3_bind_text(statement_.get(), index, value.data(), static_cast<int>(value.size()),
                             SQLITE_TRANSIENT),
           sqlite3_db_handle(statement_.get()));
 }

@@ -34,16 +34,16 @@ public:
     [[nodiscard]] std::int64_t integer(int column) const;
     [[nodiscard]] std::string text(int column) const;
 
-    void bind(int place, std::int64_t value);
-    void bind(int place, std::string_view value);
+    void bind(int index, std::int64_t value);
+    void bind(int index, std::string_view value);
     template <std::integral Value>
-    void bind(int place, Value value) {
-        bind(place, static_cast<std::int64_t>(value));
+    void bind(int index, Value value) {
+        bind(index, static_cast<std::int64_t>(value));
     }
     template <class Value>
-    void bind(int place, const std::optional<Value>& value) {
+    void bind(int index, const std::optional<Value>& value) {
         if (value) {
-            bind(place, *value);
+            bind(index, *value);
         }
     }
 
@@ -64,13 +64,13 @@ public:
     /// Runs a text of several statements that give no rows.
     void script(const std::string& sql);
 
-    /// Prepares `sql` with `values` in place of its question marks.
+    /// Prepares `sql` with `values` in index of its question marks.
     template <class... Values>
     [[nodiscard]] Statement query(std::string_view sql, const Values&... values) {
         Statement statement(database_.get(), sql);
         // Without values it is never read.
-        [[maybe_unused]] int place = 0;
-        (statement.bind(++place, values), ...);
+        [[maybe_unused]] int index = 0;
+        (statement.bind(++index, values), ...);
         return statement;
     }
 

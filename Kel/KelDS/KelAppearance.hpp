@@ -7,9 +7,8 @@
 
 namespace kel {
 
-/// How the person at the device wants screens to look and move; one for the process. The host sets it, before
-/// it shows anything or at any time later, from what its platform tells of the system's settings. Main thread
-/// only.
+/// The user's appearance settings: theme and reduced motion; one for the process. The host sets them from the
+/// system's settings, at start or later. Main thread only.
 class KelAppearance : public QObject {
     Q_OBJECT
     QML_ANONYMOUS
@@ -23,8 +22,7 @@ public:
     }
     void setTheme(KelTheme theme);
 
-    /// Whether things may move. With reduced motion only opacity does, and what tells by
-    /// its motion that something goes on.
+    /// Whether motion is reduced. Then only opacity is animated, and progress indicators.
     [[nodiscard]] bool hasReducedMotion() const { return reducedMotion_; }
     void setReducedMotion(bool reduced);
 

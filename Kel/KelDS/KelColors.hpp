@@ -46,11 +46,11 @@ public:
     [[nodiscard]] static QColor link() { return palette().link; }
     [[nodiscard]] static QColor hairline() { return withAlpha(highEmphasis(), palette().hairline); }
 
-    /// On a dark ground a shadow cannot be seen: there a lighter surface alone lifts a card.
+    /// Shadows are invisible on a dark background, where a lighter surface sets a card off.
     [[nodiscard]] static bool hasShadows() { return KelAppearance::current().theme() == KelTheme::light; }
 
     [[nodiscard]] Q_INVOKABLE static QColor withAlpha(QColor color, double alpha);
-    /// The pale ground of a strip or disc in the given colour.
+    /// The pale background of a strip or disc in the given colour.
     [[nodiscard]] Q_INVOKABLE static QColor tint(const QColor& color) {
         return withAlpha(color, palette().tint);
     }

@@ -18,7 +18,7 @@ public:
     [[nodiscard]] static QString family() { return iconFontFamily(); }
     [[nodiscard]] Q_INVOKABLE static QString glyph(int number) { return getIcon(number); }
 
-    /// Numbers by name, so that QML names an icon and no number stands in a screen.
+    /// Names for the catalogue numbers, so that QML needs no literal numbers.
     enum Number {
         CheckCircle = int(KelIconNumber::checkCircle),
         Error = int(KelIconNumber::error),

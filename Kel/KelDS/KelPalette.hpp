@@ -11,7 +11,7 @@ struct KelPalette {
     QRgb primary, onPrimary, background, surface;
     QRgb highEmphasis, mediumEmphasis, lowEmphasis;
     QRgb success, alert, warning, link;
-    /// What a solid tag writes in, and how strong hairlines and tints are drawn on this theme's ground.
+    /// Text colour of tags, and the opacity of hairlines and tints on this theme's background.
     QRgb onTag;
     double hairline, tint;
 };

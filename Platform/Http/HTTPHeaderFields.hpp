@@ -16,8 +16,8 @@ struct HTTPHeaderField {
     bool operator==(const HTTPHeaderField&) const = default;
 };
 
-/// Header fields in the order in which they were added. Nothing can be added that would break the header
-/// apart.
+/// Header fields in the order in which they were added. Values that would break the header syntax are
+/// rejected.
 class HTTPHeaderFields {
 public:
     /// Adds a value; a second one for the same name, whatever its letter case, is joined to the first with a

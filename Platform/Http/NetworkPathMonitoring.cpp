@@ -57,8 +57,8 @@ bool SystemNetworkPathMonitor::isSatisfied(const std::string&, bool isMapped) co
 
 #else
 
-// Windows is not asked yet. A device without a network is then told as a host that cannot be found. What
-// would answer is GetNetworkConnectivityHint.
+// Not implemented for Windows, where GetNetworkConnectivityHint would tell. A device without a network is
+// reported there as a host that cannot be found.
 bool SystemNetworkPathMonitor::isSatisfied(const std::string&, bool) const {
     return true;
 }

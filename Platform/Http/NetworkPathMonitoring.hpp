@@ -4,8 +4,8 @@
 
 namespace quillet::platform {
 
-/// Knows whether there is a network. Called on the threads of sessions, when a host's name could not be
-/// resolved or no connection came about; must answer at once and may be called by several threads at a time.
+/// Tells whether the device has a network. Called on the sessions' threads, possibly concurrently, after a
+/// name could not be resolved or a connection not be made. Must not block.
 class NetworkPathMonitoring {
 public:
     virtual ~NetworkPathMonitoring() = default;
@@ -15,8 +15,8 @@ public:
     [[nodiscard]] virtual bool isSatisfied(const std::string& host, bool isMapped) const = 0;
 };
 
-/// Asks the system's routing tables: there is a network if they know a way to an address far away. A system
-/// that does not tell is taken for one with a network. The network is never to blame for a mapped host.
+/// Asks the system's routing tables: there is a network if they have a route to a remote address. If the
+/// system does not tell, a network is assumed. A mapped host never counts as being without a network.
 class SystemNetworkPathMonitor final : public NetworkPathMonitoring {
 public:
     [[nodiscard]] bool isSatisfied(const std::string& host, bool isMapped) const override;

@@ -5,7 +5,7 @@
 
 namespace quillet::platform {
 
-/// Is told that a clock was set. May be called on any thread; returns at once.
+/// Is notified when a clock was set. May be called on any thread; returns at once.
 class SessionClockListening {
 public:
     virtual ~SessionClockListening() = default;
@@ -13,21 +13,21 @@ public:
     virtual void clockDidJump() = 0;
 };
 
-/// The clock by which a session keeps its calls' time-outs. Used from any thread, for as long as a session
-/// that was made with it has calls.
+/// The clock that a session measures its calls' time-outs with. Used on any thread while such a session has
+/// calls.
 class SessionClock {
 public:
     virtual ~SessionClock() = default;
 
-    /// Never goes back. Its beginning does not matter.
+    /// Monotonic, from an arbitrary origin.
     [[nodiscard]] virtual std::chrono::steady_clock::time_point now() const = 0;
 
-    /// A clock that can be set tells its listeners each time that it was; one that only runs does nothing
-    /// here. The listener is not owned.
+    /// A clock that can be set notifies its listeners; a clock that cannot does nothing here. The listener is
+    /// not owned.
     virtual void addListener(std::weak_ptr<SessionClockListening> listener) = 0;
 };
 
-/// The system's own clock, which nobody sets.
+/// std::chrono::steady_clock.
 class SystemSessionClock final : public SessionClock {
 public:
     [[nodiscard]] std::chrono::steady_clock::time_point now() const override;

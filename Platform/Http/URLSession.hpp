@@ -7,13 +7,13 @@ namespace quillet::platform {
 
 class SessionOwner;
 
-/// Connections of its own and one thread of its own, which begins with the first call and ends by itself when
-/// no call is left and session and tasks are gone; nobody ever waits for it. May be used from any thread.
+/// An HTTP session with its own connections and one background thread. The thread starts with the first call.
+/// It ends by itself once all calls have ended and the session and its tasks are destroyed; nothing joins it.
+/// May be used from any thread.
 ///
-/// A call has the request's time-out from its start to its last byte. Nothing but https is spoken,
-/// certificates are always verified, redirects are delivered and not followed, and a request other than a GET
-/// goes out at most once. A failed call gives its error and nothing else: no part of an answer is ever
-/// delivered as a whole one.
+/// The request's time-out covers the whole call, from its start to the last byte. Only https is spoken and
+/// certificates are always verified. Redirects are delivered, not followed. A request other than a GET is
+/// sent at most once. A failed call delivers an error and no part of a response.
 class URLSession {
 public:
     explicit URLSession(

@@ -15,7 +15,7 @@ struct SharedConfiguration {
     URLSessionConfiguration value;
 };
 
-// Never torn down: a session's thread may still ask while the program exits.
+// Never destroyed, because a session's thread may read it during exit.
 SharedConfiguration& sharedConfiguration() {
     static auto& shared = *new SharedConfiguration;
     return shared;

@@ -19,16 +19,15 @@ struct URLSessionExchangeEnd {
     std::chrono::milliseconds duration{0};
 };
 
-/// Watches the traffic of all sessions that were made with it, for a developer to look at. The request that
-/// it is given holds everything that is sent, also the consultant's token: take care where that is shown or
-/// kept. Called on the sessions' threads, by several at a time; must return soon. An exception that it throws
-/// is dropped.
+/// Observes the traffic of all sessions whose configuration holds it, for diagnostics. The request includes
+/// the consultant's token, so it must not be shown or stored carelessly. Called on the sessions' threads,
+/// possibly concurrently; must return quickly. Exceptions that it throws are dropped.
 class URLSessionObserving {
 public:
     virtual ~URLSessionObserving() = default;
 
-    /// A call begins, once: its request is about to go to the network. The number is the exchange's own in
-    /// this process.
+    /// Called once for each call, before its request is sent. The number identifies the exchange in this
+    /// process.
     virtual void willSend(std::uint64_t exchange, const URLRequest& request) = 0;
 
     /// Called once for each started call, just before its completion.

@@ -31,7 +31,7 @@ bool Cursor::skipScalar() {
 }
 
 bool Cursor::skip() {
-    // A loop with a stack of bits, one for each level: no body can make it recurse.
+    // Iterative, with one bit for each level of nesting, so that no body can exhaust the stack.
     std::bitset<maximumDepth + 1> objects;
     const int outside = depth_;
     const auto inObject = [&] { return objects.test(static_cast<std::size_t>(depth_)); };

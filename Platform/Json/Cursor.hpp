@@ -10,9 +10,8 @@
 
 namespace quillet::platform::json {
 
-/// Walks the tokens of a body and checks, for all that it passes, what the structural index leaves unchecked.
-/// Where the body turns out not to be JSON it becomes and stays `invalid`; what it gives from then on means
-/// nothing.
+/// Iterates over the tokens of a body and checks the syntax that the structural index does not check. If the
+/// body is not JSON it becomes `invalid` and stays so; its results are then unspecified.
 class Cursor {
 public:
     /// The deepest nesting of arrays and objects that a body may have.
@@ -25,17 +24,16 @@ public:
     [[nodiscard]] bool invalid() const { return invalid_; }
     [[nodiscard]] bool atEnd() const { return token() == end_; }
 
-    /// The first byte of the next token; NUL, which begins none, at the end.
+    /// The first byte of the next token; NUL at the end.
     [[nodiscard]] char peek() const { return body_[*next_]; }
     [[nodiscard]] const char* token() const { return body_ + *next_; }
     [[nodiscard]] const char* followingToken() const { return body_ + next_[1]; }
     [[nodiscard]] bool hasRest(std::ptrdiff_t length) const { return end_ - token() >= length; }
     [[nodiscard]] std::string_view rest() const { return {token(), end_}; }
 
-    /// Passes the token if it is the punctuation `c`.
+    /// Moves past the token if it is the punctuation character `c`.
     bool take(char c) {
-        // A branch that is guessed right lets the processor run ahead; adding the comparison's result would
-        // not.
+        // A predicted branch allows speculative execution; adding the comparison's result would not.
         if (peek() == c) [[likely]] {
             ++next_;
             return true;
@@ -43,13 +41,13 @@ public:
         return false;
     }
 
-    /// Passes a number or a literal that was read up to `end`, which the token must not go beyond.
+    /// Moves past a number or literal that was read up to `end`, and checks that the token ends there.
     bool passScalar(const char* end) {
         ++next_;
         return end == token() || endsScalar(end) || invalidate();
     }
 
-    /// Passes a number that was read right up to the following token. Always true.
+    /// Moves past a number that ends where the following token begins. Always true.
     bool passToken() {
         ++next_;
         return true;
@@ -72,19 +70,19 @@ public:
         return false;
     }
 
-    /// Passes a string, which must be at the token, and gives the part between its quotation marks. Its
-    /// escapes are the caller's to check.
+    /// Moves past a string, which must be at the token, and returns its raw content. The caller has to check
+    /// its escapes.
     std::string_view passString() {
         const char* const first = token() + 1;
         const char* last = body_ + *++next_ - 1;
-        // What follows a string's end up to the next token can only be white space.
+        // Only white space can stand between a string's end and the next token.
         while (*last != '"') {
             --last;
         }
         return {first, static_cast<std::size_t>(last - first)};
     }
 
-    /// Passes `word`, which stands at the token or makes the body invalid.
+    /// Moves past the literal `word`; any other token makes the body invalid.
     template <std::size_t size>
     bool passLiteral(const char (&word)[size]) {
         constexpr std::size_t length = size - 1;
@@ -92,19 +90,18 @@ public:
         return there ? passScalar(token() + length) : invalidate();
     }
 
-    /// Passes the opening of an array or object.
+    /// Moves past the opening bracket of an array or object.
     bool open() {
         ++next_;
         return ++depth_ <= maximumDepth || invalidate();
     }
 
-    /// After `open`, and after each element or member: whether another one follows. Passes the comma or the
-    /// closing `bracket`.
+    /// Call them after `open` and after each element or member. They return whether another one follows, and
+    /// move past the comma or the closing `bracket`.
     bool first(char bracket) { return !takeClosing(bracket); }
     bool next(char bracket) { return take(',') || (!takeClosing(bracket) && invalidate()); }
 
-    /// Passes a member's key and colon if the key stands there exactly as in `quoted`, quotation marks
-    /// included.
+    /// Moves past a key and its colon if the key is spelled exactly as `quoted`, quotation marks included.
     template <std::size_t size>
     bool takeKey(const std::array<char, size>& quoted) {
         if (!hasRest(size) || std::memcmp(token(), quoted.data(), size) != 0) {
@@ -116,7 +113,7 @@ public:
 
     bool passColon() { return take(':') || invalidate(); }
 
-    /// Passes a whole value and checks all of it.
+    /// Skips a whole value and checks its syntax.
     bool skip();
 
     /// Makes the body invalid. Always false.

@@ -9,8 +9,8 @@ namespace quillet::platform {
 
 namespace {
 
-/// A whole number of 128 bits, with the few operations on decimal digits that are needed here. Not every
-/// compiler has such a type: 32-bit targets lack it.
+/// An unsigned 128-bit integer with the operations on decimal digits that are needed here. Compilers for
+/// 32-bit targets have no such type.
 struct Coefficient {
     std::uint64_t low = 0;
     std::uint64_t high = 0;
@@ -18,8 +18,7 @@ struct Coefficient {
     bool operator==(const Coefficient&) const = default;
 
     void appendDigit(unsigned digit) {
-        // Times ten, in two steps whose carries are easy to see: the low half is multiplied 32 bits at a
-        // time.
+        // Multiplies by ten; the low half is multiplied 32 bits at a time, which leaves room for the carries.
         const std::uint64_t lowest = (low & halfMask) * 10 + digit;
         const std::uint64_t middle = (low >> 32) * 10 + (lowest >> 32);
         low = (middle << 32) | (lowest & halfMask);
@@ -42,7 +41,7 @@ private:
     static constexpr std::uint64_t halfMask = 0xffff'ffff;
 };
 
-/// Gathers a number's digits, of which it keeps the most significant ones.
+/// Accumulates a number's digits and keeps the most significant ones.
 class DigitSum {
 public:
     void add(std::string_view digits) {
@@ -147,7 +146,7 @@ std::string Decimal::toString() const {
         digits.append(static_cast<std::size_t>(exponent_), '0');
     } else {
         const auto fraction = static_cast<std::size_t>(-exponent_);
-        // One digit at least stands before the point.
+        // At least one digit is written before the point.
         if (digits.size() <= fraction) {
             digits.insert(0, fraction + 1 - digits.size(), '0');
         }

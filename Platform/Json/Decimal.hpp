@@ -36,7 +36,7 @@ public:
     /// The number in plain notation without trailing zeros ("10.1", "-0.05", "300"). Nothing is rounded.
     [[nodiscard]] std::string toString() const;
 
-    /// The value of a scanned number, rounded likewise; `exact` becomes whether nothing was lost.
+    /// The value of a scanned number, rounded likewise; sets `exact` to whether no digit was lost.
     [[nodiscard]] static std::optional<Decimal> fromToken(const json::NumberToken& number, bool& exact);
 
     /// The absolute value if it is whole and fits.

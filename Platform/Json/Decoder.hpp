@@ -10,13 +10,13 @@
 
 namespace quillet::platform::json {
 
-/// Decodes a whole body into a `T`: a record with a table, or a std::optional or std::vector of one. All of
-/// the body is checked, also what no field reads. May be called on any thread; recurses no deeper than
-/// records nest.
+/// Decodes a whole body into a `T`: a record with a field table, or a std::optional or std::vector of one.
+/// The whole body is validated, including ignored members. May be called on any thread. The recursion depth
+/// is that of the record types.
 ///
-/// Of several faults the one reported is: that the body is not JSON; else, in each record, that of the field
-/// first in its table; in each list, that of the first element. Where a key stands twice in an object, its
-/// first value counts.
+/// If there are several errors, invalid JSON is reported first; else, in each record, the error of the first
+/// field in its table, and in each list that of the first element. If an object has a key twice, the first
+/// value counts.
 template <typename T>
 [[nodiscard]] std::expected<T, DecodingError> decode(const std::string& body) {
     const auto index = StructuralIndex::of(body);

@@ -4,8 +4,8 @@
 
 namespace quillet::platform {
 
-/// Why a body could not be decoded. Tells where in the body and what was expected there, and nothing of what
-/// the body held, so that it may be written anywhere.
+/// Why a body could not be decoded: where in the body, and what was expected there. It holds nothing of the
+/// body's content, so it may be logged.
 struct DecodingError {
     enum class Reason {
         /// The body is not one complete JSON value in UTF-8, or is nested too deep; `path` and `expected` are
@@ -18,8 +18,7 @@ struct DecodingError {
     };
 
     Reason reason = Reason::invalidJson;
-    /// The way to the value from the top of the body, such as carts[3].regularItems[0].amount; empty for the
-    /// body itself.
+    /// Path of the value, such as carts[3].regularItems[0].amount; empty for the body itself.
     std::string path;
     /// What was expected at `path`, such as "unsigned integer".
     std::string expected;

@@ -4,10 +4,9 @@
 
 namespace quillet::platform {
 
-/// A value that cannot be written as asked: text that is not UTF-8 into JSON, or text with a line break into
-/// a header.
+/// A value that cannot be encoded: text that is not UTF-8 in JSON, or text with a line break in a header.
 struct EncodingError {
-    /// Which value, never what it held: the way to it in the JSON ("consultant.id"), or the header's name.
+    /// Path of the value in the JSON ("consultant.id") or the header's name; never the value itself.
     std::string codingPath;
 
     bool operator==(const EncodingError&) const = default;

@@ -26,7 +26,7 @@ concept HasTextForm = requires {
     TextForm<T>::expected;
 };
 
-/// What a decoding error says was expected where a `T` should have been.
+/// The name of `T` in decoding errors.
 template <typename T>
 constexpr std::string_view expectedOf() {
     if constexpr (HasTextForm<T>) {

@@ -21,8 +21,8 @@ Field(std::string_view, Value Record::*) -> Field<Record, Value>;
 
 } // namespace json
 
-/// A record's table: a std::tuple of json::Field in the order in which the fields are read. Specialising it
-/// beside a record makes the record decodable.
+/// A record's field table: a std::tuple of json::Field in the order in which the fields are read. Specialise
+/// it beside a record to make the record decodable.
 template <typename Record>
 inline constexpr auto jsonFields = std::tuple{};
 

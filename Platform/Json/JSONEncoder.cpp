@@ -20,8 +20,8 @@ Written write(std::string& json, const std::string& text, const std::string& pat
     if (!isUtf8(text)) {
         return std::unexpected(EncodingError{path});
     }
-    // The library writes the texts only. A whole tree of its values allocates when it is destroyed, where
-    // nothing can be done about an allocation that fails.
+    // nlohmann::json only writes the texts here. Destroying a tree of its values allocates memory, and a
+    // failure there terminates the program.
     for (const char c : nlohmann::json(text).dump()) {
         if (c == '/') {
             json += '\\';

@@ -15,7 +15,7 @@ namespace quillet::platform {
 /// any thread.
 [[nodiscard]] std::expected<std::string, EncodingError> encodeJSON(const JSONValue& value);
 
-/// A record that has a table of JSON fields, as a value to be written by that table.
+/// Converts a record to a JSON value by its field table.
 template <typename Record>
 requires(std::tuple_size_v<std::remove_cvref_t<decltype(jsonFields<Record>)>> > 0) [[nodiscard]] JSONValue
     jsonValue(const Record& record) {

@@ -29,8 +29,8 @@ public:
 private:
     explicit JSONValue(Value value) : value_(std::make_shared<const Value>(std::move(value))) {}
 
-    // A list in braces is copied, and libstdc++ 12 mishandles a variant of these types whose copying fails
-    // for want of memory.
+    // Shared, because initializer lists copy their elements, and libstdc++ 12 has undefined behaviour if
+    // copying such a variant throws.
     std::shared_ptr<const Value> value_;
 };
 

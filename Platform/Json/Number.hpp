@@ -17,8 +17,8 @@ namespace quillet::platform::json {
 /// range.
 [[nodiscard]] std::optional<Decimal> toDecimal(const NumberToken& number);
 
-/// The readers below take the short plain numbers that nearly all are, from text that ends right where the
-/// next token begins. They give false for any other text, which then is `scanNumber`'s.
+/// Fast paths for short plain numbers that end where the next token begins, which nearly all do. They return
+/// false for any other text, which `scanNumber` then reads.
 
 [[nodiscard]] inline bool readPlainUnsigned(const char* text, const char* end, std::uint64_t& value) {
     // Nineteen digits always fit.

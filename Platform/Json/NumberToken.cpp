@@ -6,7 +6,7 @@ namespace quillet::platform::json {
 
 namespace {
 
-/// The run of digits at the start of `rest`, which is moved past it.
+/// Takes the digits at the start of `rest`.
 std::string_view takeDigits(std::string_view& rest) {
     const std::string_view digits = rest.substr(
         0, static_cast<std::size_t>(
@@ -22,8 +22,8 @@ bool take(std::string_view& rest, char c) {
 }
 
 std::int64_t boundedExponent(std::string_view digits, bool negative) {
-    // A body is far shorter than this, so that no number of digits before it brings such an exponent back
-    // into range.
+    // Far more than a body's length, so that no number of leading digits can bring such an exponent back into
+    // range.
     constexpr std::int64_t bound = std::int64_t{1} << 40;
     std::int64_t exponent = 0;
     for (const char digit : digits) {

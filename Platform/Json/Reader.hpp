@@ -14,14 +14,14 @@
 
 namespace quillet::platform::json {
 
-/// Reads single values. Each `read` passes the whole value at the cursor, also one that it cannot use. It is
-/// false if it could not use the value, and then the reader holds the error, or if the body is not JSON, and
-/// then nothing more can be read.
+/// Reads single values. Each `read` moves the cursor past the whole value, even if it cannot use it. It
+/// returns false if the value has the wrong type, and the reader then holds the error, or if the body is not
+/// JSON, and then nothing more can be read.
 class Reader {
 public:
     Reader(const std::string& body, std::span<const std::uint32_t> offsets) : cursor_(body, offsets) {}
 
-    /// Whether all of the body was passed and was JSON.
+    /// Whether the whole body was read and is JSON.
     [[nodiscard]] bool passedAll() const { return !cursor_.invalid() && cursor_.atEnd(); }
     [[nodiscard]] DecodingError takeError() { return std::move(error_); }
 
@@ -59,24 +59,23 @@ protected:
         return converted || fail(DecodingError::Reason::unexpectedValue, expectedOf<T>());
     }
 
-    /// Passes the key at the cursor and its colon, whatever it is. `key` is good until the next string is
-    /// read.
+    /// Reads any key at the cursor, and its colon. `key` is valid until the next string is read.
     bool passKey(std::string_view& key);
 
-    /// Passes the value at the cursor, which is not what was expected. Always false.
+    /// Skips a value of an unexpected type and keeps the error. Always false.
     bool passUnexpected(std::string_view expected);
 
     /// Keeps the error. Always false.
     bool fail(DecodingError::Reason reason, std::string_view expected);
 
-    /// Puts the way from the record or list that is being read before the way that the error already has.
+    /// Prepends a key or index to the error's path.
     void prefixError(std::string_view key);
     void prefixError(std::size_t position);
 
     Cursor cursor_;
 
 private:
-    /// A string's text, good until the next string is read.
+    /// A string's text, valid until the next string is read.
     bool readText(std::string_view& text, std::string_view expected);
 
     template <typename T>

@@ -16,7 +16,7 @@
 
 namespace quillet::platform::json {
 
-/// Reads records by their tables, and lists and optionals of whatever can be read.
+/// Reads records by their field tables, and lists and optionals of readable types.
 class RecordReader : public Reader {
 public:
     using Reader::Reader;
@@ -69,66 +69,65 @@ public:
 private:
     static constexpr std::size_t mostFields = 64;
 
-    /// Where the reading of one object stands.
+    /// State of reading one object.
     struct Members {
         /// Whether the cursor is at the key of another member.
         bool more = false;
         /// One bit for each field of the table whose key was seen.
         std::uint64_t seen = 0;
-        /// The place in the table of the first field that could not be read.
+        /// Index of the first field in the table that could not be read.
         std::size_t failed = mostFields;
-        /// The place in the table of the field whose value the cursor is at, where the key was already
-        /// passed.
+        /// Index of the field whose value is at the cursor, if its key was already read.
         std::size_t named = mostFields;
     };
 
-    template <typename Record, std::size_t... places>
-    bool readRecord(Record& record, std::index_sequence<places...>) {
-        static_assert(sizeof...(places) <= mostFields);
+    template <typename Record, std::size_t... indexes>
+    bool readRecord(Record& record, std::index_sequence<indexes...>) {
+        static_assert(sizeof...(indexes) <= mostFields);
         if (cursor_.peek() != '{') {
             return passUnexpected(expectedOf<Record>());
         }
         Members members;
         members.more = cursor_.open() && cursor_.first('}');
         while (members.more) {
-            // Each round offers every field the member then at hand. Members in the table's order all find
-            // theirs in a single round.
+            // Each round tries the fields in the table's order against the current member. Members that come
+            // in that order need a single round.
             const std::uint64_t before = members.seen;
-            (tryField<places>(record, members), ...);
+            (tryField<indexes>(record, members), ...);
             if (members.more && members.seen == before) {
-                passOrName<Record, places...>(members);
+                passOrName<Record, indexes...>(members);
             }
         }
-        constexpr std::uint64_t required = ((isRequired<Record, places> ? bit(places) : 0) | ...);
+        constexpr std::uint64_t required = ((isRequired<Record, indexes> ? bit(indexes) : 0) | ...);
         if ((members.seen & required) != required) {
-            (missField<Record, places>(members), ...);
+            (reportMissing<Record, indexes>(members), ...);
         }
         return members.failed == mostFields && !cursor_.invalid();
     }
 
-    template <std::size_t place, typename Record>
+    template <std::size_t index, typename Record>
     void tryField(Record& record, Members& members) {
-        if (!members.more || (members.seen & bit(place))) {
+        if (!members.more || (members.seen & bit(index))) {
             return;
         }
         const bool here =
-            members.named == mostFields ? cursor_.takeKey(quotedKey<Record, place>) : members.named == place;
+            members.named == mostFields ? cursor_.takeKey(quotedKey<Record, index>) : members.named == index;
         if (here) {
-            readField<place>(record, members);
+            readField<index>(record, members);
         }
     }
 
-    /// Passes a member whose key is not in the table or was seen before. Where the key is in the table once
-    /// its escapes are gone, passes no more than the key and names the field.
-    template <typename Record, std::size_t... places>
+    /// Skips a member whose key is not in the table or was seen before. If the key is in the table after
+    /// decoding its escapes, reads the key only and sets `named`.
+    template <typename Record, std::size_t... indexes>
     void passOrName(Members& members) {
         std::string_view key;
         if (!passKey(key)) {
             members.more = false;
             return;
         }
-        ((!(members.seen & bit(places)) && key == std::get<places>(jsonFields<Record>).key
-              ? members.named = places
+        ((!(members.seen & bit(indexes)) && key == std::get<indexes>(jsonFields<Record>).key
+              ? members.named = indexes
               : 0),
          ...);
         if (members.named == mostFields) {
@@ -137,16 +136,16 @@ private:
         }
     }
 
-    template <std::size_t place, typename Record>
+    template <std::size_t index, typename Record>
     void readField(Record& record, Members& members) {
-        constexpr auto field = std::get<place>(jsonFields<Record>);
-        members.seen |= bit(place);
-        if (members.failed < place) {
+        constexpr auto field = std::get<index>(jsonFields<Record>);
+        members.seen |= bit(index);
+        if (members.failed < index) {
             cursor_.skip();
         } else {
-            field_ = place;
+            field_ = index;
             if (!read(record.*field.member) && !cursor_.invalid()) {
-                members.failed = place;
+                members.failed = index;
                 prefixError(field.key);
             }
         }
@@ -156,37 +155,37 @@ private:
 
     bool nextMember() { return !cursor_.invalid() && cursor_.next('}'); }
 
-    template <typename Record, std::size_t place>
-    void missField(Members& members) {
-        if (isRequired<Record, place> && !(members.seen & bit(place)) && place < members.failed) {
-            constexpr auto field = std::get<place>(jsonFields<Record>);
-            members.failed = place;
-            fail(DecodingError::Reason::missingKey, expectedOf<Member<Record, place>>());
+    template <typename Record, std::size_t index>
+    void reportMissing(Members& members) {
+        if (isRequired<Record, index> && !(members.seen & bit(index)) && index < members.failed) {
+            constexpr auto field = std::get<index>(jsonFields<Record>);
+            members.failed = index;
+            fail(DecodingError::Reason::missingKey, expectedOf<Member<Record, index>>());
             prefixError(field.key);
         }
     }
 
-    template <typename Record, std::size_t place>
+    template <typename Record, std::size_t index>
     using Member =
-        std::remove_cvref_t<decltype(std::declval<Record&>().*std::get<place>(jsonFields<Record>).member)>;
-    template <typename Record, std::size_t place>
-    static constexpr bool isRequired = !isOptional<Member<Record, place>>;
+        std::remove_cvref_t<decltype(std::declval<Record&>().*std::get<index>(jsonFields<Record>).member)>;
+    template <typename Record, std::size_t index>
+    static constexpr bool isRequired = !isOptional<Member<Record, index>>;
 
-    template <typename Record, std::size_t place>
+    template <typename Record, std::size_t index>
     static constexpr auto quotedKey = [] {
-        constexpr std::string_view key = std::get<place>(jsonFields<Record>).key;
+        constexpr std::string_view key = std::get<index>(jsonFields<Record>).key;
         std::array<char, key.size() + 2> quoted{};
         quoted.front() = quoted.back() = '"';
         std::copy(key.begin(), key.end(), quoted.begin() + 1);
         return quoted;
     }();
 
-    static constexpr std::uint64_t bit(std::size_t place) { return std::uint64_t{1} << place; }
+    static constexpr std::uint64_t bit(std::size_t index) { return std::uint64_t{1} << index; }
 
-    /// For each place in a table, the length of the list last read there: a fair guess at the next one's,
-    /// which can ask for hardly more memory than that list has filled.
+    /// For each field, the length of the list that was last read for it. It predicts the next list's length,
+    /// so that memory is reserved once.
     std::array<std::size_t, mostFields> usualLengths_{};
-    /// The place in its table of the field being read.
+    /// Index of the field that is being read.
     std::size_t field_ = 0;
 };
 

@@ -7,9 +7,9 @@
 namespace quillet::platform::json {
 
 std::optional<StructuralIndex> StructuralIndex::of(const std::string& body) {
-    // Only the library's first pass is used: its second builds a tree that holds numbers as doubles. The
-    // first pass is part of the interface through which the library chooses an instruction set while running,
-    // and it never reads past the end, so that the body needs no padding and no copy.
+    // Only simdjson's first stage is used: its second stage builds a tree with numbers as doubles. The first
+    // stage is part of simdjson's run-time dispatch interface. It does not read past the end, so the body
+    // needs no padding and no copy.
     std::unique_ptr<simdjson::internal::dom_parser_implementation> parser;
     const std::size_t depthOfUnusedSecondPass = 1;
     if (body.empty()) {
@@ -28,7 +28,7 @@ std::optional<StructuralIndex> StructuralIndex::of(const std::string& body) {
         return std::nullopt;
     }
     const std::size_t count = parser->n_structural_indexes;
-    // The library's own end mark, stated anew: its array always has room for more than this.
+    // Sets the end marks that simdjson sets too; its array has room for more than these.
     parser->structural_indexes[count] = parser->structural_indexes[count + 1] =
         static_cast<std::uint32_t>(body.size());
     return StructuralIndex(std::move(parser->structural_indexes), count + 2);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t hexDigits = 4;
 
-/// The four hex digits at the start of `rest`, which is moved past them.
+/// Takes four hex digits from the start of `rest`.
 std::optional<std::uint32_t> takeHex(std::string_view& rest) {
     std::uint32_t unit = 0;
     const std::string_view digits = rest.substr(0, hexDigits);
@@ -22,7 +22,7 @@ std::optional<std::uint32_t> takeHex(std::string_view& rest) {
     return unit;
 }
 
-/// The code point whose \u escape continues at the start of `rest`, which is moved past it.
+/// Takes the code point of a \u escape from `rest`, which begins behind the \u.
 std::optional<std::uint32_t> takeCodePoint(std::string_view& rest) {
     const auto first = takeHex(rest);
     if (!first || *first < 0xD800 || *first > 0xDFFF) {
@@ -60,7 +60,7 @@ void appendUtf8(std::string& text, std::uint32_t codePoint) {
     }
 }
 
-/// The character that the one-letter escape `letter` stands for; NUL, which has none, for any other letter.
+/// The character of the one-letter escape `letter`; NUL for any other letter.
 char plainEscape(char letter) {
     switch (letter) {
     case '"':
@@ -85,7 +85,7 @@ char plainEscape(char letter) {
 
 bool unescape(std::string_view raw, std::string& text) {
     text.clear();
-    // Escapes only ever shrink, so that this is the one allocation.
+    // Decoded text is never longer than the escaped text, so this is the only allocation.
     text.reserve(raw.size());
     for (;;) {
         const std::size_t plain = raw.find('\\');

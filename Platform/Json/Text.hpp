@@ -5,13 +5,13 @@
 
 namespace quillet::platform::json {
 
-/// Whether what stands between a JSON string's quotation marks needs `unescape`.
+/// Whether the raw content of a JSON string has escape sequences.
 [[nodiscard]] inline bool hasEscapes(std::string_view raw) {
     return raw.find('\\') != raw.npos;
 }
 
-/// Puts the text that `raw`, the bytes between a JSON string's quotation marks, stands for into `text`.
-/// False, and `text` is of no use, if an escape is malformed or a surrogate stands alone.
+/// Decodes the escape sequences of `raw`, the content of a JSON string, into `text`. Returns false for a
+/// malformed escape or an unpaired surrogate; `text` is then unspecified.
 [[nodiscard]] bool unescape(std::string_view raw, std::string& text);
 
 } // namespace quillet::platform::json

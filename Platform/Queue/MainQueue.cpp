@@ -8,7 +8,7 @@ void MainQueue::async(std::function<void()> block) {
     Blocks queued;
     queued.push_back(std::move(block));
     const std::lock_guard lock(mutex_);
-    // First what may throw: without the wake-up, nobody might ever look at the block.
+    // The calls that may throw come first: a queued block without a wake-up might never run.
     if (wakeUp_) {
         wakeUp_();
     }
@@ -19,7 +19,7 @@ std::size_t MainQueue::drain() {
     std::unique_lock lock(mutex_);
     const std::size_t waiting = blocks_.size();
     std::size_t ran = 0;
-    // Blocks are taken one by one, so that a drain from within a block goes on with the next one in order.
+    // Blocks are removed one by one, so that a nested drain continues with the next one in order.
     for (; ran < waiting && !blocks_.empty(); ++ran) {
         Blocks next;
         next.splice(next.end(), blocks_, blocks_.begin());

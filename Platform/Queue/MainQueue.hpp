@@ -19,10 +19,10 @@ public:
     /// Called on the user interface's thread only; a block may call it again, as a nested event loop does.
     std::size_t drain();
 
-    /// How an event loop learns that there is something to drain: called within each `async`, on that thread,
-    /// and at once if blocks are waiting. It should only leave a note for the event loop, and must not use
-    /// this queue. Once this returns the previous hook is not running and will not be called again; an empty
-    /// function takes it away.
+    /// Sets a hook that tells an event loop to drain the queue. It is called within each `async`, on the
+    /// thread of that call, and once now if blocks are waiting. It should only post to the event loop and
+    /// must not use this queue. When this returns, the previous hook is not running and will not be called
+    /// again. An empty function removes the hook.
     void setWakeUp(std::function<void()> wakeUp);
 
 private:
@@ -33,8 +33,7 @@ private:
     std::function<void()> wakeUp_;
 };
 
-/// The main queue of the process. It is never torn down, so that a reply may come at any time, even while the
-/// program exits.
+/// The main queue of the process. It is never destroyed, because a reply may arrive even during exit.
 [[nodiscard]] MainQueue& mainQueue();
 
 } // namespace quillet::platform

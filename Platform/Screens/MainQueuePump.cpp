@@ -10,7 +10,7 @@ namespace quillet::platform {
 
 namespace {
 
-/// Takes the wake-up with it: after that, blocks wait in the queue unheard.
+/// Its destructor removes the wake-up hook. Blocks then stay in the queue.
 class Pump final : public QObject {
 public:
     Pump() {
@@ -28,8 +28,8 @@ void pumpMainQueue() {
     static Pump* pump = nullptr;
     if (!pump) {
         pump = new Pump;
-        // A child of the application would go last of all, after the event dispatcher that it wakes on other
-        // threads. This runs before Qt takes anything down, and waits for a wake-up that is under way.
+        // A child of the application would be destroyed after the event dispatcher, which other threads may
+        // be waking up. A post routine runs before that, and waits for a wake-up that is running.
         qAddPostRoutine([] { delete std::exchange(pump, nullptr); });
     }
 }

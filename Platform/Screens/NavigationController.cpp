@@ -11,8 +11,8 @@ namespace quillet::platform {
 namespace {
 Q_LOGGING_CATEGORY(lcNavigation, "quillet.navigation")
 
-// What arranges its children would arrange an overlay as one more of them. QML's layouts, positioners and
-// containers have no public class in C++, so they are told by a property of theirs that nothing else has.
+// Layouts, positioners and containers would arrange an overlay like their other children. They have no public
+// C++ classes, so they are recognised by a documented property.
 bool arrangesChildren(const QQuickItem& item) {
     const auto has = [&](const char* property) { return item.metaObject()->indexOfProperty(property) >= 0; };
     return has("layoutDirection") || has("populate") || has("currentIndex");
@@ -78,8 +78,8 @@ bool NavigationController::push(const std::shared_ptr<QuickViewController>& scre
     }
     screen->setStackView(stackView_);
 
-    // StackView destroys a page on popping it only if it made that page itself, hence a component; and its
-    // `push` can be called from JavaScript alone. The engine must own neither the component nor the screen.
+    // StackView destroys a popped page only if it created the page, hence a component. Its `push` can only be
+    // called from JavaScript. The engine must own neither the component nor the screen.
     QQmlEngine::setObjectOwnership(component, QQmlEngine::CppOwnership);
     QQmlEngine::setObjectOwnership(screen.get(), QQmlEngine::CppOwnership);
     QJSValue properties = engine->newObject();

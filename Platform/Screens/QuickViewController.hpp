@@ -11,15 +11,14 @@
 
 namespace quillet::platform {
 
-/// A screen: it owns everything behind what it shows, and a QML file draws it. Made by a factory, it lives in
-/// a std::shared_ptr; once it is pushed, the QML item that draws it is its one owner, so taking the screen
-/// off the stack destroys the whole graph. The controller knows its item only through the navigation
-/// controller, never directly.
+/// A screen. It owns the objects behind what it shows, and a QML file draws it. A factory makes it in a
+/// std::shared_ptr. Once it is pushed, the QML item that draws it is its only owner, so popping the screen
+/// destroys the whole object graph. The controller holds no reference to its item.
 ///
-/// Lifecycle, all on the main thread: `viewDidLoad` once, when the item has been made; `viewWillAppear` and
-/// `viewWillDisappear` on each entering and leaving of the top of the stack. Once the host has taken the
-/// screen off the stack, what is still to be seen of it is a picture on its way out: nothing reaches the
-/// screen any more, neither taps nor answers. So it is shown once; the next time takes a new one.
+/// Lifecycle, all on the main thread: `viewDidLoad` once, when the item is complete; `viewWillAppear` and
+/// `viewWillDisappear` whenever the screen becomes or stops being the top of the stack. As soon as the host
+/// pops the screen, taps and answers no longer reach it, although its animation may still run. A screen can
+/// be shown only once.
 class QuickViewController : public QObject, public std::enable_shared_from_this<QuickViewController> {
     Q_OBJECT
     QML_ELEMENT
@@ -30,33 +29,33 @@ class QuickViewController : public QObject, public std::enable_shared_from_this<
     Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY backgroundColorChanged FINAL)
 
 public:
-    /// What the host's bar shows while this screen is on top.
+    /// Title for the host's bar while this screen is on top.
     [[nodiscard]] const QString& title() const { return title_; }
-    /// Whether the host's bar is to show no way back from this screen.
+    /// Whether the host's bar should hide its back button.
     [[nodiscard]] bool hidesBackButton() const { return hidesBackButton_; }
-    /// Whether the screen goes on where the host's bar ends, as with a tab bar: no line belongs between them.
+    /// Whether the top of the screen continues the host's bar, as a tab bar does. The bar should then draw no
+    /// line below it.
     [[nodiscard]] bool continuesBar() const { return continuesBar_; }
-    /// What the page is filled with, behind all that it draws; nothing until set.
+    /// Background colour of the page; transparent until set.
     [[nodiscard]] const QColor& backgroundColor() const { return backgroundColor_; }
     void setTitle(const QString& title);
     void setHidesBackButton(bool hides);
 
-    /// The StackView that this screen was pushed on; null before that, once the screen has left it (though it
-    /// may still be on its way out), and when the stack is gone. NavigationController::of turns it into what
-    /// the next screen is pushed with.
+    /// The StackView that this screen was pushed on. Null before that, after the screen was popped (even
+    /// while it is animated out), and after the stack was destroyed. See NavigationController::of.
     [[nodiscard]] QQuickItem* stackView() const { return stay_ ? stackView_.data() : nullptr; }
     void setStackView(QQuickItem* stackView) { stackView_ = stackView; }
 
-    /// The way back to this screen, or to a part of the graph that it owns, for those that may come back
-    /// later: it finds nobody once the screen has left the stack.
+    /// A weak reference to this screen, or to a part that it owns, for callbacks. It expires when the screen
+    /// leaves the stack.
     template <typename Part>
     [[nodiscard]] std::weak_ptr<Part> wayBackTo(Part& part) const {
         return std::shared_ptr<Part>(stay_, &part);
     }
 
-    /// The page that draws this screen owns it from now on.
+    /// Makes the page that draws this screen its owner.
     void enter();
-    /// The host has taken the screen off its stack. All ways back end here.
+    /// Called when the host has popped the screen. All references of `wayBackTo` expire.
     void leave() { stay_.reset(); }
     [[nodiscard]] bool hasLeft() const { return !stay_; }
 
@@ -77,17 +76,16 @@ protected:
     QuickViewController() = default;
     void setBackgroundColor(const QColor& color);
     void setContinuesBar(bool continues);
-    /// Whether the screen can still be reached: for as long as it is locked, the screen is there.
+    /// Expires when the screen leaves the stack. A lock keeps the screen alive.
     [[nodiscard]] std::weak_ptr<const void> stay() const { return stay_; }
 
-    /// A view that is on screen may be in the middle of telling about a tap when it is replaced: it goes once
-    /// control is back in the event loop.
+    /// A view may be replaced while it handles a tap, so it is destroyed later, by the event loop.
     struct DeleteLater {
         void operator()(QObject* object) const { object->deleteLater(); }
     };
 
 private:
-    /// The screen's time on the stack. Whoever is on a way back keeps it, and with it the screen.
+    /// Exists while the screen is on the stack. A locked weak reference to it keeps the screen alive.
     struct Stay {
         std::shared_ptr<QuickViewController> screen;
     };

@@ -39,8 +39,8 @@ void ScreenItem::viewWillAppear() {
 void ScreenItem::viewWillDisappear() {
     if (controller_) {
         controller_->viewWillDisappear();
-        // A page that is popped is taken out of the stack before its animation begins, and told only after it
-        // has ended.
+        // A popped page is removed from the stack before its animation begins, but is notified only after the
+        // animation.
         const NavigationController* navigation = NavigationController::of(controller_.get());
         if (!navigation || !navigation->holds(*this)) {
             controller_->leave();

@@ -9,8 +9,8 @@
 
 namespace quillet::platform {
 
-/// The root of a screen's QML. It is the strong reference that keeps the screen's controller, and so the
-/// whole graph behind it, alive: when the stack destroys the item, everything goes.
+/// The root item of a screen's QML. It holds the owning reference to the screen's controller: when the stack
+/// destroys the item, the whole object graph is destroyed.
 class ScreenItem : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -29,9 +29,9 @@ public:
     [[nodiscard]] QQuickItem* coverArea() const;
 
     Q_INVOKABLE void viewWillAppear();
-    /// Another page covers this one, or the host takes it off.
+    /// Called when another page covers this one, or the host pops it.
     Q_INVOKABLE void viewWillDisappear();
-    /// The stack has let go of the page, be it from under others.
+    /// Called when the stack has removed the page, even from below other pages.
     Q_INVOKABLE void viewDidLeave();
 
 Q_SIGNALS:

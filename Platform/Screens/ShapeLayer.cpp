@@ -42,7 +42,7 @@ void ShapeLayer::draw(QPainter& painter, double time) const {
         painter.setBrush(fillColor);
         painter.drawEllipse(square);
         if (strokeColor && moment.strokeEnd > moment.strokeStart) {
-            // Qt counts angles against the clock.
+            // Qt counts angles counter-clockwise.
             const double sweep = degrees(path->endAngle - path->startAngle);
             const double start = -degrees(path->startAngle) - sweep * moment.strokeStart;
             QPainterPath arc;

@@ -8,7 +8,7 @@
 
 namespace quillet {
 
-/// Prepares the checkout screen beyond its assembly; there is nothing to prepare in this flow.
+/// Configures the checkout screen; this flow has nothing to configure.
 class CheckoutConfiguring {
 public:
     virtual ~CheckoutConfiguring() = default;

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Everything that a host needs: configure the environment, build a Starter, present its root screen.
+/// All that a host needs: configure the environment, create a Starter, present its root screen.
 #include "Entry/QuilletConfiguration.hpp"
 #include "Entry/Starter.hpp"
 #include "Platform/Http/URLSessionConfiguration.hpp"

@@ -5,8 +5,7 @@
 
 namespace quillet {
 
-/// The one way in which the module stops the program on an impossible state, so that a test or a host can see
-/// it coming.
+/// Hook for programming errors, by which the module stops the program. A test or a host can replace it.
 struct FatalErrorWrapper {
     /// Takes a message, the source file's name and the line.
     using Closure = std::function<void(std::string_view message, const char* file, unsigned line)>;

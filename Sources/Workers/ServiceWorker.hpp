@@ -14,11 +14,11 @@
 
 namespace quillet {
 
-/// What the workers have in common: run one service call, remember whether it brought a response, and take
-/// the outcome to the delegate on the main queue. Held by std::shared_ptr; pending calls and queued blocks
-/// hold it weakly, so a worker that is freed takes its outstanding outcomes with it. Where memory runs out
-/// the outcome is an error. `response` is the member of a `Result` whose presence means success,
-/// `didComplete` the member function of a `Delegate` that takes the outcome.
+/// Base of the workers: runs one service call, stores whether it brought a response, and delivers the result
+/// to the delegate on the main queue. Held by std::shared_ptr. Pending calls and queued blocks hold it
+/// weakly, so results of a destroyed worker are dropped. If memory runs out the result is an error.
+/// `response` is the member of a `Result` whose presence means success, `didComplete` the member function of
+/// a `Delegate` that takes the outcome.
 template <typename Result, auto response, typename Delegate, auto didComplete>
 class ServiceWorker
     : public Executable,
@@ -54,11 +54,11 @@ protected:
 
 private:
     virtual void willCall() {}
-    /// Has the completion called once, on any thread; or throws std::bad_alloc, and never has it called.
+    /// Calls the completion once, on any thread; or throws std::bad_alloc and never calls it.
     virtual void call(Completion completion) = 0;
 
-    // Runs wherever the service calls back. Somebody waits for every outcome, so where there is no memory to
-    // queue one, the response makes room for an error, and that is tried until it succeeds.
+    // Called on the service's thread. A user waits for every result, so if it cannot be queued for lack of
+    // memory, the response is freed and an error is queued instead, with retries until that succeeds.
     void end(Result result) noexcept {
         while (!queue(std::move(result))) {
             result = resultWithoutMemory<Result>();
@@ -66,8 +66,8 @@ private:
         }
     }
 
-    // False where there is no memory. Queueing the block after the write makes the flag visible to whoever is
-    // told on the main queue; the flag is atomic for those who ask at other times.
+    // Returns false if memory runs out. The flag is written before the block is queued, so the delegate sees
+    // it; it is atomic for readers at other times.
     bool queue(Result result) noexcept try {
         isFinishedSuccessfully_.store((result.*response).has_value(), std::memory_order_release);
         auto outcome = std::make_shared<const Result>(std::move(result));

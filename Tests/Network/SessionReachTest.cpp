@@ -1,5 +1,6 @@
 #include "Platform/Http/Curl/CurlLibrary.hpp"
 #include "Platform/Http/URLSession.hpp"
+#include "Support/FakeNetworkPath.hpp"
 #include "Support/SandboxedSession.hpp"
 #include "Support/SilentPort.hpp"
 
@@ -15,21 +16,6 @@ namespace {
 
 using enum platform::URLError::Code;
 
-class ScriptedPath final : public platform::NetworkPathMonitoring {
-public:
-    explicit ScriptedPath(bool isThere) : isThere_(isThere) {}
-
-    bool isSatisfied(const std::string& host, bool isMapped) const override {
-        asked.record({host + (isMapped ? " mapped" : "")});
-        return isThere_;
-    }
-
-    mutable testing::Recorder<std::string> asked;
-
-private:
-    bool isThere_;
-};
-
 class BeginningsCounter final : public platform::URLSessionObserving {
 public:
     void willSend(std::uint64_t, const platform::URLRequest&) override { ++beginnings; }
@@ -37,11 +23,6 @@ public:
     }
 
     std::atomic<int> beginnings = 0;
-};
-
-class FailingPath final : public platform::NetworkPathMonitoring {
-public:
-    bool isSatisfied(const std::string&, bool) const override { throw std::bad_alloc(); }
 };
 
 struct SessionReach : ::testing::Test {
@@ -72,7 +53,7 @@ constexpr std::uint16_t closedPort = 1;
 
 TEST_F(SessionReach, AsksForANetworkOnlyWhereTheHostIsNotReached) {
     testing::SandboxedSession sandbox;
-    const auto path = std::make_shared<ScriptedPath>(false);
+    const auto path = std::make_shared<testing::FakeNetworkPath>(false);
     sandbox.configuration.networkPath = path;
     sandbox.server.enqueue(testing::Answer::complete(200, "{}"));
     EXPECT_EQ(errorOf(sandbox.configuration), platform::URLError::Code{});
@@ -94,17 +75,17 @@ TEST_F(SessionReach, TellsAHostThatIsNotReachedFromNoNetwork) {
     mapping.address = noName;
     EXPECT_EQ(errorOf(sandbox.configuration), cannotFindHost);
     // The system calls a network unreachable that is asked to connect to everybody.
-    sandbox.configuration.networkPath = std::make_shared<ScriptedPath>(true);
+    sandbox.configuration.networkPath = std::make_shared<testing::FakeNetworkPath>(true);
     EXPECT_EQ(errorOf(sandbox.configuration, "255.255.255.255"), cannotConnectToHost);
     // A monitor that fails has not said that there is no network.
-    sandbox.configuration.networkPath = std::make_shared<FailingPath>();
+    sandbox.configuration.networkPath = std::make_shared<testing::FakeNetworkPath>(
+        [](const std::string&, bool) -> bool { throw std::bad_alloc(); });
     EXPECT_EQ(errorOf(sandbox.configuration, noName), cannotFindHost);
 }
 
 // The first attempts go where packets are dropped; then a server takes the port over.
-class ServerFoundLate final : public platform::NetworkPathMonitoring {
-public:
-    bool isSatisfied(const std::string&, bool) const override {
+struct ServerFoundLate {
+    testing::FakeNetworkPath path{[this](const std::string&, bool) {
         if (++failures == 2) {
             const auto port = dead->port();
             dead.reset();
@@ -113,39 +94,38 @@ public:
             server->enqueue(testing::Answer::complete(200, "{}"));
         }
         return true;
-    }
-
+    }};
     testing::TestAuthority authority;
-    mutable std::unique_ptr<testing::SilentPort> dead =
+    std::unique_ptr<testing::SilentPort> dead =
         std::make_unique<testing::SilentPort>(testing::SilentPort::Kind::dropping);
-    mutable std::unique_ptr<testing::FaultServer> server;
-    mutable std::atomic<int> failures = 0;
+    std::unique_ptr<testing::FaultServer> server;
+    std::atomic<int> failures = 0;
 };
 
 TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
     // Not the session's to free: its thread may still do so while the process ends and OpenSSL cleans up.
-    const ServerFoundLate path;
+    ServerFoundLate late;
     const auto clock = std::make_shared<testing::VirtualClock>();
     const auto observer = std::make_shared<BeginningsCounter>();
     testing::CallRecorder calls;
     const platform::URLSession session(
-        {.caBundleFile = path.authority.bundleFile(),
-         .hostMappings = {{.host = testing::gatewayHost, .address = "127.0.0.1", .port = path.dead->port()}},
-         .networkPath = {std::shared_ptr<void>(), &path},
+        {.caBundleFile = late.authority.bundleFile(),
+         .hostMappings = {{.host = testing::gatewayHost, .address = "127.0.0.1", .port = late.dead->port()}},
+         .networkPath = {std::shared_ptr<void>(), &late.path},
          .clock = clock,
          .observer = observer,
          // Less than the second after which the system would repeat its own packet.
          .connectTimeout = std::chrono::milliseconds(200)});
     session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
     EXPECT_EQ(calls.wait().data, "{}");
-    EXPECT_EQ(path.failures, 2);
-    EXPECT_EQ(path.server->requests().size(), 1u);
+    EXPECT_EQ(late.failures, 2);
+    EXPECT_EQ(late.server->requests().size(), 1u);
     EXPECT_EQ(observer->beginnings, 1);
 
     const testing::SilentPort dead(testing::SilentPort::Kind::dropping);
-    const auto stillThere = std::make_shared<ScriptedPath>(true);
+    const auto stillThere = std::make_shared<testing::FakeNetworkPath>(true);
     const platform::URLSession other(
-        {.caBundleFile = path.authority.bundleFile(),
+        {.caBundleFile = late.authority.bundleFile(),
          .hostMappings = {{.host = testing::gatewayHost, .address = "127.0.0.1", .port = dead.port()}},
          .networkPath = stillThere,
          .clock = clock,
@@ -163,7 +143,7 @@ TEST_F(SessionReach, KeepsAConnectionThatIsSlowToSpeak) {
     testing::SandboxedSession sandbox;
     const testing::SilentPort slow;
     const testing::SilentPort dead(testing::SilentPort::Kind::dropping);
-    const auto path = std::make_shared<ScriptedPath>(true);
+    const auto path = std::make_shared<testing::FakeNetworkPath>(true);
     sandbox.configuration.hostMappings = {
         {.host = testing::gatewayHost, .address = "127.0.0.1", .port = slow.port()},
         {.host = "dead.test", .address = "127.0.0.1", .port = dead.port()}};
@@ -204,7 +184,7 @@ TEST_F(SessionReach, ReachesAMappedHostPastTheProxyOfTheEnvironment) {
     testing::SandboxedSession sandbox;
     sandbox.server.enqueue(testing::Answer::complete(200, "{}"));
     sandbox.configuration.hostMappings[0].host = "GATEWAY.test";
-    sandbox.configuration.networkPath = std::make_shared<ScriptedPath>(true);
+    sandbox.configuration.networkPath = std::make_shared<testing::FakeNetworkPath>(true);
     setenv("https_proxy", "http://127.0.0.1:1", 1);
     testing::CallRecorder calls;
     const platform::URLSession session(sandbox.configuration);

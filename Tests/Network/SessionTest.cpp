@@ -1,4 +1,5 @@
 #include "Platform/Http/URLSession.hpp"
+#include "Support/FakeNetworkPath.hpp"
 #include "Support/SandboxedSession.hpp"
 
 #include <gtest/gtest.h>
@@ -19,14 +20,6 @@ struct SessionTest : ::testing::Test, testing::SandboxedSession {
         return session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = std::move(method)},
                                 calls.completion());
     }
-};
-
-class WatchedPath final : public platform::NetworkPathMonitoring {
-public:
-    ~WatchedPath() override { gone.set_value(); }
-    bool isSatisfied(const std::string&, bool) const override { return true; }
-
-    std::promise<void> gone;
 };
 
 class TrafficLog final : public platform::URLSessionObserving {
@@ -94,9 +87,13 @@ TEST_F(SessionTest, StartsOnceHoweverOftenItIsResumedAndNeverByItself) {
 TEST_F(SessionTest, RunsAStartedCallToItsEndAndThenEndsItsThread) {
     const auto gate = std::make_shared<std::latch>(1);
     server.enqueue({{"HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\n", "{}"}, Answer::Ending::keepOpen, gate});
-    auto path = std::make_shared<WatchedPath>();
-    auto gone = path->gone.get_future();
-    configuration.networkPath = std::move(path);
+    std::promise<void> freed;
+    auto gone = freed.get_future();
+    configuration.networkPath = {new testing::FakeNetworkPath(true),
+                                 [&](const testing::FakeNetworkPath* path) {
+                                     delete path;
+                                     freed.set_value();
+                                 }};
     {
         const platform::URLSession session(std::exchange(configuration, {}));
         task(session).resume();

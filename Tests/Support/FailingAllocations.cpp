@@ -77,8 +77,8 @@ const bool isInstalled = [] {
 
 } // namespace
 
-FailingAllocation::FailingAllocation(Allocator allocator, std::size_t place) {
-    left[static_cast<std::size_t>(allocator)] = static_cast<long>(place);
+FailingAllocation::FailingAllocation(Allocator allocator, std::size_t index) {
+    left[static_cast<std::size_t>(allocator)] = static_cast<long>(index);
 }
 
 FailingAllocation::~FailingAllocation() {

@@ -11,8 +11,8 @@ enum class Allocator { cpp, curl, openSsl };
 /// program's allocation functions and those of the two libraries.
 class FailingAllocation {
 public:
-    /// The `place`th one that `allocator` makes on a thread that is not spared, counted from 1.
-    FailingAllocation(Allocator allocator, std::size_t place);
+    /// The `index`th one that `allocator` makes on a thread that is not spared, counted from 1.
+    FailingAllocation(Allocator allocator, std::size_t index);
     ~FailingAllocation();
     FailingAllocation(const FailingAllocation&) = delete;
     FailingAllocation& operator=(const FailingAllocation&) = delete;

@@ -25,14 +25,14 @@ public:
         state_->changed.notify_all();
     }
 
-    /// Waits until the outcome at that place is there.
-    [[nodiscard]] Outcome& wait(std::size_t place = 0) {
+    /// Waits until the outcome at that index is there.
+    [[nodiscard]] Outcome& wait(std::size_t index = 0) {
         std::unique_lock lock(state_->mutex);
         if (!state_->changed.wait_for(lock, std::chrono::seconds(30),
-                                      [&] { return state_->outcomes.size() > place; })) {
+                                      [&] { return state_->outcomes.size() > index; })) {
             throw std::runtime_error("The call did not complete.");
         }
-        return state_->outcomes[place];
+        return state_->outcomes[index];
     }
 
     [[nodiscard]] std::size_t count() {
@@ -40,9 +40,9 @@ public:
         return state_->outcomes.size();
     }
 
-    [[nodiscard]] std::thread::id threadOf(std::size_t place = 0) {
+    [[nodiscard]] std::thread::id threadOf(std::size_t index = 0) {
         const std::lock_guard lock(state_->mutex);
-        return state_->threads.at(place);
+        return state_->threads.at(index);
     }
 
 private:

@@ -3,6 +3,7 @@
 #include "KelCommon/KelAnalyticsManager.hpp"
 #include "Platform/Screens/NavigationController.hpp"
 #include "Support/FakeHost.hpp"
+#include "Support/FakeNetworkPath.hpp"
 #include "Support/SilentPort.hpp"
 #include "Support/Stage.hpp"
 #include "Views/Dialogs/AlertDialog.hpp"
@@ -21,16 +22,6 @@ using ::testing::Contains;
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-class NoNetwork final : public platform::NetworkPathMonitoring {
-public:
-    [[nodiscard]] bool isSatisfied(const std::string&, bool) const override { return false; }
-};
-
-class AnyNetwork final : public platform::NetworkPathMonitoring {
-public:
-    [[nodiscard]] bool isSatisfied(const std::string&, bool) const override { return true; }
-};
 
 struct PresentTest : ::testing::Test {
     PresentTest() { kel::KelAnalyticsManager::shared()->setSink(std::make_shared<FakeAnalytics>(log)); }
@@ -83,7 +74,7 @@ struct PresentTest : ::testing::Test {
 } // namespace
 
 TEST_F(PresentTest, CoversTheBarWhileItLoadsAndSaysThatThereIsNoConnection) {
-    use(std::make_shared<NoNetwork>());
+    use(std::make_shared<FakeNetworkPath>(false));
     const auto screen = open();
     EXPECT_EQ(screen.lock()->title(), "Resumen de venta");
     EXPECT_THAT(taken(log), ElementsAre("screen Pedidos de mis clientes"));
@@ -104,7 +95,7 @@ TEST_F(PresentTest, CoversTheBarWhileItLoadsAndSaysThatThereIsNoConnection) {
 }
 
 TEST_F(PresentTest, ShowsItsTitleOnlyWhileItIsOnTopAndLoadsOnce) {
-    use(std::make_shared<NoNetwork>());
+    use(std::make_shared<FakeNetworkPath>(false));
     const auto first = open();
     ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar") && settled(); }));
     log->clear();
@@ -120,7 +111,7 @@ TEST_F(PresentTest, ShowsItsTitleOnlyWhileItIsOnTopAndLoadsOnce) {
 }
 
 TEST_F(PresentTest, FreesEverythingWhenTheHostTakesTheScreenAway) {
-    const auto network = use(std::make_shared<NoNetwork>());
+    const auto network = use(std::make_shared<FakeNetworkPath>(false));
     const auto screen = open();
     ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar"); }));
     platform::URLSessionConfiguration::setDefaultConfiguration({});
@@ -131,7 +122,7 @@ TEST_F(PresentTest, FreesEverythingWhenTheHostTakesTheScreenAway) {
 }
 
 TEST_F(PresentTest, FreesEverythingWithTheHostsWindow) {
-    const auto network = use(std::make_shared<NoNetwork>());
+    const auto network = use(std::make_shared<FakeNetworkPath>(false));
     const auto screen = open();
     ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar"); }));
     platform::URLSessionConfiguration::setDefaultConfiguration({});
@@ -141,7 +132,8 @@ TEST_F(PresentTest, FreesEverythingWithTheHostsWindow) {
 
 TEST_F(PresentTest, DropsTheAnswerOfACallThatOutlivesItsScreen) {
     auto silence = std::make_unique<SilentPort>();
-    const auto network = use(std::make_shared<AnyNetwork>(), {{gateway(), "127.0.0.1", silence->port()}});
+    const auto network =
+        use(std::make_shared<FakeNetworkPath>(true), {{gateway(), "127.0.0.1", silence->port()}});
     const auto screen = open();
     platform::URLSessionConfiguration::setDefaultConfiguration({});
     log->clear();
@@ -157,14 +149,14 @@ TEST_F(PresentTest, DropsTheAnswerOfACallThatOutlivesItsScreen) {
 // What there is to see is that the process ends in good order, with the call still on.
 TEST_F(PresentTest, LetsTheProcessEndInTheMiddleOfACall) {
     static const SilentPort silence;
-    use(std::make_shared<AnyNetwork>(), {{gateway(), "127.0.0.1", silence.port()}});
+    use(std::make_shared<FakeNetworkPath>(true), {{gateway(), "127.0.0.1", silence.port()}});
     const auto screen = open();
     stage.reset();
     EXPECT_TRUE(screen.expired());
 }
 
 TEST_F(PresentTest, AnswersEveryWayOfUsingADialogOnce) {
-    use(std::make_shared<NoNetwork>());
+    use(std::make_shared<FakeNetworkPath>(false));
     const std::string retried = "screen Error";
     const std::string left = "navigateToHome";
     const struct {
@@ -213,7 +205,7 @@ TEST_F(PresentTest, AnswersEveryWayOfUsingADialogOnce) {
 }
 
 TEST_F(PresentTest, RetriesByMouseTouchAndKey) {
-    use(std::make_shared<NoNetwork>());
+    use(std::make_shared<FakeNetworkPath>(false));
     const std::function<void()> ways[] = {
         [&] { stage->click("Actualizar"); }, [&] { stage->touch("Actualizar"); },
         [&] { stage->item("Actualizar")->forceActiveFocus(Qt::TabFocusReason), stage->key(Qt::Key_Return); }};
@@ -231,7 +223,7 @@ TEST_F(PresentTest, RetriesByMouseTouchAndKey) {
 }
 
 TEST_F(PresentTest, KeepsTheKeysInTheDialogAndGivesThemBack) {
-    use(std::make_shared<NoNetwork>());
+    use(std::make_shared<FakeNetworkPath>(false));
     const auto screen = open();
     ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar") && settled(); }));
     QQuickItem* behind = stage->item("Actualizar");
@@ -264,7 +256,7 @@ TEST_F(PresentTest, ReportsAScreenThatItCannotShow) {
         [[nodiscard]] QUrl viewUrl() const override { return QUrl("qrc:/no/such/file.qml"); }
     };
     EXPECT_FALSE(present(std::make_shared<Blank>(), stage->stack()));
-    use(std::make_shared<NoNetwork>());
+    use(std::make_shared<FakeNetworkPath>(false));
     const auto shownBefore = open().lock();
     stage->popAll();
     EXPECT_FALSE(present(shownBefore, stage->stack()));

@@ -134,11 +134,11 @@ TEST_P(OutOfMemory, FailsTheCallAndNotTheNextOne) {
     }
     std::size_t failed = 0;
     bool wasReached = true;
-    for (std::size_t place = 1; wasReached; place += GetParam().step) {
-        SCOPED_TRACE(place);
+    for (std::size_t index = 1; wasReached; index += GetParam().step) {
+        SCOPED_TRACE(index);
         WorkerTrial trial(authority);
         {
-            const FailingAllocation failing(GetParam().allocator, place);
+            const FailingAllocation failing(GetParam().allocator, index);
             std::thread([&] { trial.worker->execute(); }).join();
             ASSERT_NO_FATAL_FAILURE(trial.deliver());
             wasReached = failing.hasFailed();

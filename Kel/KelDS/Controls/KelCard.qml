@@ -1,15 +1,15 @@
 import QtQuick
 import KelDS
 
-// Level 1: one white layer on the sand ground, with a soft shadow where the theme has shadows. Whatever is declared
-// inside becomes its content, inset by `padding`. The shadow is a picture, because both renderers draw pictures alike.
+// A raised surface with a soft shadow if the theme has shadows. Items declared inside become its content, inset by
+// `padding`. The shadow is an image, because the software and the OpenGL renderer draw images alike.
 Rectangle {
     id: card
 
     default property alias content: body.data
     property int padding: KelSpacing.small
     property int bottomPadding: card.padding
-    // Whether the card lies on the ground, from which a hairline and, where the theme has shadows, a shadow set it off.
+    // Whether a hairline and a shadow set the card off from the background.
     property bool elevated: true
 
     implicitHeight: body.childrenRect.height + card.padding + card.bottomPadding

@@ -1,7 +1,7 @@
 import QtQuick
 import KelDS
 
-// The mark of the control that the keys go to: a ring that keeps clear of the control's own edge.
+// Focus indicator: a ring around the control that has the keyboard focus.
 Rectangle {
     property int gap: 3
     property int cornerRadius: KelBorderRadius.button

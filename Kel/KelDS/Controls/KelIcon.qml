@@ -1,7 +1,7 @@
 import QtQuick
 import KelDS
 
-// A glyph of the icon font in a square box. It says nothing to a screen reader: the text beside it does.
+// A glyph of the icon font in a square box. Screen readers ignore it, because the text beside it says the same.
 Text {
     id: icon
 

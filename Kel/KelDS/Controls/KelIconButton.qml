@@ -1,7 +1,7 @@
 import QtQuick
 import KelDS
 
-// A glyph to tap. `text` is what it is called; nothing but a screen reader says it.
+// A tappable icon. `text` is its accessible name and is not shown.
 KelPressable {
     id: button
 

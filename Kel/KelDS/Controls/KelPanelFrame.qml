@@ -1,8 +1,8 @@
 import QtQuick
 import KelDS
 
-// A slice of an expansion panel's outline, for panels that are drawn as rows of a list: a frame that reaches out of the
-// slice where the panel goes on, cut off at the slice's edge. Only the slices at the panel's ends cost a cut.
+// One row's part of an expansion panel's outline, for panels that are drawn as rows of a list. Where the panel
+// continues above or below, the frame extends beyond the row and is clipped.
 Item {
     id: frame
 

@@ -13,7 +13,7 @@ AbstractButton {
     // By touch, key or screen reader.
     signal activated
 
-    // An alert lies over everything in its window but itself. A screen reader reaches what lies under it all the same.
+    // A screen reader can press controls that lie under an open alert.
     function isUnderAlert(): bool {
         const overlay = T.Overlay.overlay
         return overlay !== null && overlay.visible && !pressable.isWithin(pressable, overlay)

@@ -16,7 +16,7 @@ bool isFailureToConnect(CURLcode code) {
 
 URLError::Code urlErrorCode(CURLcode code) {
     using enum URLError::Code;
-    // libcurl has a hundred codes, most of them for protocols that are never spoken here.
+    // Most of libcurl's codes are for protocols that are not used here.
     switch (static_cast<int>(code)) {
     case CURLE_URL_MALFORMAT:
         return badURL;
@@ -35,7 +35,7 @@ URLError::Code urlErrorCode(CURLcode code) {
         return networkConnectionLost;
     case tooLarge:
         return dataLengthExceedsMaximum;
-    // It is the transfer's coding that is bad: libcurl is told to leave the content's alone.
+    // Only the transfer coding can be bad: libcurl does not decode the content coding.
     case CURLE_BAD_CONTENT_ENCODING:
     case CURLE_UNSUPPORTED_PROTOCOL:
     case CURLE_WEIRD_SERVER_REPLY:

@@ -6,10 +6,10 @@
 
 namespace quillet::platform {
 
-/// The code that stands for one of libcurl's.
+/// Maps one of libcurl's codes.
 [[nodiscard]] URLError::Code urlErrorCode(CURLcode code);
 
-/// Whether the code says that the host, or the proxy before it, was not reached.
+/// Whether the code means that the host, or its proxy, was not reached.
 [[nodiscard]] bool isFailureToConnect(CURLcode code);
 
 } // namespace quillet::platform

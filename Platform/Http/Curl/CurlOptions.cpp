@@ -6,7 +6,7 @@ namespace quillet::platform {
 
 void CurlOptions::setTransport(std::chrono::milliseconds connectTimeout) {
     set(CURLOPT_PROTOCOLS_STR, "https");
-    // HTTP/2 lets a server refuse a stream that it has seen, and libcurl then sends the request again by
+    // With HTTP/2 a server may refuse a stream after receiving it, and libcurl then repeats the request by
     // itself.
     set(CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
     set(CURLOPT_FOLLOWLOCATION, 0L);
@@ -18,7 +18,7 @@ void CurlOptions::setTransport(std::chrono::milliseconds connectTimeout) {
     set(CURLOPT_NOSIGNAL, 1L);
     // Where a name has several addresses, each but the last gets half of the time that is left.
     set(CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(connectTimeout.count()));
-    // A name lookup that hangs is left behind when its call is over, instead of holding up the session.
+    // A name lookup that hangs is abandoned when its call ends; otherwise it would block the session.
     set(CURLOPT_QUICK_EXIT, 1L);
 }
 
@@ -26,14 +26,15 @@ void CurlOptions::setTrust(const std::string& caBundleFile) {
     set(CURLOPT_SSL_VERIFYPEER, 1L);
     set(CURLOPT_SSL_VERIFYHOST, 2L);
     set(CURLOPT_SSLVERSION, static_cast<long>(CURL_SSLVERSION_TLSv1_2));
-    // libcurl 7.88 frees a TLS session twice where it has no memory to keep it. Few sessions would be
-    // resumed: a connection is kept where it may be used again.
+    // libcurl 7.88 frees a TLS session twice if it has no memory to cache it. Few sessions would be resumed
+    // anyway, because GET connections are kept open.
     set(CURLOPT_SSL_SESSIONID_CACHE, 0L);
-    // Authorities that were read while memory ran out may lack a key, and would be kept so for a day.
+    // A certificate store that was loaded while memory was short may lack keys, and libcurl would cache it
+    // for a day.
     set(CURLOPT_CA_CACHE_TIMEOUT, 0L);
     if (!caBundleFile.empty()) {
         set(CURLOPT_CAINFO, caBundleFile.c_str());
-        // The system's folder of authorities would otherwise be trusted beside the file.
+        // Otherwise the system's certificate folder would be trusted as well.
         set(CURLOPT_CAPATH, static_cast<const char*>(nullptr));
     }
 }
@@ -66,8 +67,8 @@ void CurlOptions::setRequest(const URLRequest& request, CurlList& headers) {
     }
     set(CURLOPT_CUSTOMREQUEST, method.c_str());
     if (method != "GET" && method != "HEAD") {
-        // On a connection that it had used before and finds closed, libcurl sends a request a second time,
-        // even where the server had taken the first one.
+        // If a reused connection turns out to be closed, libcurl sends the request again, even if the server
+        // has already received it.
         set(CURLOPT_FRESH_CONNECT, 1L);
     }
     setHeaders(request, headers);
@@ -77,11 +78,10 @@ void CurlOptions::setHeaders(const URLRequest& request, CurlList& headers) {
     append(headers, "Accept-Encoding: gzip");
     for (const auto& [name, value] : request.headerFields.all()) {
         const bool isBlank = value.find_first_not_of(" \t") == std::string::npos;
-        // A name with a colon and nothing behind it would take the header away; with a semicolon it is sent
-        // empty.
+        // "Name:" would remove the header; "Name;" sends it with an empty value.
         append(headers, isBlank ? name + ";" : name + ": " + value);
     }
-    // What libcurl would add by itself. "Expect" could make it send the request again.
+    // Headers that libcurl would add. With "Expect" it may send the request again.
     for (const char* const name : {"Accept", "Content-Type", "Expect"}) {
         if (!request.headerFields.value(name)) {
             append(headers, std::string(name) + ":");

@@ -15,8 +15,8 @@ struct CurlListEnd {
 };
 using CurlList = std::unique_ptr<curl_slist, CurlListEnd>;
 
-/// Tells libcurl how to make one exchange. Remembers the first option that was refused: an exchange that
-/// lacks one, verification above all, must not take place.
+/// Sets libcurl's options for one exchange. Keeps the first failure: an exchange with a missing option, such
+/// as certificate verification, must not be sent.
 class CurlOptions {
 public:
     /// `easy` may be null, which is a failure of its own.
@@ -29,13 +29,13 @@ public:
         }
     }
 
-    /// What holds for every exchange, and how long connecting may take.
+    /// Options of every exchange, and the time-out for connecting.
     void setTransport(std::chrono::milliseconds connectTimeout);
-    /// Whom to trust; an empty file name for the system's authorities.
+    /// The trusted certificate authorities; an empty file name means the system's.
     void setTrust(const std::string& caBundleFile);
-    /// Where to connect to. libcurl goes on reading `connectTo`.
+    /// The address to connect to. libcurl keeps a pointer to `connectTo`.
     void setRoute(const HostMapping* mapping, CurlList& connectTo);
-    /// What to send. libcurl goes on reading `request` and `headers`.
+    /// The request. libcurl keeps pointers to `request` and `headers`.
     void setRequest(const URLRequest& request, CurlList& headers);
 
     [[nodiscard]] CURLcode failure() const { return failure_; }

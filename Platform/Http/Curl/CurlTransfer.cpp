@@ -33,8 +33,8 @@ CurlTransfer::create(const URLRequest& request, const URLSessionConfiguration& c
 CURLcode CurlTransfer::tlsBegins(CURL* easy, void* tlsContext, void* transfer) {
     auto& self = *static_cast<CurlTransfer*>(transfer);
     self.hasTlsBegun_ = true;
-    // The time for connecting is over. From here on only the session keeps the time, by its own clock;
-    // libcurl's default of five minutes must not cut in either.
+    // Connecting has ended, and only the session's clock counts from here on. This replaces libcurl's default
+    // of five minutes as well.
     constexpr long oneDayInSeconds = 24L * 60 * 60;
     if (const CURLcode code = curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT, oneDayInSeconds);
         code != CURLE_OK) {
@@ -63,8 +63,8 @@ URLSessionOutcome CurlTransfer::outcome(CURLcode code) {
     return {.data = *std::move(body), .response = response()};
 }
 
-// libcurl takes an answer for whole that ends within its head, and a body that nothing delimits for whole
-// wherever its connection is cut.
+// libcurl accepts a response that ends inside its headers, and a body without a length wherever the
+// connection is cut.
 std::optional<URLError> CurlTransfer::faultOfFraming() const {
     if (isHeadComplete_ && isWithoutBody()) {
         return std::nullopt;
@@ -74,8 +74,8 @@ std::optional<URLError> CurlTransfer::faultOfFraming() const {
     if (!isChunked && !coding.empty() && !equalIgnoringCase(coding, "identity")) {
         return URLError{URLError::Code::cannotParseResponse, "The answer's transfer coding is unknown"};
     }
-    // A transfer coding, even that of none, overrides the length. libcurl announces none that is not a number
-    // of its own size.
+    // A transfer coding, even "identity", overrides the length. libcurl ignores a length that does not fit
+    // its own type.
     curl_off_t announced = -1;
     curl_easy_getinfo(handle(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
     const bool isLengthKept = coding.empty() && announced >= 0;
@@ -102,7 +102,7 @@ URLError CurlTransfer::error(CURLcode code) {
         return URLError::of(URLError::Code::serverCertificateUntrusted, message);
     }
     if (code == CURLE_OUT_OF_MEMORY && isRequestBegun() && !isHeadComplete_) {
-        // What libcurl before 8.6 says to a single header line of more than 100 KiB.
+        // The code of libcurl before 8.6 for a header line of more than 100 KiB.
         return URLError::of(URLError::Code::dataLengthExceedsMaximum,
                             "A line of the answer's head is too long");
     }
@@ -115,8 +115,7 @@ std::expected<void, URLError> CurlTransfer::receiveHeader(std::string_view line)
         return std::unexpected(
             URLError{URLError::Code::dataLengthExceedsMaximum, "The answer's head is too large"});
     }
-    // Each head, of which a preliminary answer has one of its own, ends with an empty line. Trailers have
-    // none.
+    // Headers end with an empty line, those of an informational response too. Trailers do not.
     if (line.starts_with("HTTP/")) {
         isHeadComplete_ = false;
     } else if (!isHeadComplete_ && (line == "\r\n" || line == "\n")) {
@@ -162,8 +161,8 @@ std::expected<void, URLError> CurlTransfer::beginBody() {
 template <std::expected<void, URLError> (CurlTransfer::*receive)(std::string_view)>
 std::size_t CurlTransfer::callback(char* bytes, std::size_t size, std::size_t count, void* transfer) {
     auto& self = *static_cast<CurlTransfer*>(transfer);
-    // No exception may pass through libcurl, which takes any other number than the one it gave as an order to
-    // end.
+    // Exceptions must not propagate through libcurl. It aborts the transfer if the callback returns another
+    // number than it was given.
     try {
         auto received = (self.*receive)({bytes, size * count});
         if (received) {

@@ -17,30 +17,30 @@
 
 namespace quillet::platform {
 
-/// One exchange in libcurl's hands. Belongs to the session's thread.
+/// One transfer of libcurl. Used on the session's thread only.
 class CurlTransfer {
 public:
-    /// All headers of an answer together may have this many bytes. Real ones have a few thousand.
+    /// Limit for all headers of a response together, in bytes. Real ones have a few thousand.
     static constexpr std::size_t maximumHeaderBytes = 256 << 10;
 
     /// `request` must stay where it is for as long as the transfer lives. Throws std::bad_alloc.
     [[nodiscard]] static std::expected<std::unique_ptr<CurlTransfer>, URLError>
     create(const URLRequest& request, const URLSessionConfiguration& configuration);
 
-    /// It must not be in a multi handle any more.
+    /// The transfer must have been removed from its multi handle.
     ~CurlTransfer() = default;
     CurlTransfer(const CurlTransfer&) = delete;
     CurlTransfer& operator=(const CurlTransfer&) = delete;
 
     [[nodiscard]] CURL* handle() const { return easy_.get(); }
 
-    /// Whether TLS has begun on a connection that was made for this exchange. Before it nothing of the
-    /// request is sent, unless the exchange uses a connection that was there before.
+    /// Whether the TLS handshake has begun on a new connection for this exchange. Nothing of the request is
+    /// sent before it, unless a connection is reused.
     [[nodiscard]] bool hasTlsBegun() const { return hasTlsBegun_; }
     /// Whether some of the request was sent.
     [[nodiscard]] bool isRequestBegun() const;
 
-    /// What the exchange came to, once libcurl is done with it. Gives the body away.
+    /// The result, once libcurl has finished the transfer. Moves the body out.
     [[nodiscard]] URLSessionOutcome outcome(CURLcode code);
 
 private:
@@ -64,21 +64,21 @@ private:
     template <std::expected<void, URLError> (CurlTransfer::*receive)(std::string_view)>
     static std::size_t callback(char* bytes, std::size_t size, std::size_t count, void* transfer);
 
-    // libcurl keeps reading these for as long as it has the handle, so they are freed after it.
+    // libcurl keeps pointers to these, so they are destroyed after the handle.
     CurlList headers_;
     CurlList connectTo_;
     std::array<char, CURL_ERROR_SIZE> message_{};
     std::unique_ptr<CURL, End> easy_{curl_easy_init()};
     std::size_t headerBytes_ = 0;
     bool isHeadComplete_ = false;
-    /// Of the connection that is made for this transfer, if one is.
+    /// State of the new connection of this transfer, if there is one.
     std::shared_ptr<TlsState> newConnection_ = std::make_shared<TlsState>();
     bool hasTlsBegun_ = false;
-    /// Of the connection that brings the answer, from the end of its head on.
+    /// State of the connection that delivers the response, from the end of its headers on.
     std::shared_ptr<const TlsState> connection_;
     bool hasBody_ = false;
     ResponseBody body_;
-    /// Why the answer was refused, if it was.
+    /// Why the response was rejected, if it was.
     std::optional<URLError> refusal_;
 };
 

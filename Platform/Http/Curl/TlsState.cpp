@@ -15,9 +15,9 @@ void release(void*, void* shared, CRYPTO_EX_DATA*, int, long, void*) {
     delete static_cast<Shared*>(shared);
 }
 
-// The place in a context, of which libcurl makes one for each connection, that holds a Shared.
-// Negative where there was no memory for it; the next one to ask tries again.
-int place() {
+// Index of our data in an SSL_CTX, of which libcurl makes one for each connection. Negative if it could not
+// be allocated; the next caller tries again.
+int dataIndex() {
     static std::mutex mutex;
     static int index = -1;
     const std::lock_guard lock(mutex);
@@ -28,7 +28,7 @@ int place() {
 }
 
 Shared* sharedOf(const SSL* tls) {
-    return static_cast<Shared*>(SSL_CTX_get_ex_data(SSL_get_SSL_CTX(tls), place()));
+    return static_cast<Shared*>(SSL_CTX_get_ex_data(SSL_get_SSL_CTX(tls), dataIndex()));
 }
 
 void noteAlert(const SSL* tls, int event, int alert) {
@@ -46,7 +46,7 @@ void noteAlert(const SSL* tls, int event, int alert) {
 CURLcode TlsState::watch(void* tlsContext, const Shared& state) noexcept {
     auto* const context = static_cast<SSL_CTX*>(tlsContext);
     std::unique_ptr<Shared> shared(new (std::nothrow) Shared(state));
-    if (!shared || !SSL_CTX_set_ex_data(context, place(), shared.get())) {
+    if (!shared || !SSL_CTX_set_ex_data(context, dataIndex(), shared.get())) {
         return CURLE_OUT_OF_MEMORY;
     }
     static_cast<void>(shared.release());

@@ -6,22 +6,23 @@
 
 namespace quillet::platform {
 
-/// What libcurl does not tell of a connection's TLS. Touched on the session's thread only; kept alive by the
-/// connection and by the transfers that look at it.
+/// State of a connection's TLS that libcurl does not report. Used on the session's thread only. Shared by the
+/// connection and by the transfers that use it.
 struct TlsState {
-    /// TLS came to its own end, and was not merely cut off. libcurl takes the one for the other, and with it,
-    /// where nothing announces a body's length, part of a body for the whole.
+    /// The peer sent close_notify. libcurl treats a truncated connection as a clean close, so without a
+    /// Content-Length a partial body would look complete.
     bool isEndedProperly = false;
-    /// The handshake failed over the server's certificate. libcurl calls it that only where no other part of
-    /// OpenSSL complained first, as it does about a signature that is not the authority's.
+    /// The handshake failed because of the server's certificate. libcurl reports
+    /// CURLE_PEER_FAILED_VERIFICATION only if no other part of OpenSSL has queued an error first, as it does
+    /// for a wrong signature.
     bool isCertificateRefused = false;
 
-    /// Makes `state` that of the connection that is about to be made with the context, an SSL_CTX. To be
-    /// called within CURLOPT_SSL_CTX_FUNCTION, whose result it gives.
+    /// Attaches `state` to the connection that will be made with the context, an SSL_CTX. Call it from
+    /// CURLOPT_SSL_CTX_FUNCTION and return its result.
     [[nodiscard]] static CURLcode watch(void* tlsContext, const std::shared_ptr<TlsState>& state) noexcept;
 
-    /// The state of the connection that the transfer is using, which may be older than the transfer; null if
-    /// it uses none. To be asked while the transfer runs.
+    /// The state of the transfer's connection, which may be older than the transfer; null if it has none.
+    /// Valid while the transfer runs.
     [[nodiscard]] static std::shared_ptr<const TlsState> of(CURL* easy);
 };
 

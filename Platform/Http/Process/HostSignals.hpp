@@ -2,8 +2,8 @@
 
 namespace quillet::platform {
 
-/// Blocks, for the calling thread, every signal that is not a fault of its own: the host's handlers run on
-/// the host's threads. SIGPIPE in particular, which a peer that closes early can cause, then reaches nobody.
+/// Blocks all asynchronous signals for the calling thread, so that the host's handlers run on the host's
+/// threads. A SIGPIPE caused by a peer that closes early is blocked too.
 void leaveSignalsToTheHost();
 
 } // namespace quillet::platform

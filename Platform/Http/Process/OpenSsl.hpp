@@ -2,13 +2,12 @@
 
 namespace quillet::platform {
 
-/// Makes OpenSSL ready and keeps it so until the process is gone. Left alone, it would take itself down when
-/// main returns, under the feet of sessions whose threads nobody waits for. To be called before OpenSSL is
-/// used in any way; may be called again and on any thread.
+/// Initialises OpenSSL without its exit handler. That handler would free OpenSSL when main returns, while
+/// detached session threads may still use it. Call it before any other use of OpenSSL; it may be called again
+/// and on any thread.
 void keepOpenSslToTheEnd();
 
-/// Gives back what OpenSSL holds for the calling thread, which would otherwise happen after the thread's last
-/// line.
+/// Frees OpenSSL's thread-local data of the calling thread now, and not in a thread-exit handler.
 void leaveOpenSsl();
 
 } // namespace quillet::platform

@@ -7,7 +7,7 @@ namespace quillet::platform {
 
 namespace {
 
-// Never torn down: it is there for those who come late.
+// Never destroyed, because detached threads may use it during exit.
 std::shared_timed_mutex& gate() {
     static auto& mutex = *new std::shared_timed_mutex;
     return mutex;
@@ -16,9 +16,9 @@ std::shared_timed_mutex& gate() {
 } // namespace
 
 void ProcessEnd::watch() {
-    // Made now: at the process's end there may be no memory for it.
+    // Allocated now, because an allocation during exit may fail.
     gate();
-    // What is registered later is called earlier.
+    // Exit handlers run in reverse order of registration.
     std::atexit([] { static_cast<void>(gate().try_lock_for(std::chrono::seconds(1))); });
 }
 

@@ -4,18 +4,17 @@
 
 namespace quillet::platform {
 
-/// Keeps threads that nobody waits for out of the libraries that the end of the process takes down. OpenSSL,
-/// say, goes down when main returns, if the host was the first to use it.
+/// Stops detached session threads from calling OpenSSL once exit handlers have begun tearing it down. That
+/// happens when main returns if the host was the first to use OpenSSL.
 class ProcessEnd {
 public:
     using Lock = std::shared_lock<std::shared_timed_mutex>;
 
-    /// To be called after the libraries were made ready and before the first lock; once. When the process
-    /// ends, this waits for the locks that are held, a second at the most, before those libraries are taken
-    /// down.
+    /// Registers the exit handler. Call it once, after the libraries were initialised and before the first
+    /// lock. At exit it waits up to one second for the locks that are held.
     static void watch();
 
-    /// A lock, held. Whoever asks for one while the process ends waits until it is gone.
+    /// A held lock. A thread that asks for one during exit blocks until the process has ended.
     [[nodiscard]] static Lock lock();
 };
 

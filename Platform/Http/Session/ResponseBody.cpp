@@ -20,7 +20,7 @@ std::unexpected<URLError> damaged() {
 
 std::expected<void, URLError> ResponseBody::begin(std::string_view encoding, std::size_t announcedBytes) {
     if (encoding.empty() || equalIgnoringCase(encoding, "identity")) {
-        // The announced length is the server's word only: it saves copying.
+        // The announced length is only a hint for reserving memory.
         bytes_.reserve(std::min(announcedBytes, maximumBytes_));
         return {};
     }
@@ -56,7 +56,7 @@ std::expected<void, URLError> ResponseBody::appendPacked(std::string_view bytes)
     stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(bytes.data()));
     stream.avail_in = static_cast<uInt>(bytes.size());
     do {
-        // A packed body may be several packed pieces, one behind the other.
+        // A gzip body may consist of several members.
         if (!std::exchange(isInsidePacking_, true) && inflateReset(&stream) != Z_OK) {
             return damaged();
         }

@@ -12,21 +12,21 @@
 
 namespace quillet::platform {
 
-/// Collects an answer's body and unpacks it. libcurl could unpack too, but takes a packed body that ends
-/// early for a whole one. Throws std::bad_alloc where there is no memory.
+/// Collects and decompresses a response body. libcurl's own decompression accepts a truncated gzip body as
+/// complete. Throws std::bad_alloc.
 class ResponseBody {
 public:
-    /// `maximumBytes` counts after unpacking.
+    /// `maximumBytes` is the limit after decompression.
     explicit ResponseBody(std::size_t maximumBytes) : maximumBytes_(maximumBytes) {}
 
-    /// To be called before the first byte: how the body is packed, in the words of Content-Encoding (none for
-    /// nothing), and how many bytes are announced to come.
+    /// Call it before the first byte, with the value of Content-Encoding (empty for none) and the announced
+    /// length in bytes.
     [[nodiscard]] std::expected<void, URLError> begin(std::string_view encoding, std::size_t announcedBytes);
 
-    /// An error if the body becomes larger than allowed, or its packing is damaged.
+    /// Fails if the body exceeds the limit or its compression is damaged.
     [[nodiscard]] std::expected<void, URLError> append(std::string_view bytes);
 
-    /// The whole body; an error if its packing has not come to its end.
+    /// The complete body; fails if the compressed stream has not ended.
     [[nodiscard]] std::expected<std::string, URLError> take();
 
 private:

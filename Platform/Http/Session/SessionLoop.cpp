@@ -34,8 +34,8 @@ URLSessionConfiguration completed(URLSessionConfiguration configuration) {
 
 SessionLoop::SessionLoop(URLSessionConfiguration configuration)
     : configuration_(completed(std::move(configuration))) {
-    // As early as possible, for the sake of the order in which the process ends. Each call asks for the
-    // error.
+    // Early, so that libcurl's exit handlers are registered before the host's later ones. Each call checks
+    // the error.
     static_cast<void>(initialiseCurl());
 }
 
@@ -61,7 +61,7 @@ void SessionLoop::start(URLSessionExchange exchange) {
 bool SessionLoop::startThread() {
     multi_ = curl_multi_init();
     try {
-        // A multi handle that found no file descriptors for waking it up would sleep through every call.
+        // Without its wake-up file descriptors a multi handle would not notice new calls while it polls.
         if (multi_ && curl_multi_wakeup(multi_) == CURLM_OK) {
             std::thread([self = shared_from_this()] { self->run(); }).detach();
             return true;
@@ -90,24 +90,24 @@ void SessionLoop::wakeUp() {
     }
 }
 
-template <typename Foreign>
-void SessionLoop::outside(Foreign foreign) {
-    struct Outside {
-        explicit Outside(ProcessEnd::Lock& work) : work_(work) { work_.unlock(); }
-        ~Outside() { work_.lock(); }
+template <typename Callback>
+void SessionLoop::withoutLock(Callback callback) {
+    struct Unlocked {
+        explicit Unlocked(ProcessEnd::Lock& work) : work_(work) { work_.unlock(); }
+        ~Unlocked() { work_.lock(); }
         ProcessEnd::Lock& work_;
     };
-    const Outside guard(work_);
-    foreign();
+    const Unlocked guard(work_);
+    callback();
 }
 
 template <typename Tell>
 void SessionLoop::tellObserver(Tell tell) {
     if (configuration_.observer) {
         try {
-            outside([&] { tell(*configuration_.observer); });
+            withoutLock([&] { tell(*configuration_.observer); });
         } catch (...) {
-            // Watching must not change what is watched.
+            // An observer's exception must not affect the call.
         }
     }
 }
@@ -126,8 +126,8 @@ void SessionLoop::run() noexcept {
         if (endIfDone()) {
             return;
         }
-        // A wake-up that comes before the poll is not lost: it ends the poll at once.
-        outside([&] { curl_multi_poll(multi_, nullptr, 0, millisecondsToSleep(), nullptr); });
+        // A wake-up before the poll is kept and ends the poll at once.
+        withoutLock([&] { curl_multi_poll(multi_, nullptr, 0, millisecondsToSleep(), nullptr); });
     }
 }
 
@@ -192,7 +192,7 @@ void SessionLoop::finishTransferredCalls() {
 }
 
 void SessionLoop::finishTransferredCall(Calls::iterator call, CURLcode code) {
-    // Only connecting has a time-out of libcurl's.
+    // libcurl's only time-out is that for connecting.
     const bool isConnectTimeout = code == CURLE_OPERATION_TIMEDOUT && !call->transfer->hasTlsBegun();
     if ((isConnectTimeout || isFailureToConnect(code)) && !isNetworkThere(*call)) {
         finish(call, {.error = URLError::of(URLError::Code::notConnectedToInternet, "There is no network")});
@@ -216,11 +216,11 @@ bool SessionLoop::isNetworkThere(const Call& call) {
     const std::string& host = call.exchange.request.url.host;
     bool isThere = true;
     try {
-        outside([&] {
+        withoutLock([&] {
             isThere = configuration_.networkPath->isSatisfied(host, configuration_.mapping(host) != nullptr);
         });
     } catch (...) {
-        // Whoever cannot tell does not say that there is none.
+        // If the monitor fails, assume that there is a network.
     }
     return isThere;
 }
@@ -254,21 +254,21 @@ void SessionLoop::finish(Calls::iterator call, URLSessionOutcome outcome) {
             std::chrono::duration_cast<std::chrono::milliseconds>(configuration_.clock->now() - call->start);
         observer.didEnd(call->number, call->exchange.request, end);
     });
-    outside([&] {
+    withoutLock([&] {
         auto completionHandler = std::move(call->exchange.completionHandler);
         completionHandler(std::move(outcome.data), outcome.response, std::move(outcome.error));
     });
 }
 
 int SessionLoop::millisecondsToSleep() const {
-    // Without a call there is nothing to wait for but a wake-up.
+    // Without calls, only a wake-up ends the wait.
     std::chrono::milliseconds wait = std::chrono::hours(1);
     const auto now = configuration_.clock->now();
     for (const auto& call : running_) {
         wait = std::min(wait, std::chrono::ceil<std::chrono::milliseconds>(call.deadline - now));
         if (call.transfer && !call.transfer->hasTlsBegun() && !call.transfer->isRequestBegun()) {
-            // libcurl 7.88 gives an address up in time, but goes on to the next one only when it is called
-            // again, and does not ask for that.
+            // libcurl 7.88 gives up an address in time, but tries the next one only when it is called again,
+            // without setting a timer for it.
             wait = std::min(wait, std::chrono::milliseconds(250));
         }
     }

@@ -14,18 +14,19 @@
 
 namespace quillet::platform {
 
-/// A session's engine and its thread. The thread keeps the loop alive and ends when no call is left and the
-/// owner is gone; the thread is detached, so it uses nothing that the end of main could take away.
+/// Runs a session's transfers on a background thread. The thread owns the loop. It ends when no call is left
+/// and the owner is destroyed. It is detached, so it must not use objects with static storage duration that
+/// are destroyed at exit.
 class SessionLoop final : public SessionClockListening, public std::enable_shared_from_this<SessionLoop> {
 public:
     explicit SessionLoop(URLSessionConfiguration configuration);
 
-    /// Starts a call; the first one starts the thread. Any thread, as long as the owner is there. Where the
-    /// system gives no thread the completion is called at once, on the caller's. Throws std::bad_alloc where
-    /// there is no memory for the call, which then is forgotten and never completed.
+    /// Starts a call; the first call starts the thread. May be called on any thread while the owner exists.
+    /// If no thread can be started the completion is called at once on the caller's thread. Throws
+    /// std::bad_alloc if the call cannot be stored; its completion is then never called.
     void start(URLSessionExchange exchange);
 
-    /// No call will be started any more. Any thread, once.
+    /// Says that no more calls will be started. Called once, on any thread.
     void ownerIsGone();
 
     void clockDidJump() override;
@@ -40,14 +41,14 @@ private:
         TimePoint deadline;
         std::unique_ptr<CurlTransfer> transfer = nullptr;
     };
-    // A call stays in its node from start to end: libcurl reads the request where it lies, and moving nodes
-    // takes no memory.
+    // A list, because libcurl keeps pointers into the call's request, and splicing nodes neither moves them
+    // nor allocates.
     using Calls = std::list<Call>;
 
     bool startThread();
     void wakeUp();
 
-    // From here on: on the session's thread only.
+    // The functions below run on the session's thread only.
     void run() noexcept;
     void beginArrivedCalls();
     void begin(Calls::iterator call);
@@ -59,8 +60,8 @@ private:
     void finishAllCalls(CURLMcode code);
     void finish(Calls::iterator call, URLSessionOutcome outcome);
     [[nodiscard]] bool isNetworkThere(const Call& call);
-    template <typename Foreign>
-    void outside(Foreign foreign);
+    template <typename Callback>
+    void withoutLock(Callback callback);
     template <typename Tell>
     void tellObserver(Tell tell);
     [[nodiscard]] int millisecondsToSleep() const;
@@ -69,18 +70,18 @@ private:
     const URLSessionConfiguration configuration_;
 
     std::mutex mutex_;
-    // Guarded by the mutex. The multi handle itself belongs to the session's thread; others only wake it up.
+    // Guarded by the mutex. Only the session's thread uses the multi handle; other threads only wake it up.
     Calls arrived_;
     CURLM* multi_ = nullptr;
     bool ownerIsGone_ = false;
 
-    // The session's thread's own. The lock is held while libcurl works, and neither while the thread waits
-    // nor while it is in somebody else's code.
+    // Used by the session's thread only. The lock is held while libcurl runs, but not while the thread polls
+    // or calls code of others.
     ProcessEnd::Lock work_;
     Calls running_;
 };
 
-/// What a session and its tasks share: as long as one of them is there, calls may be started.
+/// Shared by a session and its tasks. Calls may be started while one of them exists.
 class SessionOwner {
 public:
     explicit SessionOwner(URLSessionConfiguration configuration);

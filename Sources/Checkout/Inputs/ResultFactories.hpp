@@ -7,8 +7,7 @@
 
 namespace quillet {
 
-/// Turns one kind of result into the root view of its screen. The view's weak delegates become the screen
-/// passed in.
+/// Builds the root view of one kind of result. The screen that is passed in becomes the view's weak delegate.
 template <typename Input>
 class ResultViewCreating {
 public:
@@ -23,7 +22,7 @@ using AllProductsAddedCreating = ResultViewCreating<AllProductsAddedFactoryInput
 using ProductsPartiallyAddedCreating = ResultViewCreating<ProductsPartiallyAddedFactoryInput>;
 using NoProductAddedCreating = ResultViewCreating<NoProductAddedFactoryInput>;
 
-/// What the three results look like.
+/// Build the root views of the three results.
 [[nodiscard]] std::unique_ptr<ProductsCheckoutStatusView>
 resultView(AllProductsAddedFactoryInput input, ProductsCheckoutStatusViewController& viewController);
 [[nodiscard]] std::unique_ptr<ProductsCheckoutStatusView>

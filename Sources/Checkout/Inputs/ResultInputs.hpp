@@ -9,8 +9,8 @@
 
 namespace quillet {
 
-/// What each result screen is made of. The counters are the back end's own; each record filters the products
-/// itself and keeps their order, so every list parameter takes all the products of the response.
+/// Inputs of the result screens. The counters come from the back end. Each record filters the products itself
+/// and keeps their order, so every list parameter takes all products of the response.
 
 struct AllProductsAddedFactoryInput {
     AllProductsAddedFactoryInput(QString cycle, std::uint64_t totalAddedProductsPoints,

@@ -9,8 +9,8 @@
 
 namespace quillet {
 
-/// The screen between the send tap and the result. It has no content of its own: it covers itself while the
-/// checkout runs, and then makes way for a result screen or shows the generic error.
+/// The screen between the send tap and the result. It has no content: it shows the loading overlay while the
+/// checkout runs, and then pushes a result screen or shows the generic error.
 class CheckoutViewController final : public quillet::ModuleViewController, public CheckoutViewModelDelegate {
     Q_OBJECT
     QML_ELEMENT
@@ -41,7 +41,8 @@ private:
     std::shared_ptr<CheckoutViewModeling> viewModel_;
     std::unique_ptr<CheckoutRoutering> router_;
     std::unique_ptr<ViewControllerWrapperCreating> wrapperFactory_;
-    // Handed in by the factory. This flow shows no try-again view, and the screen builds its dialog itself.
+    // Passed in by the factory but not used: this flow has no try-again view, and the screen builds its
+    // dialog itself.
     std::unique_ptr<TryAgainCreating> tryAgainFactory_;
     std::unique_ptr<DialogCreating> dialogFactory_;
     std::weak_ptr<QuilletNavigationDelegate> navigationDelegate_;

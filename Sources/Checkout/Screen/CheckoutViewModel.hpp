@@ -10,8 +10,8 @@
 
 namespace quillet {
 
-/// Starts the checkout and picks what its answer leads to. Owned by the screen, which it knows weakly; owns
-/// the worker, which knows it weakly. Keeps nothing of an answer. Main thread only.
+/// Starts the checkout and decides what follows its answer. Owned by the screen, which it holds weakly; owns
+/// the worker, which holds it weakly. Stores no answer. Main thread only.
 class CheckoutViewModel final : public CheckoutViewModeling,
                                 public CheckoutWorkerDelegate,
                                 public std::enable_shared_from_this<CheckoutViewModel> {

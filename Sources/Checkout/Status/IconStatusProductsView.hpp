@@ -9,7 +9,7 @@
 
 namespace quillet {
 
-/// The icon at the top of a result: an icon of the catalogue on a disc in the result's tone, some with a
+/// The icon at the top of a result: a catalogue icon on a disc in the result's colour, optionally with a
 /// small mark at its edge. Main thread only.
 class IconStatusProductsView : public quillet::ThemedView {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
     /// The colour of disc and mark.
     [[nodiscard]] virtual QColor tone() const = 0;
     [[nodiscard]] virtual bool hasMark() const { return true; }
-    /// Of no meaning without a mark.
+    /// Unspecified without a mark.
     [[nodiscard]] virtual int markNumber() const { return 0; }
     [[nodiscard]] int iconSize() const { return sizing_->mediumX(); }
     [[nodiscard]] int markSize() const { return sizing_->small(); }

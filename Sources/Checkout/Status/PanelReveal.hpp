@@ -8,22 +8,21 @@
 
 namespace quillet {
 
-/// Cuts a panel off at a share of its height, as rows see it: those above the cut are whole, one is cut, and
-/// nothing is left of those below. Row 0 is the first below the head; heights are in device-independent
-/// pixels.
+/// Computes which part of each row is visible while a panel opens or closes: the panel is cut off at a share
+/// of its height. Row 0 is the first below the head; heights are in device-independent pixels.
 class PanelReveal {
 public:
     /// Forgets the heights of the panel before.
     void begin() { heights_.clear(); }
 
-    /// Whether the height is news.
+    /// Returns whether the height has changed.
     bool setHeight(int row, double height) {
         const auto index = static_cast<std::size_t>(std::max(0, row));
         heights_.resize(std::max(heights_.size(), index + 1));
         return std::exchange(heights_[index], height) != height;
     }
 
-    /// How much of a row is above the cut: nothing of one whose height is not known. `share` is from 0 to 1.
+    /// Visible height of a row; 0 if the row's height is unknown. `share` is from 0 to 1.
     [[nodiscard]] double shown(int row, double share) const {
         const auto index = static_cast<std::size_t>(std::max(0, row));
         if (index >= heights_.size()) {

@@ -9,8 +9,8 @@
 
 namespace quillet {
 
-/// A product's row. It holds the product alone and words its texts when they are asked for, so that a list of
-/// ten thousand costs what its records cost.
+/// A product's row. It holds the product only and formats its texts on request, so that a list of ten
+/// thousand rows needs no more memory than its records.
 class ProductView {
 public:
     explicit ProductView(Product product) : product_(std::move(product)) {}
@@ -28,14 +28,14 @@ private:
     Product product_;
 };
 
-/// The row of a product that was not sent: the same, and below it a tag. The tag says by its colour alone
-/// that there is a reason; the reason itself is not shown.
+/// The row of a product that was not sent: the same with a tag below. The tag has a colour and no text; the
+/// reason is not shown.
 class UnshippedProductView {
 public:
     explicit UnshippedProductView(Product product) : productView_(std::move(product)) {}
 
     [[nodiscard]] const ProductView& productView() const { return productView_; }
-    /// What the tag reads, which is nothing.
+    /// The tag's text, which is empty.
     [[nodiscard]] static QString reasonTagText() { return {}; }
     [[nodiscard]] ProductRow row() const;
 

@@ -11,7 +11,7 @@ ListView {
     id: list
 
     required property ProductsCheckoutStatusView status
-    // What the list's parts are given, here, where the types of what C++ hands in are known.
+    // Read here, because types are not known inside the components below.
     readonly property ShippingStatusProductsView products: list.status.products
     readonly property rememberLabel rememberLabel: list.status.rememberLabel
     readonly property button goToCartButton: list.status.goToCartButton

@@ -11,7 +11,7 @@
 
 namespace quillet {
 
-/// Hears of taps on a result. Main thread only.
+/// Receives taps on a result screen. Main thread only.
 class ProductsCheckoutStatusViewDelegate {
 public:
     virtual ~ProductsCheckoutStatusViewDelegate() = default;
@@ -65,7 +65,8 @@ private:
     std::unique_ptr<ShippingStatusProductsView> shippingStatusProductsView_;
     std::unique_ptr<Coloring> colors_;
     std::unique_ptr<ButtonCreating> buttonFactory_;
-    // Handed in by the factory. The QML that lays the view out reads the same tokens from the design system.
+    // Passed in by the factory but not used: the QML that lays out the view reads these tokens from the
+    // design system.
     std::unique_ptr<Spacing> spacing_;
     std::unique_ptr<Sizing> sizing_;
 };

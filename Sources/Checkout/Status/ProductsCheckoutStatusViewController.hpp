@@ -34,8 +34,8 @@ public:
 
     [[nodiscard]] QUrl viewUrl() const override;
 
-    /// Sends the event, covers the screen, and asks the host to open the cart. The cover stays: the host
-    /// takes over.
+    /// Sends the event, shows the loading overlay and asks the host to open the cart. The overlay stays,
+    /// because the host takes over.
     void didTapGoToCartButton() override;
     void didExpandProductsSent() override;
     void didHideProductsSent() override;

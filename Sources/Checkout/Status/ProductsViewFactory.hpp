@@ -13,10 +13,9 @@ struct ProductsView {
     std::vector<ProductDisplayable> productViews;
 };
 
-/// An expansion panel of the design system as the list draws it: a head in a tone, and an outline around head
-/// and rows.
+/// Data of an expansion panel: a head with a coloured title, and an outline around head and rows.
 struct ExpansionPanel {
-    /// The token of the title's colour, read anew when the theme changes.
+    /// Returns the title's colour in the current theme.
     QColor (*tone)();
     QString title;
     ProductsView content;

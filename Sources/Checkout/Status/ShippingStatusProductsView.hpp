@@ -15,7 +15,7 @@
 
 namespace quillet {
 
-/// Hears of sections that open and close. Main thread only; once for each tap on a section's head.
+/// Is notified when sections open and close: once for each tap on a section's head, on the main thread.
 class ShippingStatusProductsViewDelegate {
 public:
     virtual ~ShippingStatusProductsViewDelegate() = default;
@@ -25,13 +25,13 @@ public:
     virtual void didHideProductsNotSent() = 0;
 };
 
-/// The two sections of products, flattened into the rows of one list: a section's head, and below it a row a
-/// product while it is open. A row's values are worked out when it comes into view, so ten thousand products
+/// List model of the two product sections: for each section a head row, and below it one row for each product
+/// while the section is open. A row's data is computed when the row becomes visible, so ten thousand products
 /// cost no more to show than ten. Sections start open.
 ///
-/// A section opens and closes in 200 ms, in which only the rows that can be seen take part: those further
-/// down are put into the list after it has opened, and taken out before it closes. A tap meanwhile turns it
-/// round. With reduced motion it is open or closed at once. Main thread only.
+/// Opening and closing is animated for 200 ms. Only the visible rows take part: the others are inserted after
+/// opening and removed before closing. A tap during the animation reverses it. With reduced motion there is
+/// no animation. Main thread only.
 class ShippingStatusProductsView final : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -66,8 +66,8 @@ public:
     [[nodiscard]] std::shared_ptr<ShippingStatusProductsViewDelegate> delegate() const {
         return delegate_.lock();
     }
-    /// Stacks the sections that are present, the shipped one first, and from then on tells the delegate of
-    /// taps.
+    /// Adds the sections that are present, the shipped one first. Taps are reported to the delegate from then
+    /// on.
     void setup();
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -81,9 +81,10 @@ public:
     /// rows below the head there is room for on the screen.
     Q_INVOKABLE void toggle(int row, int rowsInView);
 
-    /// Tells how high a moving row is when all of it shows.
+    /// Reports the full height of a moving row.
     Q_INVOKABLE void reportHeight(int row, double height);
-    /// How much of a moving row shows at that share of its section: nothing before its height was reported.
+    /// Visible height of a moving row when `share` of its section is visible; 0 before its height was
+    /// reported.
     [[nodiscard]] Q_INVOKABLE double shownHeight(int row, double share) const;
 
 Q_SIGNALS:
@@ -118,7 +119,7 @@ private:
     std::shared_ptr<ViewAnimating> viewAnimating_;
     std::weak_ptr<ShippingStatusProductsViewDelegate> delegate_;
     Section* moving_ = nullptr;
-    /// Tells the animation in force from those that were overtaken.
+    /// Number of the current animation; callbacks of earlier ones are ignored.
     int moves_ = 0;
     PanelReveal panelReveal_;
     double reveal_ = 1;

@@ -7,7 +7,7 @@
 
 namespace quillet {
 
-/// Says which error, if any, an answer stands for.
+/// Classifies the error of a response.
 class NetworkErrorParser {
 public:
     explicit NetworkErrorParser(std::shared_ptr<const HttpErrorThrowable> httpErrorFactory);

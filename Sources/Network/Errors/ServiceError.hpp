@@ -14,8 +14,8 @@
 
 namespace quillet {
 
-/// Everything that can be a call's error: a request that could not be formed, an exchange that failed, or an
-/// answer with an error status. A body that does not decode is none of them.
+/// The error of a call: an invalid request, a failed exchange, or a response with an error status. A body
+/// that does not decode is not an error.
 using ServiceError = std::variant<NetworkServiceError, platform::EncodingError, platform::URLError,
                                   ClientError, ServerError, HttpStatusCodeError>;
 

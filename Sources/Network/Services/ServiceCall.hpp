@@ -12,13 +12,13 @@
 
 namespace quillet {
 
-/// The `Result` of a call that there was no memory for.
+/// The `Result` of a call that failed for lack of memory.
 template <typename Result>
 [[nodiscard]] Result resultWithoutMemory() noexcept {
     return {std::nullopt, platform::URLError::outOfMemory(), 0};
 }
 
-/// What an exchange came to: the answer decoded as a `Record`, and its error classified.
+/// The result of an exchange: the body decoded as a `Record`, and the classified error.
 template <Response Record, typename Result>
 [[nodiscard]] Result serviceResult(const NetworkErrorParser& errorParser,
                                    const std::optional<std::string>& data,
@@ -36,9 +36,9 @@ template <Response Record, typename Result>
     }
 }
 
-/// The road that all three services take: send the request, decode the answer, and hand a `Result` to the
-/// completion, which must not throw. Keeps what it needs by itself until then. Throws std::bad_alloc where
-/// there is no memory to begin; the completion is not called then.
+/// Sends the request of a service, decodes the answer and passes a `Result` to the completion, which must not
+/// throw. Needs neither the service nor the session to stay alive. Throws std::bad_alloc if the call cannot
+/// be started; the completion is not called then.
 template <Response Record, typename Result, typename Completion>
 void performServiceCall(std::expected<platform::URLRequest, ServiceError> request,
                         const URLSessionDataTaskCreating& session,

@@ -7,7 +7,7 @@
 
 namespace quillet {
 
-/// Hears of taps on the summary. Main thread only.
+/// Receives taps on the summary. Main thread only.
 class SaleSummaryViewDelegate {
 public:
     virtual ~SaleSummaryViewDelegate() = default;

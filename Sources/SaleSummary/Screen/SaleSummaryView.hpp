@@ -42,7 +42,8 @@ public:
 private:
     std::weak_ptr<SaleSummaryViewDelegate> delegate_;
     std::unique_ptr<ButtonCreating> buttonFactory_;
-    // Handed in by the factory. The QML that lays the view out reads the same tokens from the design system.
+    // Passed in by the factory but not used: the QML that lays out the view reads these tokens from the
+    // design system.
     std::unique_ptr<Spacing> spacing_;
     std::unique_ptr<Sizing> sizing_;
     std::unique_ptr<Coloring> colors_;

@@ -10,8 +10,8 @@
 
 namespace quillet {
 
-/// The module's first screen: it runs the calls when it has loaded and hosts whatever the chosen use case
-/// puts on it.
+/// The module's first screen: it starts the calls when it has loaded and shows the views of the chosen use
+/// case.
 class SaleSummaryViewController final : public quillet::ModuleViewController,
                                         public SaleSummaryViewModelDelegate,
                                         public SaleSummaryViewDelegate {
@@ -68,8 +68,8 @@ private:
     std::unique_ptr<ViewControllerWrapperCreating> wrapperFactory_;
     std::unique_ptr<SaleSummaryViewCreating> contentViewFactory_;
     std::weak_ptr<QuilletNavigationDelegate> navigationDelegate_;
-    // Handed in by the factory. The screen builds its dialogs itself, whose actions it has to bind to its own
-    // stay on the stack.
+    // Passed in by the factory but not used: the screen builds its dialogs itself and binds their actions to
+    // its time on the stack.
     std::unique_ptr<DialogCreating> dialogFactory_;
     std::unique_ptr<TryAgainCreating> tryAgainFactory_;
     std::unique_ptr<SaleSummaryScreen, DeleteLater> contentView_;

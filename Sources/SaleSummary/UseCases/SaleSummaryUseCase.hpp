@@ -12,8 +12,8 @@ namespace quillet {
 
 class SaleSummaryViewModelDelegate;
 
-/// One outcome of the sale summary, which knows by itself whether it applies. Built afresh for each join of
-/// the two calls; holds the screen weakly. Main thread only.
+/// One outcome of the sale summary, which decides itself whether it applies. Created anew whenever both calls
+/// have answered; holds the screen weakly. Main thread only.
 class SaleSummaryUseCase {
 public:
     virtual ~SaleSummaryUseCase() = default;
@@ -23,7 +23,7 @@ public:
     virtual void showContent() = 0;
 };
 
-/// What the outcomes of a failed association have in common: they look at its result alone.
+/// Base of the outcomes that depend on the association's result only.
 class SaleSummaryAssociationUseCase : public SaleSummaryUseCase {
 public:
     SaleSummaryAssociationUseCase(std::shared_ptr<const OrderResult> associateResult,

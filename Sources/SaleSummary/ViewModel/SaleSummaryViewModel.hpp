@@ -12,9 +12,8 @@
 
 namespace quillet {
 
-/// Runs the two calls of the sale summary one after the other, keeps both results and lets the first use case
-/// that applies put its outcome on the screen. Owned by the screen; owns its workers, which know it weakly.
-/// Main thread only.
+/// Runs the two calls of the sale summary in sequence, stores both results and shows the outcome of the first
+/// use case that applies. Owned by the screen; owns its workers, which hold it weakly. Main thread only.
 class SaleSummaryViewModel final : public SaleSummaryViewModeling,
                                    public AssociateConsultantToCartWorkerDelegate,
                                    public GetOpenOrdersWorkerDelegate {
@@ -31,9 +30,9 @@ public:
     void tryAgainDoRequests() override;
     void trackSendOrdersToCart() override;
 
-    /// Whatever the association answered, the open orders are asked for next.
+    /// Requests the open orders next, whatever the association's answer is.
     void didAssociate(const std::shared_ptr<const OrderResult>& result) override;
-    /// Joins once both calls have answered in this pass.
+    /// Shows the outcome once both calls have answered.
     void didGetOpenOrders(const std::shared_ptr<const OpenOrdersResult>& result) override;
 
 private:

@@ -19,7 +19,7 @@ QList<Cover*>& covers() {
 
 Cover::Cover(QQuickItem* parent) : QQuickItem(parent) {
     setFlag(ItemIsFocusScope);
-    // What the content leaves alone ends here, a second finger as well.
+    // Accept all input that the content does not, second touch points included.
     setAcceptedMouseButtons(Qt::AllButtons);
     setAcceptTouchEvents(true);
     setAcceptHoverEvents(true);
@@ -43,7 +43,7 @@ void Cover::componentComplete() {
     takeKeys();
 }
 
-// A loader takes an item away without letting its QML know, so this is not done there.
+// Not done in QML, because a Loader removes its item without a signal in the item's QML.
 void Cover::itemChange(ItemChange change, const ItemChangeData& data) {
     if (change == ItemSceneChange && data.window && isComponentComplete()) {
         takeKeys();
@@ -55,7 +55,7 @@ void Cover::itemChange(ItemChange change, const ItemChangeData& data) {
 }
 
 void Cover::keyPressEvent(QKeyEvent* event) {
-    // The way back out of the application stays open.
+    // The platform's back key must reach the application.
     event->setAccepted(event->key() != Qt::Key_Back);
 }
 
@@ -82,19 +82,19 @@ void Cover::takeKeys() {
 void Cover::giveKeysBack() {
     QQuickItem* previous = std::exchange(previous_, nullptr);
     hasTakenKeys_ = false;
-    // A window that is being destroyed has let go of its content, and focuses nothing any more.
+    // A window that is being destroyed has no content item and cannot focus anything.
     if (!previous || !previous->window() || !previous->window()->contentItem()) {
         return;
     }
-    // A cover that came over this one has to give back past it.
+    // A cover above this one must not restore the focus to this one.
     for (Cover* cover : covers()) {
         if (cover != this && cover->previous_ &&
             (cover->previous_ == this || isAncestorOf(cover->previous_))) {
             cover->previous_ = previous;
         }
     }
-    // Whoever took the keys meanwhile on purpose keeps them; a focus
-    // scope that received focus by default does not count.
+    // An item that took the focus deliberately keeps it; a focus scope that received focus by default does
+    // not count.
     const QQuickItem* holder = previous->window()->activeFocusItem();
     if (!holder || holder == this || isAncestorOf(holder) || holder == previous->window()->contentItem() ||
         (holder->isFocusScope() && !qobject_cast<const Cover*>(holder))) {

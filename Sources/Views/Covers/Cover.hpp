@@ -6,10 +6,9 @@
 
 namespace quillet {
 
-/// Something that lies over a screen and keeps it from being used meanwhile, be it by touch, by key or by a
-/// screen reader: a focus scope that takes the keys when it comes into a window, lets nothing through, and
-/// gives the keys back to whatever had them before when it is hidden or taken away. What it covers with is
-/// its content's business. Main thread only.
+/// A modal overlay: it blocks touch, keyboard and screen reader for what it covers. It is a focus scope that
+/// takes the active focus when it enters a window, and restores the previous focus when it is hidden or
+/// removed. Its children draw it. Main thread only.
 class Cover : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT

@@ -4,7 +4,7 @@
 
 namespace quillet {
 
-/// What QML asks about covers. A screen reader reaches what lies under one, where no finger does.
+/// Lets QML ask whether an item is covered. A screen reader can still press what lies under a cover.
 class Covers : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -15,17 +15,17 @@
 
 namespace quillet {
 
-/// What a dialog does after it has gone away, one action for each place that can be touched.
+/// What a dialog does after it was dismissed, one action for each part that can be touched.
 struct DialogActions {
     std::function<void()> didTapButton;
     std::function<void()> didTapBackgroundView;
     std::function<void()> didTapCloseIcon;
 };
 
-/// The module's modal message: a dimmed ground and a card with a title, a close icon, an optional image, a
-/// message and one button. Whatever is touched, the dialog fades first and only then runs that touch's
-/// action. Two touches in quick succession are two dismissals, each with its own action. Owned by the screen
-/// that shows it; an action runs even if the dialog was replaced during the fade. Main thread only.
+/// The module's modal dialog: a dimmed background and a card with a title, a close icon, an optional image, a
+/// message and one button. A touch fades the dialog out and then runs that touch's action. Two quick touches
+/// are two dismissals, each with its own action. The screen that shows the dialog owns it; an action runs
+/// even if the dialog was replaced during the fade. Main thread only.
 class Dialog final : public quillet::ThemedView {
     Q_OBJECT
     QML_ELEMENT
@@ -65,7 +65,7 @@ public:
     [[nodiscard]] QColor backgroundColor() const {
         return kel::KelColors::withAlpha(Qt::black, Opacities().mediumHigh());
     }
-    /// Opacity of card and ground, 1 until a touch.
+    /// Opacity of card and background; 1 until a touch.
     [[nodiscard]] double alpha() const { return alpha_; }
     [[nodiscard]] bool isOnScreen() const { return onScreen_; }
 
@@ -73,7 +73,7 @@ public:
     Q_INVOKABLE void touchBackground() { dismiss(actions_.didTapBackgroundView); }
     Q_INVOKABLE void touchCloseIcon() { dismiss(actions_.didTapCloseIcon); }
 
-    /// Fades card and ground over 0.7 s, takes them off the screen, then runs `completion`.
+    /// Fades card and background out over 0.7 s, removes them, then runs `completion`.
     void dismiss(std::function<void()> completion);
 
 Q_SIGNALS:

@@ -2,8 +2,8 @@
 
 namespace quillet {
 
-/// Something that can cover itself while a call runs. Main thread only; starting or stopping twice does no
-/// harm.
+/// Shows a loading overlay while a call runs. Main thread only; starting or stopping twice has no further
+/// effect.
 class Loading {
 public:
     virtual ~Loading() = default;

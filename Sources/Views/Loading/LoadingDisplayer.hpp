@@ -6,11 +6,11 @@
 
 namespace quillet {
 
-/// How a screen that has no call of its own shows the loading overlay.
+/// Shows the loading overlay on a screen that makes no call itself.
 class LoadingDisplayable {
 public:
     virtual ~LoadingDisplayable() = default;
-    /// Covers the screen that draws `loadingView()`.
+    /// Starts the overlay that `loadingView()` draws.
     virtual void showLoading() = 0;
     [[nodiscard]] virtual LoadingView& loadingView() = 0;
 };

@@ -12,8 +12,8 @@
 
 namespace quillet {
 
-/// The full-screen overlay that a screen shows while a call runs, with the progress indicator in its middle.
-/// Off screen it draws nothing and costs no frame.
+/// The loading overlay of a screen, with a progress indicator in its middle. While it is hidden it draws
+/// nothing and requests no frames.
 class LoadingView : public quillet::ThemedView, public Loading {
     Q_OBJECT
     QML_ELEMENT

@@ -8,8 +8,8 @@
 
 namespace quillet {
 
-/// What lies between a screen and the progress indicator: highEmphasis at the opacity mediumHigh. In the dark
-/// theme that colour is a light one, which the ring cannot be told from (1.1:1): there black takes its place.
+/// The layer between a screen and the progress indicator: highEmphasis with the opacity mediumHigh. In the
+/// dark theme that colour is light, and the ring's contrast would be 1.1:1, so black is used there.
 class Overlay {
 public:
     explicit Overlay(std::unique_ptr<Opacity> opacity = std::make_unique<Opacities>())

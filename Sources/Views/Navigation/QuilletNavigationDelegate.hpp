@@ -2,9 +2,9 @@
 
 namespace quillet {
 
-/// How the module hands navigation back to the host. Implemented by the host, which owns the object through a
-/// std::shared_ptr; the module holds it weakly everywhere, and a call to a delegate that is gone is dropped.
-/// Called on the main thread, from a tap; the host may take the module off its stack inside the call.
+/// Hands navigation back to the host. The host implements it and owns the object in a std::shared_ptr. The
+/// module holds it weakly and drops calls to a destroyed delegate. Called on the main thread from a tap; the
+/// host may pop the module's screen within the call.
 class QuilletNavigationDelegate {
 public:
     virtual ~QuilletNavigationDelegate() = default;

@@ -11,8 +11,8 @@
 
 namespace quillet {
 
-/// The ring that turns while a call runs: a closed circle with an arc that grows, catches up, and turns. It
-/// knows what to draw; a ProgressIndicatorItem draws it. Main thread only.
+/// Model of the circular progress indicator: a circle with an animated arc. A ProgressIndicatorItem draws it.
+/// Main thread only.
 class ProgressIndicatorCircular final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -24,12 +24,12 @@ public:
 
     explicit ProgressIndicatorCircular(std::unique_ptr<ProgressIndicatorCircularAnimating> animator);
 
-    /// Hiding takes effect at once and strips the layers; showing does at the next drawing.
+    /// Hiding takes effect immediately and removes the layers; showing takes effect with the next `draw`.
     void configure(Action action, Size size);
     /// Fills the ring white, or not at all.
     void configure(bool useBackgroundLayer);
 
-    /// Does what it was configured to do; drawing again adds nothing a second time. `bounds` are the item's.
+    /// Applies the configuration. Drawing again adds no further layers. `bounds` is the item's size.
     void draw(const QSizeF& bounds);
 
     [[nodiscard]] bool isVisible() const { return isVisible_; }

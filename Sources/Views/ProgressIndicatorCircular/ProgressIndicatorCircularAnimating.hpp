@@ -4,7 +4,7 @@
 
 namespace quillet {
 
-/// Sets the progress indicator's arc in motion. Adding again replaces what runs.
+/// Adds the animations of the progress indicator's arc. Adding again replaces the running animation.
 class ProgressIndicatorCircularAnimating {
 public:
     virtual ~ProgressIndicatorCircularAnimating() = default;
@@ -12,8 +12,8 @@ public:
     virtual void addSpringAnimation(platform::ShapeLayer& layer) const = 0;
 };
 
-/// One turn every four seconds; and in rounds of a second and a half, an arc whose head runs around the ring
-/// in the first second while its tail creeps to 15 %, and whose tail then catches up.
+/// Rotation: one turn in four seconds. Arc, repeated every 1.5 seconds: its end goes around the ring in the
+/// first second while its start moves to 15 %; then the start follows to the end.
 class ProgressIndicatorCircularAnimator final : public ProgressIndicatorCircularAnimating {
 public:
     void addRotationAnimation(platform::ShapeLayer& layer) const override;

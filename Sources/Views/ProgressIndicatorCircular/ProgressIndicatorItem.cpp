@@ -25,7 +25,7 @@ void ProgressIndicatorItem::setTime(double time) {
 }
 
 void ProgressIndicatorItem::paint(QPainter* painter) {
-    // Runs while the main thread waits for the frame, so the indicator is nobody else's at this moment.
+    // Called while the main thread is blocked for rendering, so the indicator is not in use elsewhere.
     if (indicator_) {
         indicator_->draw(size());
         painter->setRenderHint(QPainter::Antialiasing);

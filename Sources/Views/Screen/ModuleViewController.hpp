@@ -10,8 +10,8 @@
 
 namespace quillet {
 
-/// What the module's screens have in common: the design system's ground, and over the content a try-again
-/// view, a dialog and the loading overlay, one of each. Main thread only.
+/// Base of the module's screens: the background colour and, over the content, one try-again view, one dialog
+/// and the loading overlay. Main thread only.
 class ModuleViewController : public quillet::platform::QuickViewController {
     Q_OBJECT
     QML_ELEMENT
@@ -39,21 +39,20 @@ protected:
 
     void showLoading();
     void hideLoading();
-    /// Shows a dialog, in place of the one before. Its actions do nothing once the screen has left its stack:
-    /// a dialog fades before it acts.
+    /// Shows a dialog in place of the previous one. Its actions run after its fade, and not at all if the
+    /// screen has left its stack by then.
     template <typename Presenter>
     void presentDialog(const Presenter& presenter, DialogActions actions) {
         setDialog(std::make_unique<Dialog>(presenter, std::make_shared<ViewAnimatingWrapper>(),
                                            whileHere(std::move(actions))));
     }
-    /// Puts a view in the slot, which shows nothing yet.
+    /// Stores a view without showing it.
     void putTryAgainView(std::unique_ptr<TryAgainScreen> view);
-    /// Shows what is in the slot, or nothing of it.
+    /// Shows or hides the stored view.
     void showTryAgainView(bool shows);
     [[nodiscard]] bool isTryAgainViewShown() const { return tryAgainViewShown_ && tryAgainView_; }
 
-    /// A view that is on screen may be in the middle of telling about a tap when it is replaced: it goes once
-    /// control is back in the event loop.
+    /// A view may be replaced while it handles a tap, so it is destroyed later, by the event loop.
     struct DeleteLater {
         void operator()(QObject* object) const { object->deleteLater(); }
     };

@@ -6,7 +6,7 @@
 
 namespace quillet {
 
-/// The screen that a router starts from, seen without owning it.
+/// A weak reference to the screen that a router starts from.
 class ViewController {
 public:
     virtual ~ViewController() = default;
@@ -14,7 +14,7 @@ public:
     [[nodiscard]] virtual std::shared_ptr<platform::QuickViewController> originViewController() const = 0;
 };
 
-/// Holds the screen weakly, so that a router in the middle of its work never keeps a closed screen alive.
+/// Holds the screen weakly, so that a router does not keep a closed screen alive.
 class ViewControllerWrapper final : public ViewController {
 public:
     explicit ViewControllerWrapper(std::weak_ptr<platform::QuickViewController> screen)

@@ -1,7 +1,7 @@
 import QtQuick
 import KelDS
 
-// Shows how much of a long text is in view, and which part. Nothing can be done with it but look.
+// A scroll indicator: it shows which part of a page is visible. It takes no input.
 Rectangle {
     id: hint
 
@@ -11,7 +11,7 @@ Rectangle {
     y: hint.page.y + hint.page.visibleArea.yPosition / (1 - hint.page.visibleArea.heightRatio)
        * (hint.page.height - hint.height)
     width: KelSizes.micro
-    // However long the text, there is something to be seen.
+    // Keeps the indicator visible for very long pages.
     height: Math.max(KelSizes.standard, hint.page.visibleArea.heightRatio * hint.page.height)
     radius: KelBorderRadius.small
     color: KelColors.lowEmphasis

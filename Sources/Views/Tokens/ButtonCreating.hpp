@@ -6,7 +6,7 @@
 
 namespace quillet {
 
-/// A button of the design system, as QML draws it.
+/// Data of a design-system button.
 class Button {
     Q_GADGET
     QML_VALUE_TYPE(button)
@@ -16,7 +16,7 @@ class Button {
 
 public:
     QString title;
-    /// The name by which automation finds the button, whatever language it shows.
+    /// Object name for test automation, independent of the language.
     QString identifier;
     bool outlined = false;
 };

@@ -4,7 +4,7 @@
 
 namespace quillet {
 
-/// The colour tokens that the module's views are given. They follow the theme in force; see ThemedView.
+/// The colour tokens that the module's views use. They follow the current theme; see ThemedView.
 class Coloring {
 public:
     virtual ~Coloring() = default;

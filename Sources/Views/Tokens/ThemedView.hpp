@@ -7,7 +7,7 @@
 
 namespace quillet {
 
-/// A view with colours of its own: it says when they may have changed. Main thread only.
+/// Base of views with colours: it signals when the theme has changed. Main thread only.
 class ThemedView : public QObject {
     Q_OBJECT
     QML_ANONYMOUS

@@ -19,12 +19,12 @@ struct TryAgainPresenter {
     QString iconName;
     QString messageText;
     QString buttonText;
-    /// The name by which automation finds the button, whatever language it shows.
+    /// Object name for test automation, independent of the language.
     QString buttonAccessibilityText;
 };
 
-/// The view that stands in place of a screen's content after a failure, with one button. The screen that
-/// shows it owns it. Main thread only.
+/// The view that replaces a screen's content after a failure, with one button. Owned by the screen that shows
+/// it. Main thread only.
 class TryAgainScreen : public quillet::ThemedView {
     Q_OBJECT
 
@@ -63,7 +63,8 @@ public:
 private:
     std::unique_ptr<ButtonCreating> buttonFactory_;
     std::unique_ptr<Coloring> colors_;
-    // Handed in by the factory. The QML that lays the view out reads the same tokens from the design system.
+    // Passed in by the factory but not used: the QML that lays out the view reads these tokens from the
+    // design system.
     std::unique_ptr<Spacing> spacing_;
     std::unique_ptr<Sizing> sizing_;
     TryAgainPresenter presenter_;
