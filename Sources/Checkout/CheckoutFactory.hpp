@@ -35,6 +35,7 @@ public:
 
 private:
     std::unique_ptr<CheckoutWorkerCreating> checkoutWorkerFactory_;
+    // Passed in but not used: there is nothing to configure.
     std::unique_ptr<CheckoutConfiguring> configurator_;
     std::weak_ptr<QuilletNavigationDelegate> navigationDelegate_;
 };

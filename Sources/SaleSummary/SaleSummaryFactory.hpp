@@ -40,6 +40,7 @@ private:
     CartForConsultant cart_;
     Authorization authorization_;
     std::string domainUrl_;
+    // Passed in but not used: there is nothing to configure.
     std::unique_ptr<SaleSummaryConfiguring> configurator_;
     std::weak_ptr<QuilletNavigationDelegate> navigationDelegate_;
 };

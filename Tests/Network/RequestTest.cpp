@@ -1,4 +1,4 @@
-#include "Network/Request/URLRequestFactory.hpp"
+#include "Network/Request/URLRequestWrapper.hpp"
 #include "Platform/Json/JSONEncoder.hpp"
 
 #include <gtest/gtest.h>

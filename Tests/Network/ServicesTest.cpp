@@ -1,5 +1,5 @@
 #include "Network/Errors/HttpErrorFactory.hpp"
-#include "Network/Request/URLRequestFactory.hpp"
+#include "Network/Request/URLRequestWrapper.hpp"
 #include "Network/Services/SellOutCartCheckoutService.hpp"
 #include "Network/Services/SellOutCartService.hpp"
 #include "Network/Services/SellOutCartsStatusOpenService.hpp"

@@ -1,5 +1,5 @@
 #include "Network/Errors/HttpErrorFactory.hpp"
-#include "Network/Request/URLRequestFactory.hpp"
+#include "Network/Request/URLRequestWrapper.hpp"
 #include "Network/Services/SellOutCartCheckoutService.hpp"
 #include "Network/Session/URLSessionWrapper.hpp"
 #include "Network/Url/UrlCreator.hpp"

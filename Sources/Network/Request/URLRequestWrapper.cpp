@@ -27,4 +27,8 @@ URLRequestWrapper::addToHttpBody(const platform::JSONValue::Object& parameters) 
     return {};
 }
 
+std::unique_ptr<URLRequestable> URLRequestFactory::create(const platform::Url& url) const {
+    return std::make_unique<URLRequestWrapper>(platform::URLRequest{.url = url});
+}
+
 } // namespace quillet

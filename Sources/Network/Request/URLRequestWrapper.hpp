@@ -20,4 +20,10 @@ private:
     platform::URLRequest urlRequest_;
 };
 
+/// Begins requests that have sixty seconds and keep to the protocol's own caching rules.
+class URLRequestFactory final : public URLRequestCreating {
+public:
+    [[nodiscard]] std::unique_ptr<URLRequestable> create(const platform::Url& url) const override;
+};
+
 } // namespace quillet

@@ -5,6 +5,7 @@
 #include "Platform/Json/JSONValue.hpp"
 
 #include <expected>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,6 +32,15 @@ public:
     /// no content type.
     [[nodiscard]] virtual std::expected<void, platform::EncodingError>
     addToHttpBody(const platform::JSONValue::Object& parameters) = 0;
+};
+
+/// Begins requests. Pure: may be called on any thread, answers at once.
+class URLRequestCreating {
+public:
+    virtual ~URLRequestCreating() = default;
+
+    /// A new request for the address, without a method; the caller owns it.
+    [[nodiscard]] virtual std::unique_ptr<URLRequestable> create(const platform::Url& url) const = 0;
 };
 
 } // namespace quillet

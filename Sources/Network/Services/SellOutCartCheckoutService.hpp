@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Network/Errors/HttpErrorThrowable.hpp"
-#include "Network/Request/URLRequestCreating.hpp"
+#include "Network/Request/URLRequestable.hpp"
 #include "Network/Services/SellOutCartCheckoutServiceRequestable.hpp"
 #include "Network/Session/URLSessionDataTaskCreating.hpp"
 #include "Network/Token/Authorization.hpp"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Network/Errors/HttpErrorThrowable.hpp"
-#include "Network/Request/URLRequestCreating.hpp"
+#include "Network/Request/URLRequestable.hpp"
 #include "Network/Services/SellOutCartsStatusOpenServiceParameters.hpp"
 #include "Network/Services/SellOutCartsStatusOpenServiceRequestable.hpp"
 #include "Network/Session/URLSessionDataTaskCreating.hpp"

@@ -1,10 +1,15 @@
 #include "Network/Session/URLSessionWrapper.hpp"
 
-#include "Network/Session/URLSessionDataTaskWrapper.hpp"
-
 #include <utility>
 
 namespace quillet {
+
+URLSessionDataTaskWrapper::URLSessionDataTaskWrapper(platform::URLSessionDataTask dataTask)
+    : dataTask_(std::move(dataTask)) {}
+
+void URLSessionDataTaskWrapper::resume() {
+    dataTask_.resume();
+}
 
 URLSessionWrapper::URLSessionWrapper(std::shared_ptr<const platform::URLSession> session)
     : session_(std::move(session)) {}

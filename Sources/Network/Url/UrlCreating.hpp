@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Network/Errors/NetworkServiceError.hpp"
-#include "Network/Url/UrlQueryItem.hpp"
 #include "Platform/Http/Url.hpp"
 
 #include <expected>
@@ -9,6 +8,14 @@
 #include <vector>
 
 namespace quillet {
+
+/// One name and value of a query, both as plain text, not encoded.
+struct UrlQueryItem {
+    std::string name;
+    std::string value;
+
+    bool operator==(const UrlQueryItem&) const = default;
+};
 
 /// Builds the addresses of the back end. Pure: may be called on any thread, answers at once.
 class UrlCreating {

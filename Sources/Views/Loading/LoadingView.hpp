@@ -49,6 +49,7 @@ private:
     void setOnScreen(bool onScreen);
 
     std::unique_ptr<ProgressIndicatorCircular> progressIndicator_;
+    // Spelled as in the interface.
     std::optional<Overlay> overylay_;
     std::unique_ptr<Coloring> colors_;
     std::unique_ptr<Sizing> sizer_;
