@@ -42,7 +42,7 @@ public:
 
 QQuickItem* findList(const QQuickItem& root) {
     for (QQuickItem* child : root.childItems()) {
-        QQuickItem* const found = child->inherits("QQuickListView") ? child : findList(*child);
+        QQuickItem* const found = child->objectName() == QLatin1String("result") ? child : findList(*child);
         if (found) {
             return found;
         }

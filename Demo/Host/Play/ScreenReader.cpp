@@ -29,6 +29,11 @@ QList<QQuickItem*> paintOrder(const QQuickItem& item) {
     return {children.begin(), children.end()};
 }
 
+/// QML's own types have no public class in C++; they are told by a property that only they have.
+bool has(const QQuickItem& item, const char* property) {
+    return item.metaObject()->indexOfProperty(property) >= 0;
+}
+
 bool drawn(const QQuickItem& item) {
     double opacity = 1;
     for (const QQuickItem* i = &item; i; i = i->parentItem()) {
@@ -103,7 +108,7 @@ void ScreenReader::collect(QQuickItem& item, bool host, QList<QQuickItem*>& item
     if (item.objectName() == QLatin1String("hostBar")) {
         return;
     }
-    if (item.inherits("QQuickStackView")) {
+    if (has(item, "initialItem")) {
         host = true;
     }
     if (host && item.property("viewController").isValid()) {
@@ -172,7 +177,7 @@ QQuickItem* ScreenReader::named(const QString& objectName) const {
 
 QQuickItem* ScreenReader::scrollable() const {
     for (QQuickItem* item : items()) {
-        if (item->inherits("QQuickFlickable") && drawn(*item) &&
+        if (has(*item, "flickDeceleration") && drawn(*item) &&
             item->property("contentHeight").toDouble() > item->height()) {
             return item;
         }
