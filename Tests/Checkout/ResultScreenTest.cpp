@@ -135,6 +135,35 @@ TEST_F(ResultScreen, KeepsItsPlaceWhileSectionsOpenAndCloseAndTheWindowChanges) 
     EXPECT_NEAR(offset(), 200, 60);
 }
 
+TEST_F(ResultScreen, OpensASectionFromItsTop) {
+    show(4);
+    QQuickItem* list = stage.item("result");
+    const auto hasRows = [&](int rows) {
+        return turnUntil([&] { return list->property("count").toInt() == rows; });
+    };
+    stage.click("Productos enviados");
+    ASSERT_TRUE(hasRows(4));
+    std::vector<std::pair<double, double>> heights;
+    const auto look = QObject::connect(stage.stack().window(), &QQuickWindow::frameSwapped, [&] {
+        const auto height = [&](const QString& code) {
+            const QQuickItem* row = stage.item(code);
+            while (row && row->parentItem() != list->property("contentItem").value<QQuickItem*>()) {
+                row = row->parentItem();
+            }
+            return row ? row->height() : 0;
+        };
+        heights.emplace_back(height("Code: 1"), height("Code: 3"));
+    });
+    stage.click("Productos enviados");
+    ASSERT_TRUE(turnUntil([&] { return !heights.empty() && heights.back().second > 60; }));
+    QObject::disconnect(look);
+    // The last row brings the distance to the next section along.
+    constexpr double distance = 16;
+    for (const auto& [first, second] : heights) {
+        EXPECT_TRUE(second <= distance || first > 60) << first << " above " << second;
+    }
+}
+
 TEST_F(ResultScreen, LeavesNoNumberOnTopOfAnother) {
     stage.stack().window()->resize(320, 844);
     constexpr auto largest = std::numeric_limits<std::uint64_t>::max();

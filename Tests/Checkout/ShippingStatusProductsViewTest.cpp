@@ -156,6 +156,11 @@ TEST_F(Sections, ShowWhatIsAboveTheCutWhileTheyMove) {
     list.reportHeight(2, 100);
     list.reportHeight(3, 120);
     list.reportHeight(3, 120);
+    // Neither the head nor a row of the other section moves.
+    for (const int row : {-1, 0, 4, 5}) {
+        list.reportHeight(row, 7);
+        EXPECT_EQ(list.shownHeight(row, 1), 0);
+    }
     EXPECT_EQ(changes, 3);
     const struct {
         double share, first, second, third;

@@ -16,19 +16,17 @@ public:
     void begin() { heights_.clear(); }
 
     /// Returns whether the height has changed.
-    bool setHeight(int row, double height) {
-        const auto index = static_cast<std::size_t>(std::max(0, row));
-        heights_.resize(std::max(heights_.size(), index + 1));
-        return std::exchange(heights_[index], height) != height;
+    bool setHeight(std::size_t row, double height) {
+        heights_.resize(std::max(heights_.size(), row + 1));
+        return std::exchange(heights_[row], height) != height;
     }
 
     /// Visible height of a row; 0 if the row's height is unknown. `share` is from 0 to 1.
-    [[nodiscard]] double shown(int row, double share) const {
-        const auto index = static_cast<std::size_t>(std::max(0, row));
-        if (index >= heights_.size()) {
+    [[nodiscard]] double shown(std::size_t row, double share) const {
+        if (row >= heights_.size()) {
             return 0;
         }
-        const auto iterator = heights_.begin() + static_cast<std::ptrdiff_t>(index);
+        const auto iterator = heights_.begin() + static_cast<std::ptrdiff_t>(row);
         const double above = std::accumulate(heights_.begin(), iterator, 0.0);
         const double whole = std::accumulate(iterator, heights_.end(), above);
         return std::clamp(share * whole - above, 0.0, *iterator);

@@ -157,13 +157,21 @@ void ShippingStatusProductsView::toggle(int row, int rowsInView) {
 }
 
 void ShippingStatusProductsView::reportHeight(int row, double height) {
-    if (moving_ && panelReveal_.setHeight(row - headOf(*moving_) - 1, height)) {
+    const auto product = movingProduct(row);
+    if (product && panelReveal_.setHeight(*product, height)) {
         Q_EMIT revealChanged();
     }
 }
 
 double ShippingStatusProductsView::shownHeight(int row, double share) const {
-    return moving_ ? panelReveal_.shown(row - headOf(*moving_) - 1, share) : 0;
+    const auto product = movingProduct(row);
+    return product ? panelReveal_.shown(*product, share) : 0;
+}
+
+std::optional<std::size_t> ShippingStatusProductsView::movingProduct(int row) const {
+    const int product = moving_ ? row - headOf(*moving_) - 1 : -1;
+    return product >= 0 && product < moving_->shown ? std::optional(static_cast<std::size_t>(product))
+                                                    : std::nullopt;
 }
 
 void ShippingStatusProductsView::setShown(Section& section, int shown) {

@@ -81,7 +81,8 @@ public:
     /// rows below the head there is room for on the screen.
     Q_INVOKABLE void toggle(int row, int rowsInView);
 
-    /// Reports the full height of a moving row.
+    /// Reports the full height of a moving row; other rows are ignored, as is a delegate that a view is still
+    /// setting up and that has the index 0 meanwhile.
     Q_INVOKABLE void reportHeight(int row, double height);
     /// Visible height of a moving row when `share` of its section is visible; 0 before its height was
     /// reported.
@@ -108,6 +109,8 @@ private:
     };
     [[nodiscard]] Position position(int row) const;
     [[nodiscard]] int headOf(const Section& section) const;
+    /// The index of a row's product in the section that moves.
+    [[nodiscard]] std::optional<std::size_t> movingProduct(int row) const;
     void setShown(Section& section, int shown);
     void setReveal(double reveal);
     void move(Section& section);
