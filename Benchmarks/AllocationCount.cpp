@@ -9,7 +9,7 @@ thread_local std::uint64_t allocations = 0;
 
 } // namespace
 
-// The array and the non-throwing forms of the standard library end up in this one.
+// The standard library's array and non-throwing forms call this one.
 void* operator new(std::size_t size) {
     ++allocations;
     if (void* const memory = std::malloc(size == 0 ? 1 : size)) {

@@ -28,8 +28,8 @@ void countBytes(benchmark::State& state) {
                             static_cast<std::int64_t>(body()->size()));
 }
 
-/// Frees a result and lets the allocator do at once what it would put off until the next decoding: the cost
-/// of giving a result up is not the decoder's.
+/// Frees a result and makes the allocator do its deferred work now, so that it is not measured as part of the
+/// next decoding.
 template <typename Result>
 void settleHeapWithout(Result result) {
     { const Result gone = std::move(result); }
@@ -94,8 +94,8 @@ BENCHMARK(parseWithFreshSimdjson)->Unit(benchmark::kMillisecond);
 } // namespace quillet::benchmarks
 
 int main(int argc, char** argv) {
-    // Freed memory stays with the program. Otherwise the kernel's clearing of fresh pages, of which only
-    // simdjson's kept parser needs none, would be most of what is measured.
+    // Keeps freed memory in the process. Otherwise most of the measured time would be the kernel's clearing
+    // of new pages, which only simdjson's reused parser avoids.
     constexpr int kept = 1 << 30;
     mallopt(M_TRIM_THRESHOLD, kept);
     mallopt(M_MMAP_THRESHOLD, kept);

@@ -5,9 +5,9 @@
 
 namespace quillet::benchmarks {
 
-/// A body of open carts as a back end would write it: product names with accents and some escapes, prices
-/// with two digits, dates with an offset, picture addresses. The same bytes every time. Each cart has
-/// `linesPerCart` lines, of which one to three are benefits.
+/// A realistic body of open carts: product names with accents and some escapes, prices with two digits, dates
+/// with an offset, picture addresses. The bytes are always the same. Each cart has `linesPerCart` lines, of
+/// which one to three are benefits.
 [[nodiscard]] std::string openCartsBody(std::size_t carts, std::size_t linesPerCart);
 
 } // namespace quillet::benchmarks

@@ -28,8 +28,8 @@ std::vector<Product> madeProducts(std::size_t count, bool someNotSent) {
     return products;
 }
 
-/// A stage that has shown and taken away such a result before: what happens once in the life of a program,
-/// such as compiling QML and loading fonts, is behind it.
+/// A stage that has already shown and removed such a result, so that one-time work such as compiling QML and
+/// loading fonts is done.
 std::unique_ptr<ResultStage> warmStage(const std::vector<Product>& products) {
     auto stage = std::make_unique<ResultStage>();
     for (int i = 0; i < 3; ++i) {
@@ -50,7 +50,7 @@ std::size_t bytesOf(const std::vector<Product>& products) {
     return liveBytes() - before;
 }
 
-/// From the response's products to the first frame that shows rows of them.
+/// Measures from the response's products to the first frame with their rows.
 void open(benchmark::State& state) {
     const auto products = madeProducts(static_cast<std::size_t>(state.range(0)), true);
     const auto stage = warmStage(products);
@@ -76,8 +76,7 @@ void open(benchmark::State& state) {
     state.counters["allocations"] = static_cast<double>(allocations);
 }
 
-/// What the heap holds while the screen is shown and did not hold before. The response's own products are
-/// there before and after and do not count.
+/// The heap's growth while the screen is shown. The response's own products exist before and do not count.
 void memory(benchmark::State& state) {
     const auto products = madeProducts(static_cast<std::size_t>(state.range(0)), true);
     const auto stage = warmStage(products);
@@ -95,8 +94,8 @@ void memory(benchmark::State& state) {
     }
 }
 
-/// Opening or closing a section, from the tap on its head to rest. The time is that of the longest frame:
-/// what is held up, beside the 200 ms that the motion takes on purpose.
+/// Opening or closing a section, from the tap on its head until nothing moves. The reported time is the
+/// longest frame; the motion itself takes 200 ms.
 void toggle(benchmark::State& state, bool expand) {
     const auto products = madeProducts(static_cast<std::size_t>(state.range(0)), false);
     const auto stage = warmStage(products);
@@ -126,7 +125,7 @@ void expand(benchmark::State& state) {
     toggle(state, true);
 }
 
-/// From the top of the list to its end, half a screen a frame, which is more than any flick.
+/// From the top of the list to its end, half a screen per frame, which is faster than any flick.
 void scroll(benchmark::State& state) {
     const auto products = madeProducts(static_cast<std::size_t>(state.range(0)), true);
     const auto stage = warmStage(products);
@@ -185,7 +184,8 @@ BENCHMARK(scroll)->Arg(10'000)->UseManualTime()->Iterations(1)->Unit(ms);
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
-    // A frame is drawn as soon as it is asked for; the pause that spares a battery would be measured as well.
+    // Draws each frame as soon as it is requested. Otherwise the pause between frames would be measured as
+    // well.
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
     const QGuiApplication application(argc, argv);
     kel::setLanguage(QStringLiteral("es"));

@@ -78,7 +78,7 @@ ResultStage::Opening ResultStage::open(const std::vector<Product>& products) {
         std::make_unique<LoadingDisplayer>(std::make_unique<LoadingView>()), std::make_shared<NoAnalytics>());
     screen->setView(ProductsPartiallyAddedFactory({}).view(std::move(*input), *screen));
     const auto built = Clock::now();
-    // Looking costs time that is no part of the opening.
+    // This check costs time that does not belong to the opening.
     opening.highestLiveBytes = liveBytes();
     const auto looked = Clock::now();
     input.reset();
@@ -138,7 +138,7 @@ QQuickItem& ResultStage::list() const {
 std::vector<QQuickItem*> ResultStage::rows() const {
     std::vector<QQuickItem*> rows;
     for (QQuickItem* item : list().property("contentItem").value<QQuickItem*>()->childItems()) {
-        // Rows that were let go stay hidden until the event loop deletes them.
+        // Released rows stay hidden until the event loop deletes them.
         if (item->isVisible() && item->property("isHead").isValid()) {
             rows.push_back(item);
         }

@@ -22,8 +22,8 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 /// A window of a phone's size with a StackView that shows results without an animation. Main thread only.
 class ResultStage {
 public:
-    /// How long each step from a response's products to the first frame with rows took, and the bytes that
-    /// were live when most copies of the products were.
+    /// The time of each step from a response's products to the first frame with rows, and the live bytes at
+    /// the moment with the most copies of the products.
     struct Opening {
         Milliseconds input{};
         Milliseconds view{};
@@ -41,23 +41,23 @@ public:
 
     /// Shows the result of a checkout with these products.
     Opening open(const std::vector<Product>& products);
-    /// Takes the screen away and waits until all of it is gone.
+    /// Removes the screen and waits until all of it is deleted.
     void close();
 
-    /// How long the first and the longest frame took of all that came after a tap.
+    /// The times of the first and the longest frame after a tap.
     struct Motion {
         int frames = 0;
         Milliseconds first{};
         Milliseconds longest{};
     };
-    /// Taps the uppermost head and waits until its section has come to rest.
+    /// Taps the uppermost head and waits until its section stops moving.
     Motion toggle();
     /// Waits until the window has drawn one more frame.
     void drawFrame();
 
     /// The list on the screen.
     [[nodiscard]] QQuickItem& list() const;
-    /// The rows that exist at the moment, heads included.
+    /// The existing rows, heads included.
     [[nodiscard]] std::vector<QQuickItem*> rows() const;
 
 private:
@@ -67,8 +67,8 @@ private:
     std::weak_ptr<ProductsCheckoutStatusViewController> screen_;
 };
 
-/// Bytes that the program's heap holds at the moment, whoever asked for them: Qt's containers go past
-/// operator new. What JavaScript holds lies elsewhere.
+/// Bytes in use in the malloc heap. Qt's containers bypass operator new, so counting that is not enough.
+/// JavaScript's heap is not included.
 [[nodiscard]] std::size_t liveBytes();
 
 } // namespace quillet::benchmarks

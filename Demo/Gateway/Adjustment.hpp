@@ -35,12 +35,12 @@ struct QuotaChange {
 
 using Adjustment = std::variant<FaultChange, StockChange, QuotaChange>;
 
-/// The three read a value of the command line; what cannot be understood comes back in words.
+/// The three read a value of the command line; an error is returned as one line for a person.
 [[nodiscard]] std::expected<Adjustment, std::string> parseFault(std::string_view text);
 [[nodiscard]] std::expected<Adjustment, std::string> parseStock(std::string_view text);
 [[nodiscard]] std::expected<Adjustment, std::string> parseQuota(std::string_view text);
 
-/// Makes the change in the database; a consultant or product that is not there comes back in words.
+/// Makes the change in the database; an unknown consultant or product is returned as one line for a person.
 [[nodiscard]] std::expected<void, std::string> apply(Database& database, const Adjustment& adjustment);
 
 } // namespace quillet::gateway

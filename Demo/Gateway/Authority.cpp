@@ -25,7 +25,7 @@ Failure failure(const std::string& what, const fs::path& file) {
     return Failure("cannot " + what + " " + file.string() + ": " + std::strerror(errno));
 }
 
-// Writes beside the file first, so that no reader ever sees half of it.
+// Writes a temporary file first, so that no reader sees a partly written one.
 std::expected<fs::path, std::string> writeBeside(const fs::path& file, mode_t mode,
                                                  const Credentials& authority, bool withKey) {
     const fs::path beside = file.string() + "." + std::to_string(::getpid());
@@ -69,7 +69,7 @@ std::expected<Credentials, std::string> provideAuthority(const fs::path& data,
         if (!beside) {
             return Failure(beside.error());
         }
-        // A link, unlike a renaming, leaves alone what another gateway may have put there meanwhile.
+        // Unlike rename(), link() fails if another gateway has created the file in the meantime.
         fs::create_hard_link(*beside, file, error);
         fs::remove(*beside, error);
     }

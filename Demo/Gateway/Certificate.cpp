@@ -36,8 +36,8 @@ void addExtension(X509* certificate, X509* issuer, int kind, const std::string& 
     require(extension && X509_add_ext(certificate, extension.get(), -1) == 1);
 }
 
-// A certificate without its extensions and signature. It begins a day early, for clients whose clock is
-// behind.
+// A certificate without its extensions and signature. It is valid from one day ago, for clients whose clock
+// is slow.
 Certificate begin(EVP_PKEY* key, const std::string& commonName, long days) {
     Certificate certificate(X509_new());
     const Number serial(BN_new());

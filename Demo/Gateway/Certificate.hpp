@@ -26,11 +26,11 @@ struct Credentials {
     Certificate certificate;
 };
 
-/// Makes a certificate authority that signs itself: EC P-256, good for ten years. Throws `std::runtime_error`
-/// if OpenSSL fails, which it does only when the machine has no randomness or memory left.
+/// Makes a self-signed certificate authority: EC P-256, valid for ten years. Throws `std::runtime_error` if
+/// OpenSSL fails.
 [[nodiscard]] Credentials makeAuthority();
 
-/// Makes a server's certificate for the given names and 127.0.0.1, signed by the authority. Throws likewise.
+/// Makes a server's certificate for the given names and 127.0.0.1, signed by the authority. Throws as above.
 [[nodiscard]] Credentials makeServer(const Credentials& authority, std::span<const std::string_view> names);
 
 } // namespace quillet::gateway

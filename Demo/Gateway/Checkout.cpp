@@ -25,7 +25,7 @@ struct Count {
     std::int64_t points = 0;
 };
 
-// Which carts a checkout takes; the two places are for the consultant's number and her cycle.
+// Selects the carts that a checkout takes. The two parameters are the consultant's number and her cycle.
 constexpr std::string_view taken =
     "consultant = ?1 AND status = 'OPEN' AND (?2 IS NULL OR magazine_cycle <= ?2)";
 
@@ -106,7 +106,7 @@ Json productJson(const Product& product) {
               {"status", product.status},
               {"quantity", product.quantity},
               {"totalPrice", money(product.price)}};
-    // Where points come by the pack, or some units were a present, there are no points of one unit to tell.
+    // Where points are given per pack, or some units were gifts, a single unit has no points of its own.
     if (product.unitPoints * product.quantity == product.points) {
         json["unitPoints"] = product.unitPoints;
     }

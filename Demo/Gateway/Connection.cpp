@@ -38,7 +38,7 @@ Request requestOf(const http::request<http::string_body>& message) {
     return request;
 }
 
-// The reply to what could not even be read as a request; nothing if the client has simply gone.
+// The reply to a malformed request; nothing if the client has disconnected.
 std::optional<Reply> replyTo(const Failure& failure, const std::string& target) {
     if (failure == http::error::header_limit) {
         return clientError(431, target, "The headers are over 16 KiB.");
@@ -80,10 +80,9 @@ void Connection::run() {
     try {
         serve();
     } catch (const boost::system::system_error&) {
-        // The client is gone in the middle of something: nobody is left to be told.
+        // The client disconnected in the middle of a request, so there is nobody to report to.
     }
-    // Closing without TLS's farewell is what a cut looks like; whoever wants to part politely has done so
-    // before.
+    // Closing without close_notify makes the body look cut. An orderly end has already sent it.
     const std::lock_guard lock(mutex_);
     closed_ = true;
     Failure ignored;
@@ -94,8 +93,8 @@ void Connection::interrupt() {
     const std::lock_guard lock(mutex_);
     interrupted_ = true;
     interruption_.notify_all();
-    // Blocking reads and writes of the other thread return at once; the descriptor itself stays its own to
-    // close.
+    // This makes the other thread's blocking reads and writes return at once. That thread still closes the
+    // descriptor.
     if (!closed_) {
         ::shutdown(stream_.next_layer().native_handle(), SHUT_RDWR);
     }
@@ -178,8 +177,8 @@ void Connection::waitForClientToGo() {
 void Connection::endPolitely() {
     Failure ignored;
     stream_.shutdown(ignored);
-    // What is still coming in is read away, or the client's system would throw our reply away before she has
-    // read it.
+    // Unread input is drained first. Closing with unread data sends a reset, and the client could then lose
+    // our reply.
     auto& socket = stream_.next_layer();
     socket.shutdown(asio::ip::tcp::socket::shutdown_send, ignored);
     std::array<char, 4096> rest;

@@ -14,7 +14,7 @@
 namespace quillet::gateway {
 
 /// One client's connection, from the TLS handshake to its end. It blocks: each runs on a thread of its own,
-/// so that what is done on the wire, and when, reads from top to bottom.
+/// so that the code states what happens on the wire in its order.
 class Connection {
 public:
     Connection(std::uint64_t number, boost::asio::ip::tcp::socket socket, boost::asio::ssl::context& tls,
@@ -28,7 +28,7 @@ public:
     void interrupt();
 
 private:
-    // What follows an answer: the next request, a farewell, or an end without one.
+    // What follows an answer: the next request, an orderly TLS close, or a cut.
     enum class Then { next, part, drop };
 
     void serve();

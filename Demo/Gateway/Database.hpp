@@ -15,8 +15,8 @@ struct sqlite3_stmt;
 namespace quillet::gateway {
 
 /// A statement could not be prepared or run: a full disk, a lock held too long, a file that is not a
-/// database. It is an exception, not a value, so that an open transaction is rolled back on the way out;
-/// `main` and the router catch it.
+/// database. It is an exception so that unwinding rolls back an open transaction. `main` and the router catch
+/// it.
 class DatabaseError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -27,7 +27,7 @@ class Statement {
 public:
     Statement(sqlite3* database, std::string_view sql);
 
-    /// Goes on to the next row; false when there is none.
+    /// Moves to the next row; false when there is none.
     bool next();
 
     [[nodiscard]] bool isNull(int column) const;
@@ -55,16 +55,16 @@ private:
 };
 
 /// One connection to the database file, for one thread at a time. Other connections may be open to the same
-/// file, also in other processes; a lock is waited for up to five seconds.
+/// file, also in other processes; it waits up to five seconds for a lock.
 class Database {
 public:
     /// Opens the file, making it if there is none. Throws `DatabaseError`.
     explicit Database(const std::filesystem::path& file);
 
-    /// Runs a text of several statements that give no rows.
+    /// Runs several statements that return no rows.
     void script(const std::string& sql);
 
-    /// Prepares `sql` with `values` in index of its question marks.
+    /// Prepares `sql` and binds `values` to its question marks in order.
     template <class... Values>
     [[nodiscard]] Statement query(std::string_view sql, const Values&... values) {
         Statement statement(database_.get(), sql);
@@ -74,7 +74,7 @@ public:
         return statement;
     }
 
-    /// Runs a statement that gives no rows; returns how many rows it changed.
+    /// Runs a statement that returns no rows; returns how many rows it changed.
     template <class... Values>
     int execute(std::string_view sql, const Values&... values) {
         query(sql, values...).next();
@@ -90,7 +90,8 @@ private:
     std::unique_ptr<sqlite3, Closer> database_;
 };
 
-/// Holds the file's write lock from its making until `commit`, or rolls back when it goes without one.
+/// Holds the file's write lock from construction until `commit`. Its destructor rolls back if `commit` was
+/// not called.
 class Transaction {
 public:
     explicit Transaction(Database& database);

@@ -6,8 +6,7 @@ namespace quillet::gateway {
 
 namespace {
 
-// What came in from outside may hold bytes that are not UTF-8; an error body about it has to be sound all the
-// same.
+// The request may hold bytes that are not UTF-8, but an error body that quotes it must be valid JSON.
 std::string dump(const Json& json) {
     return json.dump(-1, ' ', false, Json::error_handler_t::replace);
 }

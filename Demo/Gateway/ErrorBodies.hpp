@@ -7,7 +7,7 @@
 
 namespace quillet::gateway {
 
-/// A reply whose body has the flat form of client errors. `details` tells a developer what to put right.
+/// A reply whose body has the flat form of client errors. `details` tells a developer what to correct.
 [[nodiscard]] Reply clientError(int status, std::string_view target, std::string_view details);
 
 /// A reply whose body has the nested form of server errors; `code` is the machine-readable one.

@@ -20,7 +20,7 @@ constexpr std::array<std::pair<FaultKind, std::string_view>, 6> names{{
     {FaultKind::close, "close"},
 }};
 
-// What a "malformed" fault answers, by its value; the first is the usual one.
+// The bodies of a "malformed" fault by its value; the first is the default.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 5> nonsense{{
     {"", R"({"consultant":{"id":41059,"cycle":{"code":202605,)"},
     {"shape", R"({"result":"ok","items":[1,2,3]})"},
@@ -91,7 +91,7 @@ std::optional<Fault> takeFault(Database& database, std::int64_t consultant, Call
     const auto kind = faultKind(row.text(0));
     Fault fault{.kind = kind.value_or(FaultKind::status), .value = row.text(1)};
     row.next();
-    // The table may have been edited by hand. A fault that nobody can understand is the gateway's own
+    // The table may have been edited by hand. A fault that cannot be read is reported as the gateway's own
     // failure.
     if (!kind || checkFaultValue(fault)) {
         throw DatabaseError("the table \"faults\" holds a kind or value that is not known");

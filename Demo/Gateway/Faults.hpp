@@ -13,8 +13,8 @@
 
 namespace quillet::gateway {
 
-/// What can be made to go wrong. `delay`, `cut` and `close` happen to a request that has been carried out;
-/// `status`, `malformed` and `silence` come in place of that.
+/// The faults that can be set. `delay`, `cut` and `close` affect the reply of a request that was carried out;
+/// `status`, `malformed` and `silence` replace carrying it out.
 enum class FaultKind { delay, status, malformed, cut, silence, close };
 
 [[nodiscard]] std::string_view name(FaultKind kind);
@@ -22,14 +22,15 @@ enum class FaultKind { delay, status, malformed, cut, silence, close };
 
 struct Fault {
     FaultKind kind;
-    /// Milliseconds for `delay`, the status for `status`, a form of nonsense for `malformed`; else empty.
+    /// Milliseconds for `delay`, the status for `status`, a kind of malformed body for `malformed`; else
+    /// empty.
     std::string value;
 };
 
-/// What is wrong with the value of a fault, in words; nothing if it will do.
+/// What is wrong with the value of a fault, in words; nothing if it is valid.
 [[nodiscard]] std::optional<std::string> checkFaultValue(const Fault& fault);
 
-/// Takes the fault that waits for this consultant and call, if there is one, and counts it down.
+/// Takes the fault set for this consultant and call, if there is one, and counts it down.
 [[nodiscard]] std::optional<Fault> takeFault(Database& database, std::int64_t consultant, CallKind call);
 
 /// The reply of a `status` or `malformed` fault; none for the other kinds.

@@ -6,11 +6,11 @@
 
 namespace quillet::gateway {
 
-/// Members go out in the order in which they were put in, so that a person can read a body.
+/// Members keep their insertion order, which makes a body easier to read.
 using Json = nlohmann::ordered_json;
 
 /// An amount of money for a body, from whole hundredths. The library writes the shortest text that reads back
-/// as the same double; for every amount of up to 4,000,000.00 that has been checked to be the decimal itself.
+/// as the same double. For every amount up to 4,000,000.00 this was checked to be the exact decimal.
 inline Json money(std::int64_t hundredths) {
     if (hundredths % 100 == 0) {
         return hundredths / 100;

@@ -12,12 +12,12 @@
 
 namespace quillet::gateway {
 
-/// The log: one JSON object a line, appended and flushed for each request that was read completely, before it
-/// is answered. So it also counts requests that are then cut, held or closed. The token's value never gets
-/// in, only its length. May be written from any number of threads.
+/// The log: one JSON object a line, appended and flushed for each completely read request before it is
+/// answered, so it also counts requests whose reply is then cut, delayed or dropped. It holds the token's
+/// length and never its value. Thread-safe.
 class Log {
 public:
-    /// Opens the file to append to it; or says in words why it cannot be.
+    /// Opens the file for appending. The error is one line for a person.
     [[nodiscard]] static std::expected<Log, std::string> open(const std::filesystem::path& file);
 
     void write(std::uint64_t connection, const Request& request, const Outcome& outcome);
@@ -26,7 +26,7 @@ private:
     explicit Log(std::ofstream stream) : stream_(std::move(stream)) {}
 
     std::ofstream stream_;
-    // Held by pointer so that the log can be moved out of `open`.
+    // A mutex cannot be moved, and `open` returns the log by value.
     std::unique_ptr<std::mutex> mutex_ = std::make_unique<std::mutex>();
 };
 

@@ -47,7 +47,7 @@ std::optional<std::string> add(Options& options, Parser parse, std::string_view 
     return {};
 }
 
-// Takes one option in; returns what is wrong with it.
+// Applies one option; returns what is wrong with it.
 std::optional<std::string> take(Options& options, int found, const std::string& argument) {
     switch (found) {
     case data:
@@ -92,7 +92,7 @@ std::optional<std::string> take(Options& options, int found, const std::string& 
 } // namespace
 
 std::expected<Options, std::string> parseOptions(std::span<char* const> arguments) {
-    // getopt wants the program's name in front and a null pointer behind.
+    // getopt expects the program's name first and a null pointer last.
     std::string program = "quillet-gateway";
     std::vector<char*> all{program.data()};
     all.insert(all.end(), arguments.begin(), arguments.end());

@@ -30,8 +30,8 @@ struct Options {
     [[nodiscard]] bool isErrand() const { return list || !adjustments.empty(); }
 };
 
-/// Reads the arguments, without the program's name. An argument that cannot be understood comes back in
-/// words. Not to be called from two threads at once.
+/// Reads the arguments, without the program's name. The error is one line for a person. Not reentrant, since
+/// getopt is not.
 [[nodiscard]] std::expected<Options, std::string> parseOptions(std::span<char* const> arguments);
 
 [[nodiscard]] std::string_view helpText();

@@ -34,7 +34,7 @@ constexpr std::array<Rule, 3> rules{{
     {CallKind::checkout, "POST", std::nullopt, true, false},
 }};
 
-// Headers that a client's HTTP library adds by itself. Any other that is not the module's own is a mistake.
+// Headers that an HTTP library adds by itself. Any other header that the module does not set is an error.
 constexpr std::array<std::string_view, 7> transportHeaders{
     "Host",       "User-Agent",     "Accept-Encoding",  "Accept-Language",
     "Connection", "Content-Length", "Transfer-Encoding"};
@@ -125,7 +125,7 @@ std::expected<std::uint64_t, Wrong> consultantOfPath(const std::string& text) {
     std::uint64_t id = 0;
     const auto* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, id);
-    // Written back it must be the same text: no sign, no leading zeros.
+    // The text must equal the number printed: no sign, no leading zeros.
     if (error != std::errc{} || stop != end || std::to_string(id) != text) {
         return std::unexpected(
             Wrong{400, "The consultant's number in the path is not a plain decimal number."});

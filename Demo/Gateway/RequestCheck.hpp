@@ -11,8 +11,7 @@
 
 namespace quillet::gateway {
 
-/// A request that is right in form: what it asks for. `country` is empty for the associate call, `cart` for
-/// the others.
+/// What a well-formed request asks for. `country` is empty for the associate call, `cart` for the others.
 struct Call {
     CallKind kind;
     std::uint64_t consultant;
@@ -30,7 +29,7 @@ struct Identity {
 [[nodiscard]] const Identity& builtInIdentity();
 
 /// Checks all of a request that can be judged without the database: host, path, method, token, provider,
-/// headers, query and body, in this order. What is wrong comes back as the reply to send, with a client error
+/// headers, query and body, in this order. An error is returned as the reply to send, with a client error
 /// body.
 [[nodiscard]] std::expected<Call, Reply> checkRequest(const Request& request, const Identity& identity);
 

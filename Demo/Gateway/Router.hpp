@@ -9,20 +9,20 @@
 
 namespace quillet::gateway {
 
-/// What is to be done about one request.
+/// How to answer one request.
 struct Outcome {
     Reply reply;
     std::optional<Fault> fault;
     std::optional<std::uint64_t> consultant;
 
-    /// Whether the reply's status goes out at all.
+    /// Whether any part of the reply is sent.
     [[nodiscard]] bool isAnswered() const {
         return !fault || (fault->kind != FaultKind::silence && fault->kind != FaultKind::close);
     }
 };
 
-/// Decides about requests. It reads the database in the folder `data` anew for each, so that changes made to
-/// it while the gateway runs count at once. May be called from any number of threads.
+/// Decides about requests. It opens the database in the folder `data` for each request, so that changes made
+/// while the gateway runs apply at once. Thread-safe.
 class Router {
 public:
     explicit Router(std::filesystem::path data, const Identity& identity = builtInIdentity());

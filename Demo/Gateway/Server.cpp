@@ -51,7 +51,7 @@ struct Server::Implementation {
                 return;
             }
             sessions.remove_if([](const Session& session) { return session.ended.load(); });
-            // Beyond the limit a client is turned away: its socket closes right here.
+            // Above the limit the accepted socket is closed here.
             if (!failure && sessions.size() < mostConnections) {
                 start(std::move(socket));
             }
@@ -69,7 +69,7 @@ struct Server::Implementation {
 
     void readStdin() {
         input.async_read_some(asio::buffer(ignored), [this](const Failure& failure, std::size_t) {
-            // Files and /dev/null cannot be waited for and count as ended.
+            // Regular files and /dev/null cannot be polled with epoll and count as ended.
             failure ? loop.stop() : readStdin();
         });
     }
@@ -83,7 +83,7 @@ struct Server::Implementation {
     const Router& router;
     Log& log;
     std::uint64_t number = 0;
-    // Only the loop's thread touches the list; a session's own thread sees nothing but its session.
+    // Only the loop's thread uses the list. A connection's thread uses its own connection only.
     std::list<Session> sessions;
 };
 

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] std::uint16_t port() const;
 
     /// Serves until SIGTERM or SIGINT comes, or, if asked for, standard input ends. Then ends all
-    /// connections, held ones too, and returns. To be called once, on the thread that made the server.
+    /// connections, delayed ones too, and returns. Call it once, on the thread that made the server.
     void run(bool stopWithStdin);
 
 private:

@@ -8,7 +8,7 @@ namespace quillet::gateway {
 
 namespace {
 
-// "Qgw1" in the file's header tells our database from any other; the version goes up with Schema.sql.
+// "Qgw1" in the file's header marks our database; the version is raised with each change of Schema.sql.
 constexpr std::int64_t applicationId = 0x51677731;
 constexpr std::int64_t schemaVersion = 1;
 

@@ -21,7 +21,7 @@ struct Consultant {
     std::optional<std::int64_t> cycle;
 };
 
-/// Ids run over all of 64 bits on the wire; one that the database could not even hold is simply not there.
+/// Ids on the wire are unsigned 64-bit numbers. One above SQLite's signed range cannot exist in the database.
 [[nodiscard]] std::optional<Consultant> findConsultant(Database& database, std::uint64_t id);
 
 /// The consultant as bodies carry her; the key "cycle" is left out between two cycles.

@@ -14,7 +14,7 @@ enum class CallKind { associate, open, checkout };
 [[nodiscard]] std::string_view name(CallKind kind);
 [[nodiscard]] std::optional<CallKind> callKind(std::string_view name);
 
-/// What a request's target leads to. Texts are percent-decoded.
+/// The parts of a request's target. Texts are percent-decoded.
 struct Target {
     CallKind kind;
     std::string cart;
@@ -25,8 +25,7 @@ struct Target {
 
 enum class TargetError { unknown, badEncoding };
 
-/// Takes a request target apart. Everything behind "/quillet-bff/sell-out-carts/" names a cart, slashes
-/// included.
+/// Parses a request target. Everything after "/quillet-bff/sell-out-carts/" names a cart, slashes included.
 [[nodiscard]] std::expected<Target, TargetError> parseTarget(std::string_view target);
 
 } // namespace quillet::gateway

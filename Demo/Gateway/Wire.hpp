@@ -8,20 +8,21 @@
 
 namespace quillet::gateway {
 
-/// One request as it came in. Header names are kept as written and compared without regard to case.
+/// One request as received. Header names keep their spelling and are compared without regard to case.
 struct Request {
     std::string method;
     std::string target;
     std::vector<std::pair<std::string, std::string>> headers;
     std::string body;
 
-    /// How often a header came.
+    /// The number of headers of this name.
     [[nodiscard]] std::size_t count(std::string_view name) const;
-    /// The first value of a header; empty if it did not come.
+    /// The first value of a header; empty if there is none.
     [[nodiscard]] std::string_view header(std::string_view name) const;
 };
 
-/// One reply. `headers` are those beside the content type, the length and the connection's.
+/// One reply. `headers` excludes Content-Type, Content-Length and Connection, which are added when it is
+/// written.
 struct Reply {
     int status = 200;
     std::string body;
@@ -32,7 +33,7 @@ struct Reply {
 
 [[nodiscard]] bool sameHeader(std::string_view left, std::string_view right);
 
-/// "Not Found" for 404, and "Status" for a number that has no name of its own.
+/// "Not Found" for 404, and "Status" for an unknown number.
 [[nodiscard]] std::string_view reasonPhrase(int status);
 
 } // namespace quillet::gateway

@@ -62,7 +62,7 @@ int serve(const Options& options) {
 } // namespace
 
 int main(int count, char** arguments) {
-    // A client or a reader of our output that goes away must not take the gateway along.
+    // Writing to a closed socket or pipe must not end the gateway.
     std::signal(SIGPIPE, SIG_IGN);
     const auto options = parseOptions({arguments + 1, static_cast<std::size_t>(count - 1)});
     if (!options) {

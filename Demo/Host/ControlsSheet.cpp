@@ -16,7 +16,7 @@ std::expected<void, QString> drawControls(const QString& file) {
         return std::unexpected(QStringLiteral("the sheet does not load"));
     }
     view.show();
-    // Layouts that wait for the event loop come to rest before the picture is taken.
+    // Layouts are polished in the event loop, so it runs before the picture is taken.
     QCoreApplication::processEvents();
     if (!view.grabWindow().save(file)) {
         return std::unexpected(QStringLiteral("cannot write ") + file);

@@ -40,10 +40,9 @@ public:
     };
     /// Opens the module for an order; false if its token cannot be signed or its screen not shown.
     bool open(const Order& order);
-    /// Shows the first screen as it answers to a refusal with this code of the back end's, without any
-    /// request.
+    /// Shows the first screen's answer to a refusal with this back end code, without any request.
     bool openHandmade(const std::string& refusal);
-    /// Takes the module away.
+    /// Removes the module's screens.
     void close();
 
     /// Opens the order at `index` of the home screen's list.

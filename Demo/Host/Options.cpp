@@ -32,7 +32,7 @@ bool readGateway(const QString& text, Options& options) {
     return true;
 }
 
-/// What is wrong with a file of certificate authorities; empty if nothing is.
+/// Why a file of certificate authorities cannot be used; empty if it can.
 QString caFileFault(const QString& path) {
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {

@@ -8,22 +8,22 @@
 
 namespace demo {
 
-/// What a person typed.
+/// The parsed command line.
 struct Options {
     enum class Mode { window, tour, play, controls };
 
     Mode mode = Mode::window;
-    /// Where a tour or a play leaves its pictures and its report.
+    /// Folder for the pictures and the report of a tour or a play.
     QString outFolder;
     QString playFile;
-    /// Where the sheet of controls goes.
+    /// File for the sheet of controls.
     QString controlsFile;
-    /// HOST:PORT of a server to use instead of the one that comes with the project.
+    /// HOST:PORT of a server to use instead of the local gateway.
     std::optional<QString> gatewayHost;
     quint16 gatewayPort = 0;
     QString caFile;
     QString gatewayProgram;
-    /// Where the local gateway keeps its state.
+    /// Folder of the local gateway's state.
     QString dataFolder;
     quint16 port = 0;
     bool reset = false;

@@ -86,7 +86,7 @@ int drawSheet(const QString& file) {
     return drawn ? 0 : complain(drawn.error(), failed);
 }
 
-/// Sets the gateway and the host up and does what was asked for. All that it made is gone when it returns.
+/// Sets up the gateway and the host and runs what was asked for. It cleans up before it returns.
 int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& plays) {
     const bool inWindow = options.mode == demo::Options::Mode::window;
     QTemporaryDir freshData;
@@ -117,7 +117,7 @@ int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& p
     }
 
     const auto journal = std::make_shared<demo::Journal>();
-    // A person in front of the window has a network of her own to switch off.
+    // In interactive use the system's network path is used.
     const auto network = inWindow ? nullptr : std::make_shared<demo::NetworkSwitch>(address);
     demo::configurePlatform(network ? network->address() : address, journal, network);
     const auto host = std::make_shared<demo::HostApplication>(*journal, status, orders);
@@ -162,7 +162,7 @@ int main(int argc, char** argv) {
         }
     }
     if (!inWindow) {
-        // These modes need no display, and their pictures are as fine as a phone's.
+        // These modes need no display; their pictures have a phone's pixel density.
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qputenv("QT_SCALE_FACTOR", "2");
     }

@@ -18,7 +18,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-/// Makes real workers whose service and main queue are the test's.
+/// Makes real workers with the test's service and main queue.
 class WorkerFactory final : public CheckoutWorkerCreating {
 public:
     WorkerFactory(std::shared_ptr<Conversation<CheckoutResult>> talk,
@@ -38,7 +38,7 @@ private:
     std::vector<std::weak_ptr<CheckoutWorker>>& made_;
 };
 
-/// A host that does something of its own at each screen view.
+/// A host that runs an action of the test at each screen view.
 class ActingAnalytics final : public kel::KelAnalyticsManagerType {
 public:
     explicit ActingAnalytics(std::function<void()> act) : act_(std::move(act)) {}
@@ -67,7 +67,7 @@ struct CheckoutScreen : ::testing::Test {
         return screen;
     }
 
-    /// Answers the call of that number.
+    /// Answers the call with that index.
     void answer(CheckoutResult result, std::size_t call = 0) {
         std::exchange(talk->pending.at(call), nullptr)(std::move(result));
         queue->drain();
@@ -112,7 +112,7 @@ TEST_F(CheckoutScreen, HearsNoAnswerOnceTheHostHasTakenItOff) {
     const std::function<void()> ways[] = {
         [&] { stage.pop(); },
         [&] { stage.popAll(); },
-        // From under another one.
+        // It lies below another screen.
         [&] { open(), stage.popAll(); },
     };
     for (const auto& takeOff : ways) {
@@ -157,7 +157,7 @@ TEST_F(CheckoutScreen, GoesOnUnderAPageThatCoversIt) {
     ASSERT_TRUE(turnUntil([&] { return settled(); }));
     stage.click("Actualizar");
     EXPECT_TRUE(turnUntil([&] { return talk->pending.size() == 3; }));
-    // The window goes now, with an overlay on it that has keys to give back.
+    // The window is destroyed while its overlay still has the keyboard focus to give back.
 }
 
 TEST_F(CheckoutScreen, SetsItsTitleOnEachAppearanceAndChecksOutOnce) {

@@ -31,7 +31,7 @@ private:
     Log log_;
 };
 
-/// The screen: it writes down what it is asked for and keeps the dialog's actions.
+/// A screen that records its calls and keeps the dialog's actions.
 class FakeCheckoutScreen final : public CheckoutViewModelDelegate {
 public:
     FakeCheckoutScreen(Log log, std::weak_ptr<QuilletNavigationDelegate> host)

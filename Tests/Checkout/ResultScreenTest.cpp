@@ -29,7 +29,7 @@ int itemsBelow(const QQuickItem& item) {
     return count;
 }
 
-/// Shows the overlay and writes down when.
+/// Shows the overlay and records when.
 class LoggingDisplayer final : public LoadingDisplayable {
 public:
     explicit LoggingDisplayer(Log log) : log_(std::move(log)) {}
@@ -48,7 +48,7 @@ struct ResultScreen : ::testing::Test {
     ResultScreen() { useQuilletViews(*qmlEngine(&stage.stack())); }
     ~ResultScreen() override { EXPECT_THAT(stage.complaints(), IsEmpty()); }
 
-    /// Shows a partial result of so many products, half of them sent.
+    /// Shows a partial result with this number of products, half of them sent.
     void show(std::size_t count) {
         std::vector<Product> products(count);
         for (std::size_t i = 0; i < count; ++i) {
@@ -157,7 +157,7 @@ TEST_F(ResultScreen, OpensASectionFromItsTop) {
     stage.click("Productos enviados");
     ASSERT_TRUE(turnUntil([&] { return !heights.empty() && heights.back().second > 60; }));
     QObject::disconnect(look);
-    // The last row brings the distance to the next section along.
+    // The last row includes the distance to the next section.
     constexpr double distance = 16;
     for (const auto& [first, second] : heights) {
         EXPECT_TRUE(second <= distance || first > 60) << first << " above " << second;

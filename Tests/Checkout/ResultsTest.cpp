@@ -1,10 +1,8 @@
 #include "Checkout/Inputs/TotalAddedProductPointsPresenter.hpp"
 #include "Checkout/Screen/CheckoutRouter.hpp"
-#include "KelCommon/KelAnalyticsManager.hpp"
-#include "Support/FakeHost.hpp"
 #include "Views/Screen/ViewController.hpp"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <limits>
 
@@ -12,10 +10,9 @@ namespace quillet::testing {
 
 namespace {
 
-using ::testing::ElementsAre;
 constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
 
-/// Keeps the input that the router makes and what the real factory makes of it.
+/// Keeps the input that the router makes and what the real factory returns for it.
 template <typename Input>
 class Spy final : public ResultViewCreating<Input> {
 public:
@@ -39,7 +36,7 @@ Product product(std::uint64_t code, ProductErrorStatus status) {
     return result;
 }
 
-/// A response whose counters disagree with its products on purpose.
+/// A response whose counters deliberately disagree with its products.
 CheckoutResponse response(std::optional<Cycle> cycle) {
     CheckoutResponse result;
     result.consultant.cycle = cycle;
@@ -136,14 +133,6 @@ TEST_F(CheckoutResults, HaveAnEmptyCycleWithoutOneAndEmptySectionsWithoutProduct
     EXPECT_EQ(rows(*partial), (QStringList{"Productos enviados", "Code: 1", "Productos no enviados"}));
     EXPECT_EQ(rows(*show(&CheckoutRoutering::showNoProductAdded, answer)),
               (QStringList{"Productos no enviados"}));
-}
-
-TEST_F(CheckoutResults, TrackTheResultScreenAlsoWhereItIsNeverShown) {
-    const auto log = makeLog();
-    kel::KelAnalyticsManager::shared()->setSink(std::make_shared<FakeAnalytics>(log));
-    static_cast<void>(show(&CheckoutRoutering::showAllProductsAdded, response({})));
-    kel::KelAnalyticsManager::shared()->setSink(nullptr);
-    EXPECT_THAT(taken(log), ElementsAre("screen Feedback de produtos"));
 }
 
 TEST(TotalAddedProductPoints, AreWrittenInFullAndInTheRightNumber) {

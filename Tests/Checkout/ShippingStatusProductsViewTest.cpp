@@ -46,8 +46,8 @@ std::optional<ExpansionPanel> notSent(std::size_t count) {
     return ProductsViewFactory::unshippedProductsView(products(count));
 }
 
-/// The list as it stands, a letter a row: head open (o) or closed (c), product (p) or a product that is
-/// moving (m); in capitals where the row ends its section, which is when a head has nothing below it.
+/// The list's rows, one letter each: head open (o) or closed (c), product (p), moving product (m). A capital
+/// marks the last row of a section, which is the head where no products are below it.
 std::string shape(const ShippingStatusProductsView& view) {
     std::string rows;
     for (int row = 0; row < view.rowCount(); ++row) {
@@ -65,8 +65,7 @@ std::string shape(const ShippingStatusProductsView& view) {
 struct Sections : ::testing::Test {
     ~Sections() override { kel::KelAppearance::current().setReducedMotion(false); }
 
-    /// A list of such sections, with a tester that ends the program at the first signal that does not fit the
-    /// rows.
+    /// A list of these sections, with a tester that aborts at the first signal that contradicts the rows.
     ShippingStatusProductsView& show(std::optional<ExpansionPanel> shipped,
                                      std::optional<ExpansionPanel> unshipped) {
         tester.reset();
@@ -156,7 +155,7 @@ TEST_F(Sections, ShowWhatIsAboveTheCutWhileTheyMove) {
     list.reportHeight(2, 100);
     list.reportHeight(3, 120);
     list.reportHeight(3, 120);
-    // Neither the head nor a row of the other section moves.
+    // The head and the rows of the other section do not move.
     for (const int row : {-1, 0, 4, 5}) {
         list.reportHeight(row, 7);
         EXPECT_EQ(list.shownHeight(row, 1), 0);
@@ -170,7 +169,7 @@ TEST_F(Sections, ShowWhatIsAboveTheCutWhileTheyMove) {
         EXPECT_DOUBLE_EQ(list.shownHeight(2, share), second);
         EXPECT_DOUBLE_EQ(list.shownHeight(3, share), third);
     }
-    // The next section to move starts with heights of its own.
+    // The next section to move does not reuse these heights.
     animating->running[0].finish();
     list.toggle(1, 1);
     list.reportHeight(2, 80);
@@ -197,7 +196,7 @@ TEST_F(Sections, TurnRoundAtATapInTheMiddleOfAMove) {
 TEST_F(Sections, ComeToRestWhenAnotherIsTappedAndOutliveNothing) {
     auto& list = show(sent(3), notSent(2));
     list.toggle(0, 2);
-    // The head of the lower section, as the list counts its rows at this moment.
+    // The row of the lower section's head at this moment.
     list.toggle(3, 1);
     EXPECT_EQ(shape(list), "CcM");
     animating->running[0].finish();

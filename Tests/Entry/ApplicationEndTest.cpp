@@ -16,14 +16,14 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// What became of a wake-up that is under way while the application ends.
+/// The state of a wake-up that runs while the application ends.
 struct WakeUp {
     std::promise<void> begun;
     std::promise<void> dispatcherGone;
     std::promise<bool> outlivedTheDispatcher;
 };
 
-/// Qt's loop with nothing to wait for, whose wake-up from another thread takes its time.
+/// An event dispatcher without sources, whose wake-up from another thread is slow.
 class SlowDispatcher final : public QAbstractEventDispatcher {
 public:
     explicit SlowDispatcher(WakeUp& wakeUp) : wakeUp_(wakeUp) {}
@@ -87,7 +87,7 @@ TEST(ApplicationEnd, WaitsForTheThreadThatWakesItAndLeavesTheRestToTheNextApplic
 
 } // namespace quillet::testing
 
-// Unlike the other tests', its applications come and go while it runs.
+// Unlike the other tests it creates and destroys several applications.
 int main(int argc, char** argv) {
     ::testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();

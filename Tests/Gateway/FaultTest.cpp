@@ -33,8 +33,8 @@ protected:
     HttpsClient client{port, folder.path() / "ca.pem"};
 };
 
-// In both the TLS stream ends without a farewell, which libcurl 8.14 calls an error of reading and 7.88 did
-// not.
+// In both the TLS stream ends without close_notify, which libcurl 8.14 reports as a receive error and 7.88
+// did not.
 const testing::Matcher<CURLcode> isCut = testing::AnyOf(CURLE_PARTIAL_FILE, CURLE_RECV_ERROR);
 const testing::Matcher<CURLcode> isClosed = testing::AnyOf(CURLE_GOT_NOTHING, CURLE_RECV_ERROR);
 
@@ -42,9 +42,9 @@ struct FaultCase {
     std::string fault;
     testing::Matcher<CURLcode> code;
     long status;
-    /// The status that the log tells; -1 for none.
+    /// The status in the log; -1 if there is no line.
     int logged;
-    /// Whether the order counts as sent afterwards.
+    /// Whether the order is submitted afterwards.
     bool isSent;
 };
 
@@ -73,7 +73,7 @@ TEST_F(GatewayFaults, HappenOnTheWireAndAreLoggedOnce) {
         ASSERT_EQ(client.send(associateRequest(41051, cartOf(41051))).status, 200);
         const auto before = log().size();
         const auto deadline = wanted.fault == "kind=silence" ? 300ms : 20s;
-        // On a connection that has been used before, curl itself would repeat a POST that gets no answer.
+        // On a reused connection curl itself would repeat a POST that gets no answer.
         const auto exchange =
             HttpsClient(port, folder.path() / "ca.pem").send(checkoutRequest(41051), deadline);
         EXPECT_THAT(exchange.code, wanted.code) << curl_easy_strerror(exchange.code);
@@ -84,7 +84,7 @@ TEST_F(GatewayFaults, HappenOnTheWireAndAreLoggedOnce) {
         EXPECT_EQ(entries.back()["method"], "POST");
         EXPECT_EQ(entries.back()["status"], wanted.logged < 0 ? Json() : Json(wanted.logged));
         EXPECT_EQ(entries.back()["consultant"], 41051);
-        // The fault is used up; what the order's state is now tells whether it had been carried out.
+        // The fault is used up. The order's state now tells whether the request was carried out.
         EXPECT_EQ(client.send(checkoutRequest(41051)).status, wanted.isSent ? 400 : 200);
     }
 }
@@ -125,8 +125,7 @@ TEST_F(GatewayFaults, AreSeededForEachOutcome) {
 }
 
 TEST_F(GatewayFaults, DoNotStandInTheWayOfStopping) {
-    // One client held in silence, one in a long delay, one that has only connected its socket and one that
-    // idles.
+    // One client in a silence fault, one in a long delay, one with only a TCP connection, and one idle.
     ASSERT_EQ(errand("--fault", "consultant=41051 call=open kind=delay value=600000").status, 0);
     HttpsClient delayed(port, folder.path() / "ca.pem");
     EXPECT_EQ(client.send(checkoutRequest(41062), 300ms).code, CURLE_OPERATION_TIMEDOUT);

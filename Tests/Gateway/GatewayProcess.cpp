@@ -14,7 +14,7 @@ namespace quillet::gateway {
 
 namespace {
 
-// Close-on-exec, or a gateway started by one test would keep another's input from ending.
+// Close-on-exec: a gateway that inherits the pipe's write end would keep another gateway's input open.
 std::array<int, 2> makePipe() {
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC) != 0) {

@@ -9,15 +9,15 @@
 
 namespace quillet::gateway {
 
-/// What a run of the program left behind.
+/// The result of a run of the program.
 struct Ended {
     int status = -1;
     std::string output;
     std::string errors;
 };
 
-/// The program as a person starts it: a process of its own, its three standard streams in our hands. It is
-/// ended, if it still runs, when the object goes.
+/// The program as a child process with its three standard streams as pipes. The destructor ends it if it
+/// still runs.
 class GatewayProcess {
 public:
     explicit GatewayProcess(const std::vector<std::string>& arguments);
@@ -25,14 +25,13 @@ public:
     GatewayProcess(const GatewayProcess&) = delete;
     GatewayProcess& operator=(const GatewayProcess&) = delete;
 
-    /// Waits for the line that tells the port; 0 if the program ended without one.
+    /// Waits for the line with the port; 0 if the program ended without one.
     std::uint16_t port();
 
     void signal(int number) const;
     void closeInput();
 
-    /// Reads all that the program still writes and waits for its end. A death by signal counts as 128 and the
-    /// signal.
+    /// Reads the rest of the output and waits for the end. Death by a signal is 128 plus the signal's number.
     Ended wait();
 
 private:

@@ -29,7 +29,7 @@ Exchange HttpsClient::send(const Request& request, std::chrono::milliseconds dea
     List headers;
     List mapping;
     add(mapping, "::127.0.0.1:" + std::to_string(port_));
-    // curl adds an Accept of its own, and a Content-Type to what has a body, if it is not told otherwise.
+    // By default curl adds an Accept header, and a Content-Type to a request with a body.
     for (const char* const name : {"Accept", "Content-Type"}) {
         if (request.count(name) == 0) {
             add(headers, std::string(name) + ":");

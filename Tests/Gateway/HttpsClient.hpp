@@ -12,7 +12,7 @@
 
 namespace quillet::gateway {
 
-/// What curl made of an exchange.
+/// The outcome of an exchange.
 struct Exchange {
     CURLcode code = CURLE_OK;
     long status = 0;
@@ -20,7 +20,7 @@ struct Exchange {
 };
 
 /// Sends requests over HTTPS to the host that their Host header names, at a port of 127.0.0.1, and trusts one
-/// authority. Requests one after the other share a connection where the server lets them.
+/// authority. Consecutive requests share a connection if the server keeps it open.
 class HttpsClient {
 public:
     HttpsClient(std::uint16_t port, std::filesystem::path authority);

@@ -147,7 +147,7 @@ TEST(GatewayRequests, WithBytesThatAreNotTextStillGetAnErrorBodyThatIs) {
 }
 
 TEST(GatewayTokens, SignedElsewhereAreAccepted) {
-    // Made with the openssl command, so that the check and the tests cannot share a mistake.
+    // Made with the openssl command, independently of the code under test.
     const auto access = checkToken("eyJhbGciOiJIUzI1NiIsInR5cCI6IkpXVCJ9.eyJhY2Nlc3NfdG9rZW4iOiJhYmNcL3gifQ."
                                    "LxwjqUO9VIOuiURxrZDCFmkvVp36uVHS1HtzDaM9vTg",
                                    "527308");

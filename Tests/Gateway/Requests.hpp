@@ -7,7 +7,7 @@
 
 namespace quillet::gateway {
 
-/// A token with these two segments as they are given, before encoding, signed under the secret.
+/// A token with these two segments before their encoding, signed with the secret.
 std::string signedToken(const std::string& header, const std::string& payload,
                         std::string_view secret = builtInIdentity().secret);
 std::string goodToken();

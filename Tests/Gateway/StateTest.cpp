@@ -82,7 +82,7 @@ TEST_F(GatewayState, SendsWhatItCanAndCountsTheRest) {
     }
     EXPECT_THAT(products, ElementsAre(Pair(70412, "OK"), Pair(81190, "OK"), Pair(90318, "UNAVAILABLE"),
                                       Pair(61204, "QUANTITY_ERROR")));
-    // Points that come by the pack have no points of one unit.
+    // Points given per pack have no points per unit.
     EXPECT_FALSE(answer.body["products"][3].contains("unitPoints"));
     EXPECT_EQ(answer.body["products"][3]["totalPoints"], 40);
     EXPECT_EQ(stock(70412), 498);
@@ -93,8 +93,8 @@ TEST_F(GatewayState, SendsWhatItCanAndCountsTheRest) {
 
 TEST_F(GatewayState, DecidesAProductsStatusByCatalogueStockAndQuota) {
     associate(41068, cartOf(41068));
-    // The lipstick goes from unavailable to added, the cream the other way, the shampoo within a quota of her
-    // own.
+    // The lipstick changes from unavailable to added and the cream the other way round; the shampoo has a
+    // quota for one consultant.
     adjust(parseStock("90318=4"));
     adjust(parseStock("70412=0"));
     adjust(parseQuota("61204@41068=9"));

@@ -8,7 +8,7 @@
 
 namespace quillet::gateway {
 
-/// A folder of its own for each test, gone with all it holds when the test ends.
+/// A temporary folder, removed with its contents by the destructor.
 class TemporaryFolder {
 public:
     TemporaryFolder() {

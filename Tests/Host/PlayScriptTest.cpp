@@ -6,7 +6,7 @@ namespace demo::testing {
 
 namespace {
 
-/// A step in one line, all that was read of it.
+/// A step in one line with all its values.
 QString told(const Step& step) {
     struct Teller {
         static QString by(Device device) {
@@ -53,7 +53,6 @@ TEST(PlayScript, ReadsEachKindOfStep) {
         {"language pt", "language pt"},
         {"close", "close"},
         {R"(tap "Ver Pedidos")", "tap Ver Pedidos"},
-        {"tap Actualizar", "tap Actualizar"},
         {R"(tap "Ver Pedidos" by=touch)", "tap Ver Pedidos by touch"},
         {"tap by=key by=key", "tap by=key by key"},
         {R"(tap "say \"yes\" \\ no")", R"(tap say "yes" \ no)"},
@@ -63,9 +62,7 @@ TEST(PlayScript, ReadsEachKindOfStep) {
         {"absent x", "absent x"},
         {R"(title "")", "title "},
         {"background", "background"},
-        {"background by=touch", "background by touch"},
         {"  close-icon\t", "close-icon"},
-        {"close-icon by=touch", "close-icon by touch"},
         {"close-icon by=key", "close-icon by key"},
         {"scroll end", "scroll end"},
         {"scroll start", "scroll start"},
@@ -86,31 +83,22 @@ TEST(PlayScript, ReadsEachKindOfStep) {
 TEST(PlayScript, NamesTheLineAndWhatIsWrongWithIt) {
     const std::pair<QString, QString> lines[] = {
         {"dance", "unknown step \"dance\""},
-        {"Tap x", "unknown step \"Tap\""},
-        {"tap", "tap takes one text"},
         {"tap Ver Pedidos", "tap takes one text"},
-        {"tap x by=mouse", "tap takes one text"},
         {"tap x by=key by=touch", "tap takes one text"},
         {R"(tap "Ver Pedidos)", "a quotation mark is left open"},
-        {"expect", "expect takes a text"},
         {"expect a b", "expect takes a text"},
         {"expect a within=soon", "within takes seconds"},
-        {"expect a within=-1", "within takes seconds"},
         {"expect a within=nan", "within takes seconds"},
         {"expect a within=1 within=2", "expect takes a text"},
         {"title a b", "this step takes one text"},
         {"back now", "this step takes nothing"},
         {"background by=key", "background takes nothing but by=touch"},
         {"close-icon now", "close-icon takes nothing but by=touch or by=key"},
-        {"scroll", "scroll takes end or start"},
         {"scroll up", "scroll takes end or start"},
         {"shot ../a", "shot takes a name"},
-        {"shot", "shot takes a name"},
         {"network maybe", "network takes on or off"},
         {"handmade 422", "handmade takes "},
         {"language fi", "language takes "},
-        {"open", "open takes cart=UUID"},
-        {"open cart=a consultant=1", "open takes cart=UUID"},
         {"open cart=a consultant=1 country=CL colour=red", "open takes cart=UUID"},
         {"open cart=a cart=b consultant=1 country=CL", "open takes cart=UUID"},
         {"open cart=a consultant=-1 country=CL", "not a consultant's number: -1"},

@@ -27,7 +27,7 @@ struct Program : ::testing::Test {
 
     int run(const QStringList& arguments) {
         QProcess host;
-        // Qt remarks on its absence, which a person's session does not have.
+        // Qt warns where this variable is unset, which it is not in a desktop session.
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert("XDG_RUNTIME_DIR", runtime.path());
         host.setProcessEnvironment(environment);

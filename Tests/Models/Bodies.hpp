@@ -35,8 +35,7 @@ inline const std::string checkoutJson = R"({"submittedOrderId":"A-1","consultant
     "status":"OK","quantity":2,"totalPrice":1.5,"unitPoints":0,"totalPoints":0},{"productCode":2,
     "description":"Crema","status":"OUT_OF_STOCK","quantity":1,"totalPrice":2,"totalPoints":9}]})";
 
-/// `text` with the last `from` in it replaced. Throws if there is none, so that no case quietly tests
-/// nothing.
+/// `text` with its last `from` replaced. Throws if there is none, since the case would then test nothing.
 inline std::string replaced(std::string text, std::string_view from, std::string_view to) {
     const std::size_t position = text.rfind(from);
     if (position == text.npos) {

@@ -22,10 +22,10 @@ inline constexpr auto platform::jsonFields<tests::Amounts> =
 
 namespace quillet::tests {
 
-// Far more digits than any text here has: the oracle itself never rounds.
+// More digits than any text here has, so that the reference itself never rounds.
 using Oracle = boost::multiprecision::number<boost::multiprecision::cpp_dec_float<200>>;
 
-/// A number of at most 38 significant digits, in one of the many ways to write it.
+/// A number of at most 38 significant digits in a random notation.
 std::string randomNumber(std::mt19937& random) {
     const auto pick = [&](unsigned below) { return random() % below; };
     const auto digits = [&](std::size_t count) {
@@ -59,7 +59,7 @@ TEST(DecimalTest, EqualsAnotherLibrarysDecimalsForEveryWayToWriteThem) {
         ASSERT_TRUE(parsed) << text;
         ASSERT_EQ(Oracle(parsed->toString()), expected.back()) << text;
     }
-    // In a body most numbers take a shorter way than `parse`.
+    // In a body most numbers take a faster path than `parse`.
     const auto decoded = platform::json::decode<Amounts>(body + "]}");
     ASSERT_TRUE(decoded);
     for (std::size_t i = 0; i < expected.size(); ++i) {

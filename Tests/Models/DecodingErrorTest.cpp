@@ -83,7 +83,7 @@ TEST(DecodingErrorTest, ReportsTheFirstFieldOfTheTableWhereverItStands) {
     EXPECT_EQ(pathOf(R"({"carts":7})"), "consultant");
     EXPECT_EQ(pathOf(R"({"carts":[{"status":7,"cartUuid":8}, 9],"consultant":{"id":1}})"),
               "carts[0].cartNumber");
-    // A fault in the JSON itself comes before all others.
+    // A syntax error of the JSON takes precedence over all others.
     EXPECT_EQ(pathOf(R"({"carts":7,"consultant":7,})"), "");
 }
 

@@ -9,7 +9,7 @@ namespace quillet::tests {
 
 using namespace std::string_view_literals;
 
-/// Reads nothing but a key that no body has, so that all of the body is passed over.
+/// Reads only a key that no body has, so that the whole body is skipped.
 struct Indifferent {
     std::optional<std::string> text;
     std::optional<std::int64_t> number;
@@ -27,7 +27,7 @@ inline constexpr auto platform::jsonFields<tests::Indifferent> =
 namespace quillet::tests {
 
 std::string nested(std::size_t depth) {
-    // The object around it is one level.
+    // The enclosing object is one level.
     return R"({"ignored":)" + std::string(depth - 1, '[') + std::string(depth - 1, ']') + "}";
 }
 
@@ -146,8 +146,7 @@ TEST(JsonValidityTest, LimitsNestingTo512) {
     EXPECT_FALSE(platform::json::decode<Indifferent>(objects));
 }
 
-/// Whether the decoder takes a body for JSON must be what another validator says, whatever happened to the
-/// body.
+/// The decoder must agree with another validator about whether a damaged body is JSON.
 template <typename Response>
 void expectAgreement(const std::string& body) {
     const auto response = Response::create(body);

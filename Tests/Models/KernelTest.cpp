@@ -12,8 +12,7 @@ const char* forced() {
     return std::getenv("SIMDJSON_FORCE_IMPLEMENTATION");
 }
 
-/// simdjson obeys even if the processor lacks the kernel's instructions: the program would die without a
-/// word.
+/// simdjson uses the forced kernel even if the processor lacks its instructions, and the program would crash.
 class ForcedKernel : public testing::Environment {
 public:
     void SetUp() override {

@@ -48,7 +48,7 @@ TEST(OpenOrdersResponseTest, ReadsEveryFieldExactly) {
 }
 
 TEST(OpenOrdersResponseTest, ReadsKeysInAnyOrderWrittenInAnyWay) {
-    // Every object of the body turned around, which leaves its lists as they are.
+    // The body with the members of every object in reverse order; its lists keep theirs.
     const std::string item =
         R"({ "isKit" : true , "imageUrl":"i","unitProfit":1,"unitPrice" : 5990e-2 ,"magazineAmount":2,
         "\u0061mount":20e-1,"choosable":false, "new":{"amount":[{}]}, "totalProfit":1,"totalPrice":1,"totalPoints":6.0 ,
@@ -142,7 +142,7 @@ TEST(CheckoutResponseTest, RepeatsAnUnknownVerdictInAnErrorOfItsOwn) {
     EXPECT_EQ(CheckoutResponse::create(unknown).error(),
               CheckoutResponse::Error(
                   CheckoutResponseMessage::CodingError{"Error decoding - \"CART_SUBMITTED_OK\"\n"}));
-    // An earlier field's fault comes first.
+    // The error of an earlier field takes precedence.
     const auto earlier = CheckoutResponse::create(replaced(unknown, "\"A-1\"", "1"));
     EXPECT_EQ(std::get<platform::DecodingError>(earlier.error()).path, "submittedOrderId");
 }

@@ -1,6 +1,5 @@
 #include "Models/ResponseCodingError.hpp"
 #include "Network/Errors/HttpErrorFactory.hpp"
-#include "Platform/Json/JSONEncoder.hpp"
 
 #include <gtest/gtest.h>
 
@@ -35,8 +34,10 @@ TEST(ServiceError, HasAPlatformCodeOnlyWhenTheExchangeFailed) {
 }
 
 TEST(HttpErrorFactory, GivesTheRecordOrElseTheStatus) {
-    const auto client = platform::encodeJSON(platform::jsonValue(clientError)).value();
-    const auto server = platform::encodeJSON(platform::jsonValue(serverError)).value();
+    const std::string client = R"({"details":"d","error":"Not\/Found","statusCode":-404,"path":"/p"})";
+    const std::string server =
+        R"({"error":{"response":{"statusCode":422,"message":"inner","error":"Unprocessable"},)"
+        R"("status":422,"message":"ERROR_CART_ALREADY_SUBMITTED"},"statusCode":500,"path":"/p"})";
     const auto withoutPath = server.substr(0, server.rfind(",\"path\"")) + "}";
     const struct {
         std::optional<std::string> data;

@@ -14,7 +14,7 @@ namespace {
 using testing::Answer;
 using testing::FaultServer;
 
-// An interface that is up, with a link-local address in both families, and leads nowhere.
+// An interface that is up, with link-local addresses of both families and no route.
 const std::vector<std::string> link = {"link add near type veth peer name far", "link set near up",
                                        "link set far up", "address add 169.254.7.7/16 dev near"};
 
@@ -24,14 +24,14 @@ std::vector<std::string> linkAnd(std::initializer_list<std::string> commands) {
     return all;
 }
 
-/// A device in some network, on which the gateway's name means what the hosts file says and nothing is
+/// A device with its own network, where the hosts file alone resolves the gateway's name and nothing is
 /// mapped.
 struct Place {
     std::string name;
     std::string hosts;
     std::vector<std::string> commands;
     testing::ServerPlace server;
-    /// The status that a call gets, or its error's code.
+    /// The status of a call, or the code of its error.
     std::string outcome;
 };
 
@@ -57,9 +57,8 @@ const Place places[] = {
      "-1003"},
     {"AServerWithoutARoute", "127.0.0.1 gateway.test\n", {}, httpsPort, "200"},
     {"AProxyWithoutARoute", "", {}, proxy, "200"},
-    // The route to the first address leads back here, where nobody knows it, so what is sent there is
-    // dropped. The system sorts addresses; it leaves these two as they stand because neither is this
-    // machine's own.
+    // Packets to the first address are routed back to this machine, which drops them. getaddrinfo() keeps the
+    // order of these two, since neither is an address of this machine.
     {"ADeadAddressFirst",
      "198.51.100.9 gateway.test\n203.0.113.10 gateway.test\n",
      {"address add 198.51.100.77/32 dev lo", "route add 198.51.100.0/24 dev lo",
@@ -77,7 +76,7 @@ protected:
     }
 };
 
-// Says on the standard error what a POST comes to, how often it was sent, and whether that took too long.
+// Prints on standard error the outcome of a POST, how often it was sent, and whether it took too long.
 void tryPlace(const Place& place) {
     testing::enterNetworkNamespace(place.hosts, place.commands);
     const testing::TestAuthority authority;

@@ -65,7 +65,7 @@ TEST(Services, SendExactlyTheseRequests) {
          "Accept: application/json\r\nAuthorization-Provider: provider\r\n"
          "Consultant-Token: the.signed.token\r\nContent-Length: 0\r\n\r\n"},
         {[&] {
-             // An empty header is sent like any other.
+             // An empty header is sent too.
              services.authorization.provider.clear();
              services.associate().associateConsultantToCart("", 0, record);
          },
@@ -144,7 +144,7 @@ TEST(Services, MakeAResultOfEveryAnswer) {
                      std::to_string(response.value_or(platform::HTTPURLResponse{}).statusCode));
         const auto session = std::make_shared<testing::FakeSession>();
         std::vector<OpenOrdersResult> results;
-        // The service is gone by the time of the answer.
+        // The service has been destroyed when the answer comes.
         Services{session}.openCarts().getOpenOrders([&](OpenOrdersResult r) { results.push_back(r); });
         session->started.at(0).complete(data, response, transportError);
         ASSERT_EQ(results.size(), 1u);
@@ -152,20 +152,6 @@ TEST(Services, MakeAResultOfEveryAnswer) {
         EXPECT_EQ(results[0].error, error);
         EXPECT_EQ(results[0].httpStatusCode, response ? response->statusCode : 0);
     }
-}
-
-TEST(Services, DecodeACheckout) {
-    const auto session = std::make_shared<testing::FakeSession>();
-    std::optional<CheckoutResult> result;
-    Services{session}.checkout().checkout([&](CheckoutResult r) { result = std::move(r); });
-    session->started.at(0).complete(
-        R"({"submittedOrderId":"1","consultant":{"id":7},"message":"CART_SUBMITTED_ERROR","products":[],"summary":)"
-        R"({"allItems":1,"errorItems":1,"addedItems":0,"allPoints":1,"addedPoints":0,"addedProducts":0,)"
-        R"("errorProducts":1}})",
-        platform::HTTPURLResponse{422}, std::nullopt);
-    ASSERT_TRUE(result && result->checkoutResponse);
-    EXPECT_EQ(result->checkoutResponse->message, CheckoutResponseMessage::cartSubmittedError);
-    EXPECT_EQ(result->error, ServiceError(HttpStatusCodeError{422}));
 }
 
 } // namespace quillet

@@ -85,7 +85,7 @@ class SessionFault : public ::testing::TestWithParam<Fault> {};
 
 } // namespace
 
-// The whole vocabulary of faults for a POST, since it is the one that must go out once whatever happens.
+// All kinds of faults for a POST, which must be sent once in every case.
 TEST_P(SessionFault, EndsThePostWithAnErrorAloneAndIsNotRepeated) {
     testing::SandboxedSession sandbox;
     testing::CallRecorder calls;
@@ -151,7 +151,7 @@ TEST(Session, SendsAPostAndAPatchOnAConnectionOfTheirOwn) {
         testing::CallRecorder calls;
         const platform::URLSession session(sandbox.configuration);
         for (std::size_t call = 0; call < 3; ++call) {
-            // The third connection dies after the request was taken, like a kept one that the server gave up.
+            // The third connection ends after the request was read, like a kept one that the server closes.
             sandbox.server.enqueue(call < 2 ? Answer::complete(200, "{}") : Answer{{}, Answer::Ending::cut});
             session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = method}, calls.completion())
                 .resume();

@@ -26,7 +26,7 @@ public:
 };
 
 struct SessionReach : ::testing::Test {
-    // What the machine's own proxy would be is not of interest here.
+    // Ignores the proxy settings of the machine.
     void SetUp() override {
         for (const char* const name :
              {"https_proxy", "HTTPS_PROXY", "all_proxy", "ALL_PROXY", "no_proxy", "NO_PROXY"}) {
@@ -46,7 +46,7 @@ platform::URLError::Code errorOf(const platform::URLSessionConfiguration& config
 
 } // namespace
 
-// A label of 64 letters is no name, so nobody is asked for it.
+// A label of 64 letters is not a valid name, so no name server is asked.
 const std::string noName = std::string(64, 'a') + ".test";
 // Nobody listens there.
 constexpr std::uint16_t closedPort = 1;
@@ -74,16 +74,16 @@ TEST_F(SessionReach, TellsAHostThatIsNotReachedFromNoNetwork) {
     EXPECT_EQ(errorOf(sandbox.configuration), cannotConnectToHost);
     mapping.address = noName;
     EXPECT_EQ(errorOf(sandbox.configuration), cannotFindHost);
-    // The system calls a network unreachable that is asked to connect to everybody.
+    // The system reports a TCP connection to the broadcast address as an unreachable network.
     sandbox.configuration.networkPath = std::make_shared<testing::FakeNetworkPath>(true);
     EXPECT_EQ(errorOf(sandbox.configuration, "255.255.255.255"), cannotConnectToHost);
-    // A monitor that fails has not said that there is no network.
+    // A failing monitor does not mean that there is no network.
     sandbox.configuration.networkPath = std::make_shared<testing::FakeNetworkPath>(
         [](const std::string&, bool) -> bool { throw std::bad_alloc(); });
     EXPECT_EQ(errorOf(sandbox.configuration, noName), cannotFindHost);
 }
 
-// The first attempts go where packets are dropped; then a server takes the port over.
+// The first attempts get no reply; then a server takes over the port.
 struct ServerFoundLate {
     testing::FakeNetworkPath path{[this](const std::string&, bool) {
         if (++failures == 2) {
@@ -103,7 +103,7 @@ struct ServerFoundLate {
 };
 
 TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
-    // Not the session's to free: its thread may still do so while the process ends and OpenSSL cleans up.
+    // The session must not free this last: its detached thread could do so while OpenSSL's exit handlers run.
     ServerFoundLate late;
     const auto clock = std::make_shared<testing::VirtualClock>();
     const auto observer = std::make_shared<BeginningsCounter>();
@@ -114,7 +114,7 @@ TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
          .networkPath = {std::shared_ptr<void>(), &late.path},
          .clock = clock,
          .observer = observer,
-         // Less than the second after which the system would repeat its own packet.
+         // Less than one second, after which the system would retransmit its own packet.
          .connectTimeout = std::chrono::milliseconds(200)});
     session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
     EXPECT_EQ(calls.wait().data, "{}");
@@ -137,8 +137,7 @@ TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
     EXPECT_EQ(calls.wait(1).error->code, timedOut);
 }
 
-// One call is connected and hears nothing; the other, on the same thread, finds out five times that it is
-// not.
+// One call is connected and gets no answer; the other, on the same thread, fails to connect five times.
 TEST_F(SessionReach, KeepsAConnectionThatIsSlowToSpeak) {
     testing::SandboxedSession sandbox;
     const testing::SilentPort slow;
@@ -164,11 +163,10 @@ TEST_F(SessionReach, TrustsOnlyACertificateOfTheAuthorityForTheHost) {
     const testing::TestAuthority stranger;
     const auto real = sandbox.configuration;
 
-    // Authorities of the tests all have the same name, so this one passes for the other until the signature
-    // is checked.
+    // The tests' authorities all have the same name, so only the signature tells them apart.
     sandbox.configuration.caBundleFile = stranger.bundleFile();
     EXPECT_EQ(errorOf(sandbox.configuration), serverCertificateUntrusted);
-    // Without a file of its own the system's authorities count, whatever the environment says.
+    // Without a configured file the system's authorities are used, whatever the environment says.
     setenv("SSL_CERT_FILE", real.caBundleFile.c_str(), 1);
     sandbox.configuration.caBundleFile.clear();
     EXPECT_EQ(errorOf(sandbox.configuration), serverCertificateUntrusted);
@@ -220,10 +218,6 @@ TEST(CurlLibrary, NeedsTheTlsLibraryThatTheModuleWasBuiltWith) {
         EXPECT_EQ(fault->message,
                   "libcurl uses \"" + unfit + "\" for TLS, but this module needs " + own + "x");
     }
-}
-
-TEST(SystemNetworkPathMonitor, NeedsNoNetworkForAMappedHost) {
-    EXPECT_TRUE(platform::SystemNetworkPathMonitor().isSatisfied(testing::gatewayHost, true));
 }
 
 TEST(URLSessionConfiguration, IsReadWhenASessionIsMade) {

@@ -60,7 +60,7 @@ TEST_F(SessionTest, DeliversARedirectAsItCame) {
 }
 
 TEST_F(SessionTest, DeliversAnAnswerWithoutABodyAsAnEmptyBody) {
-    // A preliminary answer before it is none.
+    // An interim (1xx) response is not an answer.
     server.enqueue({{"HTTP/1.1 103 Early Hints\r\nLink: x\r\n\r\nHTTP/1.1 204 No Content\r\n\r\n"}});
     const platform::URLSession session(configuration);
     task(session).resume();
@@ -175,7 +175,7 @@ TEST_F(SessionTest, TellsItsObserverBeforeTheCompletion) {
     EXPECT_EQ(observer->log.wait(3), std::to_string(number + 1) + " ended 0 -1001 60000");
 }
 
-// Under ThreadSanitizer this finds what the threads do not agree on.
+// ThreadSanitizer finds the data races of this test.
 TEST_F(SessionTest, TakesCallsFromSeveralThreadsAtATime) {
     constexpr std::size_t threadCount = 4;
     constexpr std::size_t callsOfEach = 25;

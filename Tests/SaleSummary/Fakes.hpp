@@ -8,7 +8,7 @@
 
 namespace quillet::testing {
 
-/// A result as workers hand it on.
+/// A result as workers deliver it.
 template <typename Result>
 std::shared_ptr<const Result> shared(Result result) {
     return std::make_shared<const Result>(std::move(result));
@@ -27,7 +27,7 @@ private:
     Log log_;
 };
 
-/// The screen: it writes down what it is asked for and keeps what was shown last.
+/// A screen that records its calls and keeps what was shown last.
 class FakeSaleSummaryScreen final : public SaleSummaryViewModelDelegate {
 public:
     FakeSaleSummaryScreen(Log log, std::weak_ptr<QuilletNavigationDelegate> host = {})
@@ -76,7 +76,7 @@ private:
     TryAgainFactory tryAgainFactory_;
 };
 
-/// A refusal as a back end that answers with a server error would send it.
+/// A refusal as decoded from a server error.
 inline ServerError refusal(const std::string& message) {
     return {.error = {.response = {}, .status = 422, .message = message}, .statusCode = 422, .path = "/"};
 }

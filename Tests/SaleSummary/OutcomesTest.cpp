@@ -12,8 +12,8 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// What an outcome shows, and what each tap on it leads to: button, background, close icon; for a try-again
-/// view the button alone.
+/// What an outcome shows, and what a tap on its button, background and close icon does; a try-again view has
+/// its button only.
 struct Outcome {
     const char* name;
     OrderResult association;
@@ -79,7 +79,7 @@ struct SaleSummaryOutcomes : ::testing::TestWithParam<Outcome> {
         chosen->showContent();
     }
 
-    /// The actions, which outlive the use case that made them, and the screen if the test takes it away.
+    /// The actions outlive the use case that made them, and the screen if the test destroys it.
     std::vector<std::function<void()>> tappables() {
         if (const auto tryAgain = screen->tryAgain) {
             return {[tryAgain] { tryAgain->tap(); }};

@@ -49,7 +49,7 @@ struct Shown {
     std::unique_ptr<SaleSummaryScreen> view;
 };
 
-/// The time zone of the device, for as long as this lives.
+/// Sets the device's time zone while it exists.
 class DeviceZone {
 public:
     explicit DeviceZone(const char* zone) {

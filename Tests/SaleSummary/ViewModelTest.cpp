@@ -24,7 +24,7 @@ private:
     bool applies_;
 };
 
-/// Three outcomes, of which the second and the third apply.
+/// Three outcomes; the second and third apply.
 class FakeUseCases final : public SaleSummaryUseCaseCreating {
 public:
     FakeUseCases(Log log, std::vector<SaleSummaryUseCaseFactoryInput>& inputs)
@@ -132,7 +132,7 @@ TEST_F(SaleSummaryViewModelTest, WaitsForTheRepeatedAssociationWhereTheOpenOrder
     viewModel.didGetOpenOrders(shared(OpenOrdersResult()));
     EXPECT_THAT(taken(log), IsEmpty());
     viewModel.didAssociate(shared(OrderResult()));
-    // The first answer still counts for this pass, so the next one joins.
+    // The first answer still counts for this pass, so the next one completes the join.
     viewModel.didGetOpenOrders(shared(OpenOrdersResult()));
     EXPECT_THAT(taken(log), ElementsAre("open orders", "stopLoading", "show second"));
 }

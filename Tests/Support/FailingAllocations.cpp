@@ -14,7 +14,7 @@ namespace quillet::testing {
 
 namespace {
 
-// Counts down to the allocation that fails; below that nothing does.
+// Counts down to the failing allocation; none fails after it.
 std::array<std::atomic<long>, 3> left{};
 thread_local bool isSpared = false;
 
@@ -56,7 +56,7 @@ char* copyText(const char* text) {
     return fails(Allocator::curl) ? nullptr : strdup(text);
 }
 
-// Both libraries take such functions only before they have allocated anything.
+// Both libraries accept such functions only before their first allocation.
 const bool isInstalled = [] {
     const auto allocateForOpenSsl = [](std::size_t size, const char*, int) {
         return allocate<Allocator::openSsl>(size);

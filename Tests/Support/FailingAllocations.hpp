@@ -4,28 +4,28 @@
 
 namespace quillet::testing {
 
-/// Who asks for memory: what C++ allocates with `new`, libcurl, OpenSSL.
+/// The allocators: operator new, libcurl's and OpenSSL's.
 enum class Allocator { cpp, curl, openSsl };
 
-/// Makes one allocation of the process fail while it lives. Linked into a program, this replaces the
-/// program's allocation functions and those of the two libraries.
+/// Makes one allocation of the process fail while it exists. Linking it into a program replaces the program's
+/// allocation functions and those of the two libraries.
 class FailingAllocation {
 public:
-    /// The `index`th one that `allocator` makes on a thread that is not spared, counted from 1.
+    /// Fails the `index`th allocation of `allocator`, counted from 1 over all threads that are not exempt.
     FailingAllocation(Allocator allocator, std::size_t index);
     ~FailingAllocation();
     FailingAllocation(const FailingAllocation&) = delete;
     FailingAllocation& operator=(const FailingAllocation&) = delete;
 
-    /// Whether there were that many.
+    /// Whether that allocation was reached.
     [[nodiscard]] bool hasFailed() const;
 
-    /// From now on no allocation of the calling thread fails, nor is it counted.
+    /// Exempts the calling thread: its allocations neither fail nor count.
     static void spareThisThread();
 };
 
-/// Measures what C++ has allocated at most since this was made, over what it had then, in bytes as the system
-/// sets them aside. One at a time.
+/// Measures the peak of the bytes allocated by C++ above their number at construction, as
+/// malloc_usable_size() counts them. Only one may exist at a time.
 class PeakMemory {
 public:
     PeakMemory();

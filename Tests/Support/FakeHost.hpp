@@ -12,19 +12,19 @@
 
 namespace quillet::testing {
 
-/// What happened around the unit under test, in order, across all fakes that share it.
+/// What happened around the unit under test, in order, over all fakes that share this log.
 using Log = std::shared_ptr<std::vector<std::string>>;
 
 inline Log makeLog() {
     return std::make_shared<std::vector<std::string>>();
 }
 
-/// The log's lines so far, which leave it.
+/// Takes the lines so far out of the log.
 inline std::vector<std::string> taken(const Log& log) {
     return std::exchange(*log, {});
 }
 
-/// An event's line in the log; all events of the module are of one category.
+/// An event's line in the log. All events of the module have one category.
 inline std::string event(const std::string& action, const std::string& label) {
     return "event Quillet - SellOutIntegration / " + action + " / " + label;
 }
@@ -58,7 +58,7 @@ private:
     Log log_;
 };
 
-/// A worker that writes down each run and answers nothing by itself.
+/// A worker that records each run and answers only when the test does.
 class FakeExecutable final : public Executable {
 public:
     FakeExecutable(Log log, std::string name) : log_(std::move(log)), name_(std::move(name)) {}

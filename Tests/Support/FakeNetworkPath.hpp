@@ -10,7 +10,7 @@
 
 namespace quillet::testing {
 
-/// Answers as the test says.
+/// Answers with the test's value.
 class FakeNetworkPath final : public platform::NetworkPathMonitoring {
 public:
     using Answer = std::function<bool(const std::string& host, bool isMapped)>;
@@ -24,7 +24,7 @@ public:
         return answer_(host, isMapped);
     }
 
-    /// The hosts that it was asked about.
+    /// The hosts asked about.
     mutable Recorder<std::string> asked;
 
 private:

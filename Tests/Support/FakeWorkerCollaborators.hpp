@@ -15,7 +15,7 @@
 
 namespace quillet::testing {
 
-/// What happened between a worker and those around it, in order, and the completions that wait for an answer.
+/// The calls between a worker and its collaborators, in order, and the pending completions.
 template <typename Result>
 struct Conversation {
     std::vector<std::string> log;
@@ -61,7 +61,7 @@ private:
     std::shared_ptr<Conversation<CheckoutResult>> talk_;
 };
 
-/// Writes down the status of each result that it is given.
+/// Records the status of each result that it gets.
 template <typename Result, typename Base>
 class FakeWorkerDelegate : public Base {
 public:

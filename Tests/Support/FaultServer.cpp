@@ -16,7 +16,7 @@ namespace quillet::testing {
 
 namespace {
 
-// One request: a head, and a body of the length that the head gives. Nothing at the connection's end.
+// One request: a head, and a body of the length given there. Nothing when the connection has ended.
 std::optional<std::string> readRequest(SSL* tls) {
     std::string request;
     std::size_t whole = std::string::npos;
@@ -36,7 +36,7 @@ std::optional<std::string> readRequest(SSL* tls) {
     return request;
 }
 
-// The client waits for the answer before it says more, so no byte of TLS is lost here.
+// The client waits for the answer before it sends more, so no byte of TLS is lost here.
 void giveTunnel(int socket) {
     std::string request;
     std::array<char, 4096> buffer{};

@@ -16,18 +16,18 @@
 
 namespace quillet::testing {
 
-/// What the server does about one request.
+/// What the server does with one request.
 struct Answer {
     enum class Ending {
         /// The connection stays open for the next request.
         keepOpen,
-        /// TLS and then the connection are closed in good order.
+        /// TLS and then TCP are closed in order.
         close,
-        /// The connection is closed without a word, as if the line were cut.
+        /// TCP is closed without close_notify, like a cut line.
         cut,
     };
 
-    /// Sent as it is, in the given pieces; before each piece but the first the server waits for `gate`.
+    /// Sent unchanged in these pieces; before each piece but the first the server waits for `gate`.
     std::vector<std::string> pieces;
     Ending ending = Ending::keepOpen;
     std::shared_ptr<std::latch> gate = nullptr;
@@ -36,19 +36,18 @@ struct Answer {
     static Answer complete(int status, const std::string& body, const std::string& headers = "");
 };
 
-/// Where a server is found.
+/// How a server is reached.
 struct ServerPlace {
     /// On all addresses; 0 for a free port of the loopback.
     std::uint16_t port = 0;
-    /// The client has to ask for a tunnel first, which leads to this server wherever it should lead.
+    /// A proxy: the client asks for a tunnel first, which leads to this server whatever its target.
     bool isProxy = false;
     /// Called first on each of the server's threads, if given.
     std::function<void()> onThread = {};
 };
 
-/// An HTTPS server that answers from a script, one Answer a request, whichever
-/// connection it comes on, and keeps every request it received. A request beyond the script is kept and never
-/// answered.
+/// An HTTPS server that answers from a script, one Answer a request, on whichever connection, and keeps every
+/// request. A request beyond the script is never answered.
 class FaultServer {
 public:
     explicit FaultServer(ContextPointer context, ServerPlace place = {});
@@ -57,10 +56,10 @@ public:
     [[nodiscard]] std::uint16_t port() const { return port_; }
     void enqueue(Answer answer);
 
-    /// All that was received so far, each request with head and body as it came.
+    /// The requests received so far, each with its head and body unchanged.
     [[nodiscard]] std::vector<std::string> requests();
     [[nodiscard]] std::size_t connections();
-    /// False if they do not come.
+    /// False if they do not come in time.
     [[nodiscard]] bool waitForRequests(std::size_t count);
 
 private:

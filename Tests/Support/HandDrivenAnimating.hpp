@@ -6,7 +6,7 @@
 
 namespace quillet::testing {
 
-/// Animations that go on when the test says so.
+/// Animations that the test advances.
 class HandDrivenAnimating final : public ViewAnimating {
 public:
     struct Animation {

@@ -24,7 +24,7 @@ void write(const char* file, const std::string& text) {
     require(static_cast<bool>(std::ofstream(file) << text << std::flush), file);
 }
 
-// Root may have namespaces for the asking. Others first become root in a user namespace.
+// Root may create network namespaces. Other users first become root in a user namespace.
 bool unshareNetwork() {
     constexpr int own = CLONE_NEWNET | CLONE_NEWNS;
     if (unshare(own) == 0) {
@@ -76,7 +76,7 @@ void enterNetworkNamespace(const std::string& hosts, const std::vector<std::stri
     require(unshareNetwork(), "unshare");
     require(mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0, "mount");
     replaceFile("/etc/hosts", hosts);
-    // Nobody answers there, so that a name that is not in the file is refused at once.
+    // No name server listens there, so a name that is not in the file fails at once.
     if (std::filesystem::exists("/etc/resolv.conf")) {
         replaceFile(std::filesystem::canonical("/etc/resolv.conf").string(), "nameserver 127.0.0.1\n");
     }

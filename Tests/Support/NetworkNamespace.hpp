@@ -5,12 +5,12 @@
 
 namespace quillet::testing {
 
-/// Whether this machine lets a process have a network of its own.
+/// Whether this machine lets a process create a network namespace.
 [[nodiscard]] bool mayMakeNetworkNamespace();
 
-/// Gives the process, which must have one thread only, a network of its own: loopback, then what the
-/// arguments of `ip` in `commands` make of it. Names are found in `hosts`, the content of a file like
-/// /etc/hosts, and nowhere else. Throws where that fails.
+/// Moves the process, which must be single-threaded, into a new network namespace with loopback, and runs
+/// `ip` there with each of `commands` as arguments. Names are resolved from `hosts` only, the content of a
+/// hosts(5) file. Throws on failure.
 void enterNetworkNamespace(const std::string& hosts, const std::vector<std::string>& commands);
 
 } // namespace quillet::testing

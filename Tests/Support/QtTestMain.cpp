@@ -4,7 +4,7 @@
 
 #include <gmock/gmock.h>
 
-// For tests of everything that draws: no display, no graphics card, and one language whatever the machine's.
+// Runs Qt tests without display or graphics card, in one language on every machine.
 int main(int argc, char** argv) {
     ::testing::InitGoogleMock(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");

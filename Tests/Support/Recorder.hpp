@@ -14,7 +14,7 @@
 namespace quillet::testing {
 
 /// Collects the outcomes of calls, in the order in which they come. Copies share what they collect, so that a
-/// call which a failing test left behind still finds it.
+/// call that outlives a failed test still has it.
 template <typename Outcome>
 class Recorder {
 public:
@@ -25,7 +25,7 @@ public:
         state_->changed.notify_all();
     }
 
-    /// Waits until the outcome at that index is there.
+    /// Waits for the outcome with this index.
     [[nodiscard]] Outcome& wait(std::size_t index = 0) {
         std::unique_lock lock(state_->mutex);
         if (!state_->changed.wait_for(lock, std::chrono::seconds(30),

@@ -9,7 +9,7 @@ namespace quillet::testing {
 
 inline constexpr auto gatewayHost = "gateway.test";
 
-/// A fault server that stands for `gatewayHost`, and the configuration with which a session reaches it.
+/// A fault server in the place of `gatewayHost`, and the configuration that leads a session to it.
 struct SandboxedSession {
     TestAuthority authority;
     FaultServer server{authority.serverContext(gatewayHost)};

@@ -8,7 +8,7 @@
 
 namespace quillet::testing {
 
-/// A port on which nothing is ever said: connections come about, or not even that.
+/// A port without answers: connections are accepted and stay silent, or are not even accepted.
 class SilentPort {
 public:
     enum class Kind { accepting, dropping };
@@ -23,7 +23,7 @@ public:
         ::getsockname(socket_, reinterpret_cast<sockaddr*>(&address), &length);
         port_ = ntohs(address.sin_port);
         if (kind == Kind::dropping) {
-            // One connection fills the queue; whoever comes after it is not answered.
+            // One connection fills the backlog; later SYN packets get no answer.
             queued_ = newSocket();
             ::connect(queued_, reinterpret_cast<sockaddr*>(&address), length);
         }

@@ -13,10 +13,10 @@
 
 namespace quillet::testing {
 
-/// Lets the event loop turn until the condition holds; false if it does not within half a minute.
+/// Runs the event loop until the condition holds; false if it does not within half a minute.
 [[nodiscard]] bool turnUntil(const std::function<bool()>& condition);
 
-/// A host's window with a bar and a StackView below it, and what QML complained of meanwhile.
+/// A host's window with a bar and a StackView below it, and the warnings of QML meanwhile.
 class Stage {
 public:
     Stage();
@@ -27,42 +27,42 @@ public:
     [[nodiscard]] QQuickItem& stack() const;
     [[nodiscard]] QQuickItem& bar() const;
     [[nodiscard]] int depth() const { return stack().property("depth").toInt(); }
-    /// How often the bar was clicked.
+    /// The number of clicks on the bar.
     [[nodiscard]] int barClicks() const { return bar().property("clicks").toInt(); }
-    /// Takes the topmost screen away, as the host's way back does.
+    /// Pops the topmost screen, as the host's back button does.
     void pop();
-    /// The same, with a while in which the screen is still to be seen.
+    /// The same with an animation, during which the screen is still visible.
     void popSlowly(std::chrono::milliseconds wayOut);
-    /// Takes everything above the host's own page away, without an animation.
+    /// Pops everything above the host's own page, without an animation.
     void popAll();
 
     /// Whether a visible item has this `text` or object name.
     [[nodiscard]] bool shows(const QString& textOrName) const { return item(textOrName) != nullptr; }
-    /// These take the middle of the item and throw where there is none.
+    /// These use the item's centre, and throw if there is no such item.
     void press(const QString& textOrName);
     void click(const QString& textOrName);
     void clickBar();
-    /// Any item, for what cannot be done with the mouse; null if there is none.
+    /// Any item by `text` or object name; null if there is none.
     [[nodiscard]] QQuickItem* item(const QString& textOrName) const;
     void releaseAt(QPointF point) { mouse(QEvent::MouseButtonRelease, point); }
     void clickAt(QPointF point);
     /// The same with a finger: down and up again.
     void touch(const QString& textOrName) { touchAt(middle(textOrName)); }
     void touchAt(QPointF point);
-    /// A finger stays down at the one point while another one taps at the other.
+    /// One finger stays down at the first point while another taps at the second.
     void touchWhileResting(QPointF resting, QPointF tapped);
-    /// As a screen reader does.
+    /// Presses as a screen reader does.
     void pressByScreenReader(const QString& textOrName);
-    /// A key of whatever has the focus: down and up again.
+    /// Presses and releases a key.
     void key(Qt::Key key);
-    /// The key goes down once more without having been up, as it does while it is held.
+    /// An auto-repeat of a held key.
     void repeatKey(Qt::Key key);
-    /// What the keys go to.
+    /// The item with the keyboard focus.
     [[nodiscard]] QQuickItem* focus() const { return window_->activeFocusItem(); }
 
     [[nodiscard]] QPointF middle(const QString& textOrName) const;
 
-    /// What went to the message handler from QML or from the module's navigation.
+    /// Messages of QML and of the module's navigation to the message handler.
     [[nodiscard]] static std::vector<std::string> complaints();
 
 private:

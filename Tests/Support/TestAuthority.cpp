@@ -12,7 +12,7 @@ namespace quillet::testing {
 
 namespace {
 
-// No two certificates may have the same.
+// Serial numbers must be unique.
 long nextNumber() {
     static std::atomic<long> number = 0;
     return ++number;

@@ -11,8 +11,7 @@ using KeyPointer = std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)>;
 using CertificatePointer = std::unique_ptr<X509, decltype(&X509_free)>;
 using ContextPointer = std::unique_ptr<SSL_CTX, decltype(&SSL_CTX_free)>;
 
-/// A certificate authority made on the spot. Its own certificate lies in a temporary file for as long as it
-/// lives.
+/// A new certificate authority. Its certificate is in a temporary file while it exists.
 class TestAuthority {
 public:
     TestAuthority();

@@ -10,7 +10,7 @@
 
 namespace quillet::testing {
 
-/// A clock that goes only when it is told to.
+/// A clock that only the test advances.
 class VirtualClock final : public platform::SessionClock {
 public:
     [[nodiscard]] std::chrono::steady_clock::time_point now() const override {
@@ -37,9 +37,9 @@ public:
         }
     }
 
-    /// Waits until a session has done all that is due at this time. A session looks at the clock twice in
-    /// each round: for the calls that are over, and for how long it may sleep. So two wake-ups and twice two
-    /// looks take it through at least one whole round.
+    /// Waits until a session has done all that is due now. A session reads the clock twice per round: to find
+    /// expired calls and to compute its sleep. Two wake-ups with two readings each therefore include a whole
+    /// round.
     void settle() {
         for (int round = 0; round < 2; ++round) {
             std::unique_lock lock(mutex_);

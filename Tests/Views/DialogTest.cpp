@@ -13,7 +13,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 struct DialogTest : ::testing::Test {
-    /// An action that tells whether the dialog was still on screen when it ran.
+    /// An action that records whether the dialog was still on screen when it ran.
     std::function<void()> action(const std::string& name) {
         return [this, name] { log->push_back(name + (dialog && dialog->isOnScreen() ? " too early" : "")); };
     }

@@ -23,7 +23,7 @@ namespace {
 using ::testing::IsEmpty;
 using namespace quillet::tests;
 
-/// Counts the calls that have ended.
+/// The number of ended calls.
 class EndCounter final : public platform::URLSessionObserving {
 public:
     void willSend(std::uint64_t, const platform::URLRequest&) override {}
@@ -34,19 +34,19 @@ public:
     std::atomic<std::size_t> ends = 0;
 };
 
-/// What is still to come when the host takes the screen away.
+/// What is pending when the host removes the screen.
 enum class Pending { answer, fadeOfATap, screenReader };
 
 struct Case {
     const char* name;
     enum { summary, checkout } first;
-    /// To the calls on the way, in turn; a pending one is the last.
+    /// The answers to the calls in order; the last may be pending.
     std::vector<Answer> answers;
-    /// What is clicked on the way.
+    /// Clicked before.
     std::vector<const char*> clicks;
     Pending pending;
-    /// What is tapped just before, or used by a screen reader afterwards, which a stack does not keep off
-    /// pages that move.
+    /// Tapped just before the removal, or pressed by a screen reader after it: StackView blocks input on
+    /// moving pages, but not a screen reader.
     const char* used = nullptr;
 
     friend void PrintTo(const Case& testCase, std::ostream* stream) { *stream << testCase.name; }
@@ -168,7 +168,7 @@ TEST_P(Leaving, EndsWithThePopAndNotWithItsAnimation) {
         came = [&] { return calls->ends == way.answers.size(); };
     } else if (way.pending == Pending::fadeOfATap) {
         stage.click(way.used);
-        // As long as the dialog takes, and on the same clock.
+        // As long as the dialog's fade, and driven by the same clock.
         ViewAnimatingWrapper().animate(
             std::chrono::milliseconds(710), [](double) {}, [&] { faded = true; });
         came = [&] { return faded; };

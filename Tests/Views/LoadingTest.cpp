@@ -13,7 +13,7 @@ namespace {
 
 constexpr double turn = 2 * std::numbers::pi;
 
-/// The cubic Bézier (0.42, 0, 0.58, 1) by bisection: not how the module works it out.
+/// The cubic Bézier (0.42, 0, 0.58, 1) by bisection, independently of the module's own method.
 double eased(double progress) {
     double low = 0;
     double high = 1;
@@ -73,7 +73,7 @@ TEST(ProgressIndicator, DrawsTheArcWhereTheFormulaHasIt) {
         painter.end();
         for (int step = 0; step < 72; ++step) {
             const double part = (step + 0.5) / 72;
-            // Near its ends an arc of a few pixels says nothing.
+            // Near its ends the arc is only a few pixels long.
             if (std::abs(part - start) < 0.01 || std::abs(part - end) < 0.01) {
                 continue;
             }

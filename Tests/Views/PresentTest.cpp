@@ -31,12 +31,12 @@ struct PresentTest : ::testing::Test {
         EXPECT_THAT(Stage::complaints(), IsEmpty());
     }
 
-    /// Lets all sessions made from now on use this; it lives as long as the last of them and their calls.
+    /// Makes all sessions created from now on use this network path, which lives as long as their last call.
     std::weak_ptr<const platform::NetworkPathMonitoring>
     use(std::shared_ptr<const platform::NetworkPathMonitoring> network,
         std::vector<platform::HostMapping> mappings = {}) {
         if (mappings.empty()) {
-            // Nobody listens there, so it is for the monitor to say why nobody was reached.
+            // Nobody listens there, so the monitor decides which error is reported.
             mappings = {{gateway(), "127.0.0.1", 1}, {"gateway.test", "127.0.0.1", 1}};
         }
         platform::URLSessionConfiguration::setDefaultConfiguration(
@@ -46,7 +46,7 @@ struct PresentTest : ::testing::Test {
 
     [[nodiscard]] static std::string gateway() { return Starter::create("", "", {}, nullptr)->domainUrl(); }
 
-    /// Opens the module; nobody but the stack holds the screen afterwards.
+    /// Opens the module; only the stack owns the screen afterwards.
     std::weak_ptr<platform::QuickViewController> open() {
         const auto starter = Starter::create("token", "idp", {"cart-1", 41051, "CL"}, host);
         const auto screen = starter->createRootViewController();
@@ -140,13 +140,13 @@ TEST_F(PresentTest, DropsTheAnswerOfACallThatOutlivesItsScreen) {
     stage->popAll();
     ASSERT_TRUE(turnUntil([&] { return screen.expired(); }));
     EXPECT_FALSE(network.expired());
-    // The system resets the connections of a port that closes, which ends the call.
+    // Closing the port resets its connections, which ends the call.
     silence.reset();
     EXPECT_TRUE(turnUntil([&] { return network.expired(); }));
     EXPECT_THAT(*log, IsEmpty());
 }
 
-// What there is to see is that the process ends in good order, with the call still on.
+// The test passes if the process ends cleanly while the call is still running.
 TEST_F(PresentTest, LetsTheProcessEndInTheMiddleOfACall) {
     static const SilentPort silence;
     use(std::make_shared<FakeNetworkPath>(true), {{gateway(), "127.0.0.1", silence.port()}});
@@ -164,7 +164,7 @@ TEST_F(PresentTest, AnswersEveryWayOfUsingADialogOnce) {
         std::function<void()> use;
         std::string outcome;
     } cases[] = {
-        // The button acts on touching down, so sliding off it takes nothing back.
+        // The button acts on press, so sliding off it cancels nothing.
         {"button by mouse",
          [&] {
              stage->press("Actualizar"), stage->releaseAt({5, 5});
@@ -174,7 +174,7 @@ TEST_F(PresentTest, AnswersEveryWayOfUsingADialogOnce) {
         {"button by key", [&] { stage->key(Qt::Key_Return), stage->repeatKey(Qt::Key_Return); }, retried},
         {"button by space", [&] { stage->key(Qt::Key_Space), stage->repeatKey(Qt::Key_Space); }, retried},
         {"button by screen reader", [&] { stage->pressByScreenReader("Actualizar"); }, retried},
-        // The background reaches up over the bar.
+        // The background also covers the bar.
         {"background by mouse",
          [&] {
              stage->clickAt({5, 5});
@@ -215,7 +215,7 @@ TEST_F(PresentTest, RetriesByMouseTouchAndKey) {
         log->clear();
         way();
         ASSERT_TRUE(turnUntil([&] { return !log->empty(); }));
-        // Both calls were repeated, and the open orders once more behind the association, so a second outcome
+        // Both calls were repeated, and the open orders once more after the association, so a second outcome
         // may follow.
         EXPECT_THAT(taken(log), Each("screen Error"));
         stage->popAll();
@@ -231,7 +231,7 @@ TEST_F(PresentTest, KeepsTheKeysInTheDialogAndGivesThemBack) {
     log->clear();
     AlertDialog().show("Title", "Body", ViewControllerWrapper(screen), true);
     ASSERT_TRUE(stage->shows("Title") && stage->shows("Body"));
-    // A finger that rests on the card does not let a second one through, nor is a screen reader let through.
+    // While one finger rests on the card, neither a second finger nor a screen reader reaches the page below.
     stage->touchWhileResting(stage->middle("Title"), stage->middle("Actualizar"));
     stage->pressByScreenReader("Actualizar");
     EXPECT_THAT(*log, IsEmpty());

@@ -23,7 +23,7 @@ using testing::Allocator;
 using testing::Answer;
 using testing::FailingAllocation;
 
-/// Whose allocations fail, one in each run: the first one, then every so many further on.
+/// Which allocator fails, and the step from one failing allocation to the next.
 struct Scarcity {
     std::string name;
     Allocator allocator;
@@ -34,7 +34,7 @@ std::ostream& operator<<(std::ostream& stream, const Scarcity& scarcity) {
     return stream << scarcity.name;
 }
 
-// Only counts: a delegate that writes down what it is told would need memory too.
+// Only counts, since recording results would allocate as well.
 class CountingDelegate final : public AssociateConsultantToCartWorkerDelegate {
 public:
     void didAssociate(const std::shared_ptr<const OrderResult>& result) override {
@@ -48,7 +48,7 @@ public:
     std::size_t failed = 0;
 };
 
-/// A worker that talks to a server of its own, whose two answers are complete.
+/// A worker with its own server, which has two complete answers.
 class WorkerTrial {
 public:
     explicit WorkerTrial(const testing::TestAuthority& authority)
@@ -66,18 +66,18 @@ public:
     }
     ~WorkerTrial() { platform::mainQueue().setWakeUp(nullptr); }
 
-    /// Waits for an outcome and has it delivered. OpenSSL may have lost a message for want of memory, so that
-    /// both sides wait; such a call is over when its time is.
+    /// Waits for an outcome and delivers it. OpenSSL may lose a message when an allocation fails, and then
+    /// both sides wait until the call's deadline.
     void deliver() {
         if (!waiting.try_acquire_for(std::chrono::seconds(5))) {
             clock->advance(std::chrono::seconds(60));
             ASSERT_TRUE(waiting.try_acquire_for(std::chrono::seconds(30))) << "no outcome";
         }
-        // Not on this thread, which is spared.
+        // Not on this thread, which is exempt.
         std::thread([] { platform::mainQueue().drain(); }).join();
     }
 
-    /// One more call, which is to bring its answer.
+    /// Makes one more call, which must succeed.
     void expectNextCallComplete() {
         const auto complete = delegate->complete;
         const auto outcomes = delegate->outcomes;
@@ -103,10 +103,10 @@ struct OutOfThreads : ::testing::Test {
 
 struct OutOfMemory : OutOfThreads, ::testing::WithParamInterface<Scarcity> {};
 
-// libcurl 8.22 passes a null pointer on to OpenSSL, and the program ends there. 8.14 does not.
+// libcurl 8.22 passes a null pointer to OpenSSL, which crashes. 8.14 does not.
 constexpr unsigned firstThatCrashes = 0x080F00;
 
-// From here on no thread is started: each would need a stack larger than the address space.
+// From here on no thread can start: its stack would be larger than the address space.
 class NoThreads {
 public:
     NoThreads() {
@@ -124,8 +124,8 @@ private:
 
 } // namespace
 
-// One allocation fails, each in its turn. The call brings its answer all the same or an error, and once; the
-// next call brings its answer.
+// Each allocation fails once in turn. The call delivers its answer or an error exactly once, and the next
+// call delivers its answer.
 TEST_P(OutOfMemory, FailsTheCallAndNotTheNextOne) {
     const auto* const libcurl = curl_version_info(CURLVERSION_NOW);
     if (GetParam().allocator == Allocator::openSsl && libcurl->version_num >= firstThatCrashes) {

@@ -10,7 +10,7 @@ namespace quillet {
 
 namespace {
 
-/// A body of as many elements as fit into the largest one that is taken.
+/// A body of as many elements as fit into the largest accepted one.
 struct Dense {
     std::string name;
     std::string before;
@@ -35,7 +35,7 @@ const std::string item =
     R"("imageUrl":"","isKit":true})";
 const std::string product =
     R"({"productCode":0,"description":"","status":"OK","quantity":0,"totalPrice":0,"totalPoints":0})";
-// The end of a cart, from its list of benefits on, and all that comes before it.
+// A cart split before its list of benefits.
 const std::string cart = tests::replaced(tests::cartJson, tests::itemJson, "");
 const auto benefits = cart.rfind("[") + 1;
 

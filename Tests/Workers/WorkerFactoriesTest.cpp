@@ -20,8 +20,8 @@ namespace quillet {
 using ::testing::ElementsAre;
 using ::testing::StartsWith;
 
-// The assembled workers, from execute() over a real session to the process's main queue, and each on a
-// connection of its own although all speak to one host.
+// The assembled workers, from execute() over a real session to the process's main queue, each on its own
+// connection to the same host.
 TEST(WorkerFactories, BuildWorkersThatTalkToTheBackEnd) {
     testing::SandboxedSession sandbox;
     platform::URLSessionConfiguration::setDefaultConfiguration(sandbox.configuration);
@@ -67,7 +67,7 @@ TEST(WorkerFactories, BuildWorkersThatTalkToTheBackEnd) {
 
 namespace {
 
-// Queues nothing, and on the session's thread waits until the test has let go of the worker.
+// Queues nothing, and makes the session's thread wait until the test has released the worker.
 class ReleasingQueue final : public DispatchQueuing {
 public:
     explicit ReleasingQueue(std::shared_ptr<std::latch> isReleased, std::shared_ptr<std::latch> isGone)
@@ -90,7 +90,7 @@ private:
 
 } // namespace
 
-// The worker owns its session, whose thread then frees both.
+// The worker owns its session, so the session's thread frees both.
 TEST(Worker, MayBeReleasedLastOnItsSessionsThread) {
     testing::SandboxedSession sandbox;
     sandbox.server.enqueue(testing::Answer::complete(200, "{}"));

@@ -13,7 +13,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-// One row per worker: how it is made, and what its execution writes down.
+// One row per worker: how it is made and what its execution records.
 struct Associate {
     static constexpr auto name = "Associate";
     using Result = OrderResult;
@@ -51,7 +51,7 @@ template <typename Row>
 struct Worker : ::testing::Test {
     using Result = typename Row::Result;
 
-    // A result with a response, if so wished, and an error always: it plays no part.
+    // A result with or without a response. Its error is not looked at.
     static Result result(std::int64_t status, bool hasResponse) {
         Result made{{}, HttpStatusCodeError{status}, status};
         auto& [response, error, code] = made;

@@ -43,7 +43,7 @@ void Hands::click(QPointF point) {
 }
 
 void Hands::touch(QPointF point) {
-    // A touch event takes the place within its window only from the platform, through this door.
+    // Only QWindowSystemInterface sets a touch point's position within its window.
     for (const auto state : {QEventPoint::Pressed, QEventPoint::Released}) {
         qt_handleTouchEventv2(&window_, &screen_, {QEventPoint(0, state, point, window_.mapToGlobal(point))});
     }

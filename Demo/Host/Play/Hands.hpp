@@ -9,15 +9,15 @@ class QQuickWindow;
 
 namespace demo {
 
-/// What a person answers a screen with.
+/// An input device of a person.
 enum class Device { mouse, touch, key };
 
-/// The hands of a person at the window: what they do arrives as the events of real devices. Main thread only.
+/// Simulates a person's input at the window as events of real devices. Main thread only.
 class Hands {
 public:
     explicit Hands(QQuickWindow& window);
 
-    /// Presses and lets go at this point of the window, with the mouse or a finger.
+    /// Presses and releases at this point of the window, with the mouse or a finger.
     void tap(QPointF point, Device device);
     /// Brings the focus to the item as the Tab key does and presses Return; false if the item takes no focus.
     bool enter(QQuickItem& item);

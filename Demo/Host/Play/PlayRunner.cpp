@@ -15,9 +15,9 @@ namespace demo {
 
 namespace {
 
-/// How often a step looks again that scrolls through a long list meanwhile.
+/// How often a step that scrolls through a long list checks again.
 constexpr std::chrono::milliseconds scrollGlance{1};
-/// How long a picture waits for the screen to come to rest.
+/// How long a picture waits until nothing moves.
 constexpr std::chrono::milliseconds comingToRest{600};
 
 void letTimePass(std::chrono::milliseconds time) {
@@ -73,7 +73,7 @@ QJsonObject PlayRunner::run(const PlayScript& play) {
             break;
         }
     }
-    // What the last step set off, such as the action of a dialog that still fades, belongs to the play.
+    // The play includes what its last step started, such as the action of a dialog that is still fading.
     wait(patience, [this] { return settled(); });
     QJsonObject result{{QStringLiteral("name"), play.name},
                        {QStringLiteral("ok"), ok},
@@ -161,8 +161,8 @@ QString PlayRunner::perform(const steps::CloseIcon& step) {
 }
 
 QString PlayRunner::perform(const steps::Scroll& step) {
-    // Rows that come into view on the way change where the end is, so it counts once it has stayed the same.
-    // Where all of a page is in view there is nowhere to go.
+    // Rows made on the way change the estimated end, so the end is reached once it stays the same. A page
+    // that is wholly in view does not scroll.
     int stays = 0;
     const bool arrived = wait(patience, [&] {
         QQuickItem* page = reader_.scrollable();
@@ -187,7 +187,7 @@ QString PlayRunner::perform(const steps::Back&) {
 QString PlayRunner::perform(const steps::Shot& step) {
     const QString file = shots_ + u'/' + step.name + QStringLiteral(".png");
     wait(patience, [this] { return settled(); });
-    // Something may still be on its way, as a section that opens is, or for ever, as the ring is.
+    // Something may still move: for a while, like an opening section, or without end, like the ring.
     QImage picture;
     wait(comingToRest, [&] {
         const QImage before = std::exchange(picture, host_.window()->grabWindow());

@@ -14,19 +14,19 @@
 
 namespace demo {
 
-/// Plays plays on the host's window, as a person would: it looks, waits and taps; it never calls into the
+/// Runs plays on the host's window as a person would: it looks, waits and taps, and never calls into the
 /// module.
 class PlayRunner {
 public:
-    /// `shots` is the folder that takes the pictures.
+    /// `shots` is the folder for the pictures.
     PlayRunner(HostApplication& host, Journal& journal, NetworkSwitch& network, QString shots);
 
-    /// Runs a play in a nested event loop, until its end or the first step that is not met, and returns its
-    /// part of the report, with "ok". What the play opened is taken away at its end.
+    /// Runs a play in a nested event loop, until its end or the first step that fails, and returns its part
+    /// of the report, with "ok". Screens that the play opened are removed at its end.
     [[nodiscard]] QJsonObject run(const PlayScript& play);
 
 private:
-    /// What is missing for the step to be met; empty if nothing is.
+    /// Why the step fails; empty if it passed.
     [[nodiscard]] QString perform(const Step& step);
     [[nodiscard]] QString perform(const steps::Open& step);
     [[nodiscard]] QString perform(const steps::Handmade& step);
@@ -43,15 +43,16 @@ private:
     [[nodiscard]] QString perform(const steps::Shot& step);
     [[nodiscard]] QString perform(const steps::Network& step);
 
-    /// Lets time pass until `done`, at the most `longest`, looking every `glance`; whether it came to that.
+    /// Waits until `done`, for at most `longest`, checking every `glance`. Returns whether `done` became
+    /// true.
     bool wait(std::chrono::milliseconds longest, const std::function<bool()>& done,
               std::chrono::milliseconds glance = std::chrono::milliseconds(20));
-    /// Taps a part of the dialog, or presses Escape where the key is to do it; what is missing, as above.
+    /// Taps a part of the dialog, or presses Escape for the key. Returns why it fails, as above.
     [[nodiscard]] QString answerDialog(const QString& part, QPointF (*where)(const QQuickItem&), Device by);
     bool tapHere(const steps::Tap& step);
     void scrollTowards(const QString& name);
     [[nodiscard]] QString title() const;
-    /// Neither a page nor a dialog is on its way in or out.
+    /// No page and no dialog is being animated in or out.
     [[nodiscard]] bool settled() const;
 
     HostApplication& host_;

@@ -15,7 +15,7 @@ namespace {
 using Words = QStringList;
 using Parsed = std::expected<Step, QString>;
 
-/// Splits at blanks outside double quotes; nothing if a quote is left open.
+/// Splits at blanks outside double quotes; nothing if a quote is not closed.
 std::optional<Words> split(const QString& line) {
     Words words;
     QString word;
@@ -45,7 +45,7 @@ std::optional<Words> split(const QString& line) {
     return quoted ? std::nullopt : std::optional(words);
 }
 
-/// The words "key=value" of a step; nothing if one is not of that form, unknown, or there twice.
+/// The words "key=value" of a step; nothing if one is malformed, unknown or repeated.
 std::optional<QHash<QString, QString>> settings(const Words& words, const QStringList& known) {
     QHash<QString, QString> values;
     for (const QString& word : words) {
@@ -116,7 +116,7 @@ Parsed parseText(const Words& words) {
                              : std::unexpected(QStringLiteral("this step takes one text"));
 }
 
-/// The device in "by=DEVICE", the mouse if nothing is said; nothing if it is not one of these.
+/// The device in "by=DEVICE", the mouse by default; nothing if the device is unknown.
 std::optional<Device> parseDevice(const Words& words, const QHash<QString, Device>& others) {
     if (words.isEmpty()) {
         return Device::mouse;
@@ -163,7 +163,7 @@ Parsed parseShot(const Words& words) {
                : std::unexpected(QStringLiteral("shot takes a name of letters, digits, points and dashes"));
 }
 
-/// One word out of a few.
+/// One word of a fixed set.
 std::optional<QString> choice(const Words& words, const QStringList& known) {
     return words.size() == 1 && known.contains(words.first()) ? std::optional(words.first()) : std::nullopt;
 }

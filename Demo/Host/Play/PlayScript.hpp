@@ -17,11 +17,11 @@ namespace steps {
 struct Open {
     HostApplication::Order order;
 };
-/// A refusal with one of the back end's codes that no reply can produce, made by hand.
+/// A refusal with a back end code that no reply can produce, simulated.
 struct Handmade {
     QString code;
 };
-/// Before the first screen of the process: texts that were looked up keep their language.
+/// Only before the first screen of the process, since texts are looked up once.
 struct Language {
     QString code;
 };
@@ -66,7 +66,7 @@ using Step = std::variant<steps::Open, steps::Handmade, steps::Language, steps::
                           steps::Expect, steps::Absent, steps::Title, steps::Background, steps::CloseIcon,
                           steps::Scroll, steps::Back, steps::Shot, steps::Network>;
 
-/// A step, and the line that it was written as.
+/// A step and its source line.
 struct PlayLine {
     QString text;
     Step step;
@@ -78,12 +78,12 @@ struct PlayScript {
     std::vector<PlayLine> lines;
 };
 
-/// How long a step waits for what it needs, unless it says otherwise.
+/// How long a step waits for its condition by default.
 inline constexpr std::chrono::milliseconds patience{10'000};
 
-/// Reads a play, one step a line; blank lines and lines that begin with "#" say nothing, and values with
-/// blanks stand in double quotes, in which a backslash takes the next character as it is. The error is one
-/// line for a person and names the line's number.
+/// Reads a play, one step a line; blank lines and lines that begin with "#" are ignored, and values with
+/// blanks stand in double quotes, in which a backslash escapes the next character. The error is one line for
+/// a person and names the line's number.
 [[nodiscard]] std::expected<PlayScript, QString> parsePlay(const QString& name, const QString& text);
 
 } // namespace demo

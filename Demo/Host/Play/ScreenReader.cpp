@@ -13,7 +13,7 @@ namespace demo {
 
 namespace {
 
-/// Elements whose middles are closer than this stand on one line.
+/// Elements whose centres are vertically closer than this are on one line.
 constexpr double line = 8;
 
 // Maps with equal keys keep the order in which these came, and unlike a stable sort need no temporary buffer,
@@ -29,7 +29,7 @@ QList<QQuickItem*> paintOrder(const QQuickItem& item) {
     return {children.begin(), children.end()};
 }
 
-/// QML's own types have no public class in C++; they are told by a property that only they have.
+/// QML's own types have no public C++ class, so they are recognised by a property that only they have.
 bool has(const QQuickItem& item, const char* property) {
     return item.metaObject()->indexOfProperty(property) >= 0;
 }
@@ -46,7 +46,7 @@ QRectF sceneRect(const QQuickItem& item) {
     return item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
 }
 
-/// Inside the window and every ancestor that cuts off what leaves it.
+/// Clips to the window and to every clipping ancestor.
 bool inside(const QQuickItem& item, QPointF point) {
     for (const QQuickItem* i = item.parentItem(); i; i = i->parentItem()) {
         if (i->clip() && !sceneRect(*i).contains(point)) {
@@ -64,10 +64,10 @@ bool isWithin(const QQuickItem* item, const QQuickItem& ancestor) {
     return item != nullptr;
 }
 
-/// The topmost item that decides about `target` at this point: the target itself or something inside it, or
-/// whatever lies above it and takes taps.
+/// The topmost item that takes a tap at this point: the target itself, something inside it, or what covers
+/// it.
 const QQuickItem* topmost(const QQuickItem& root, const QQuickItem& target, QPointF point) {
-    // What has faded out but is still there takes taps all the same.
+    // A fully transparent item still takes taps.
     if (!root.isVisible()) {
         return nullptr;
     }
@@ -90,7 +90,7 @@ QString accessibleName(QQuickItem& item) {
         return {};
     }
     switch (interface->role()) {
-    // A container that is named after a text inside it would say that text twice.
+    // A container that has the name of a text inside it would say that text twice.
     case QAccessible::Dialog:
     case QAccessible::Animation:
     case QAccessible::Client:
@@ -103,8 +103,8 @@ QString accessibleName(QQuickItem& item) {
 } // namespace
 
 void ScreenReader::collect(QQuickItem& item, bool host, QList<QQuickItem*>& items) const {
-    // Below the stack only a page with a view controller is the module's; beside the stack only its overlays
-    // are.
+    // Inside the stack the module's items are pages with a view controller; beside the stack they are its
+    // overlays.
     if (item.objectName() == QLatin1String("hostBar")) {
         return;
     }

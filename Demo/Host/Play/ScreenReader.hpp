@@ -7,7 +7,7 @@
 
 namespace demo {
 
-/// Something on the screen that says something: what a person sees of it and a screen reader would read.
+/// An element of the screen with a text: what a person sees and a screen reader reads.
 struct ScreenElement {
     QQuickItem* item = nullptr;
     QString text;
@@ -18,7 +18,7 @@ struct ScreenElement {
     bool enabled = false;
 };
 
-/// Reads the phone-sized screen as a person would: what counts is what is drawn, not what exists.
+/// Reads the phone-sized screen as a person would: what is drawn, not what exists.
 class ScreenReader {
 public:
     /// `phone` holds the bar and the stack; only the module's own screen is read.
@@ -33,7 +33,7 @@ public:
     [[nodiscard]] bool reaches(const QQuickItem& item, QPointF point) const;
     /// A visible item of the screen by its object name; null if there is none.
     [[nodiscard]] QQuickItem* named(const QString& objectName) const;
-    /// The list or page that scrolls on the module's screen; null if nothing does.
+    /// The list or page that scrolls on the module's screen; null if there is none.
     [[nodiscard]] QQuickItem* scrollable() const;
 
 private:

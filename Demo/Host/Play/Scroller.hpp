@@ -9,11 +9,11 @@ class Scroller {
 public:
     explicit Scroller(QQuickItem& page) : page_(page) {}
 
-    /// Goes to the end, or to the start; whether it was there already.
+    /// Scrolls to the end or the start. Returns whether it was there already.
     bool toEdge(bool end);
-    /// Goes down by most of a screen, and at the end back to the start.
+    /// Scrolls down by most of a screen, and from the end back to the start.
     void onwards();
-    /// Brings this height of the window into the middle of the page, as far as it goes.
+    /// Scrolls so that this y of the window comes to the middle of the page, as far as possible.
     void toMiddle(double sceneY);
 
 private:

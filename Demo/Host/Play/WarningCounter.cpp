@@ -12,7 +12,7 @@ std::atomic<int> warnings = 0;
 QtMessageHandler printer = nullptr;
 
 void handle(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-    // The types do not stand in the order of their weight.
+    // The values of QtMsgType are not in order of severity.
     if (type == QtWarningMsg || type == QtCriticalMsg || type == QtFatalMsg) {
         ++warnings;
     }

@@ -2,8 +2,8 @@
 
 namespace demo {
 
-/// Counts what Qt and QML complain about, warnings and worse, for as long as it lives; it prints them all the
-/// same. One at a time; messages may come from any thread.
+/// Counts messages of Qt and QML from warnings up while it exists; it still prints them. Only one may exist
+/// at a time. Messages may come from any thread.
 class WarningCounter {
 public:
     WarningCounter();

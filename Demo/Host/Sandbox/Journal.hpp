@@ -10,8 +10,8 @@
 
 namespace demo {
 
-/// What a host's developer wants to see of the module while it runs: its requests and their answers, the
-/// analytics and the navigation it asked for, each in the order of happening. Main thread only.
+/// What a host's developer wants to see while the module runs: requests and answers, analytics, and
+/// navigation, each in order of time. Main thread only.
 class Journal final : public QObject {
     Q_OBJECT
     Q_PROPERTY(QVariantList requests READ requests NOTIFY requestsChanged FINAL)
@@ -26,7 +26,7 @@ public:
     void eventTracked(const kel::KelAnalyticsEventType& event);
     /// The icon is what the journal shows beside the operation.
     void navigated(const QString& operation, kel::KelIconNumber icon);
-    /// Makes room for the next order's requests and analytics. What was handed over before stays to be seen.
+    /// Clears requests and analytics for the next order. Earlier navigation entries stay.
     void beginOrder();
     void clear();
 
@@ -34,7 +34,7 @@ public:
     [[nodiscard]] QVariantList analytics() const { return analytics_; }
     [[nodiscard]] QVariantList navigation() const { return navigation_; }
 
-    /// The same for a report, without times. The value of the token is its length.
+    /// The same for a report, without times. The token is replaced by its length.
     [[nodiscard]] QJsonArray requestsJson() const;
     [[nodiscard]] QJsonArray analyticsJson() const;
     [[nodiscard]] QJsonArray navigationJson() const;

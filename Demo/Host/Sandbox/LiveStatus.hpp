@@ -10,7 +10,7 @@
 
 namespace demo {
 
-/// What the journal is about: whose order is open, in which environment, and how its gateway is. Main thread
+/// The journal's header: whose order is open, in which environment, and the state of its gateway. Main thread
 /// only.
 class LiveStatus final : public QObject {
     Q_OBJECT
@@ -21,10 +21,10 @@ class LiveStatus final : public QObject {
     Q_PROPERTY(kel::KelTagColor::Color gatewayColor READ gatewayColor NOTIFY changed FINAL)
 
 public:
-    /// The gateway is the host's own and listens, until it is said to have ended.
+    /// The gateway is the host's own and running, until it is reported to have ended.
     void gatewayStarted();
     void gatewayEnded();
-    /// The gateway is somebody else's: only its address is known.
+    /// The gateway is external: only its address is known.
     void gatewayElsewhere(const GatewayAddress& address);
     void opened(const quillet::CartForConsultant& cart, quillet::Environment environment);
 

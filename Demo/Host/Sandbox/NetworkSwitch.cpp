@@ -9,11 +9,11 @@ namespace {
 
 void passOn(QTcpSocket& from, QTcpSocket& to) {
     QObject::connect(&from, &QTcpSocket::readyRead, &to, [&from, &to] { to.write(from.readAll()); });
-    // What was passed on before is still sent.
+    // Data received before is still forwarded.
     QObject::connect(&from, &QTcpSocket::disconnected, &to, &QTcpSocket::disconnectFromHost);
 }
 
-// The two ends of a connection are freed with the server, or when the module has closed its end.
+// Both sockets of a connection are freed when the module closes its end, or with the server.
 void connectTo(const GatewayAddress& gateway, QTcpSocket* module) {
     auto* const far = new QTcpSocket(module);
     passOn(*module, *far);

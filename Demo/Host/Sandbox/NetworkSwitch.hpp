@@ -12,18 +12,18 @@ class QTcpServer;
 
 namespace demo {
 
-/// The network between the module and a gateway, which can be switched off, as for a consultant on the
-/// underground: connections are passed on to the gateway, or there are none.
+/// The network between the module and a gateway, which can be switched off. While it is on, connections are
+/// forwarded to the gateway.
 class NetworkSwitch final : public quillet::platform::NetworkPathMonitoring {
 public:
     /// On at first.
     explicit NetworkSwitch(const GatewayAddress& gateway);
     ~NetworkSwitch() override;
 
-    /// Where the gateway is to be found behind the switch.
+    /// The address at which clients reach the gateway through the switch.
     [[nodiscard]] const GatewayAddress& address() const { return address_; }
 
-    /// Ends all connections when it switches off. It is done when it returns.
+    /// Switching off ends all connections before it returns.
     void setOn(bool on);
 
     [[nodiscard]] bool isSatisfied(const std::string& host, bool isMapped) const override;

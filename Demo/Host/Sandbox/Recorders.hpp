@@ -10,7 +10,7 @@
 
 namespace demo {
 
-/// Brings what the sessions report on their own threads to the journal on the main thread.
+/// Passes what the sessions report on their own threads to the journal on the main thread.
 class TrafficRecorder final : public quillet::platform::URLSessionObserving {
 public:
     explicit TrafficRecorder(std::shared_ptr<Journal> journal) : journal_(std::move(journal)) {}
@@ -24,8 +24,8 @@ public:
     }
 
 private:
-    // The module's main queue outlives everything, so that a call may end at any time, even while the program
-    // does.
+    // The module's main queue outlives everything, so a call may end at any time, even during the program's
+    // exit.
     template <typename Entry>
     void post(Entry entry) {
         quillet::platform::mainQueue().async([journal = journal_, entry] { entry(*journal); });
@@ -34,7 +34,7 @@ private:
     std::shared_ptr<Journal> journal_;
 };
 
-/// The sink that the host installs in its analytics manager.
+/// The analytics manager of the sample host.
 class AnalyticsRecorder final : public kel::KelAnalyticsManagerType {
 public:
     explicit AnalyticsRecorder(std::shared_ptr<Journal> journal) : journal_(std::move(journal)) {}

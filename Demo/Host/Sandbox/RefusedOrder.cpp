@@ -10,7 +10,7 @@ namespace demo {
 
 namespace {
 
-/// Answers each run at once, through the main queue, with what it was made with.
+/// Answers each run at once, through the main queue, with the result given at construction.
 class HandmadeWorker final : public quillet::Executable {
 public:
     explicit HandmadeWorker(std::function<void()> answer) : answer_(std::move(answer)) {}

@@ -3,7 +3,7 @@ import QtQuick.Controls.Basic
 import KelDS
 import Quillet
 
-// The host's bar: title and way back of whatever is on top, as a module screen tells them.
+// The host's bar: title and back button of the top page, as a module screen provides them.
 Rectangle {
     id: bar
 
@@ -41,7 +41,7 @@ Rectangle {
     KelDivider {
         anchors.bottom: parent.bottom
         width: parent.width
-        // A tab bar below the host's bar is drawn as one with it.
+        // A tab bar directly below the host's bar continues its colour.
         visible: !(bar.screen?.continuesBar ?? false)
     }
 }

@@ -1,7 +1,7 @@
 import QtQuick
 import KelDS
 
-// What a sample on the sheet is called.
+// The caption of a sample on the sheet.
 KelLabel {
     size: KelFonts.Caption
     color: KelColors.mediumEmphasis

@@ -1,7 +1,7 @@
 import QtQuick
 import KelDS
 
-// An expansion panel as it stands, open or closed.
+// An expansion panel, open or closed.
 Item {
     id: panel
 

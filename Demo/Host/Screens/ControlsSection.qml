@@ -1,7 +1,7 @@
 import QtQuick
 import KelDS
 
-// One part of the sheet: whatever is declared inside stands below its title.
+// One part of the sheet: its children are placed below its title.
 Column {
     id: section
 

@@ -1,7 +1,7 @@
 import QtQuick
 import KelDS
 
-// A page of the host's own, where the module hands over.
+// A page of the host that the module navigates to.
 Item {
     id: page
 

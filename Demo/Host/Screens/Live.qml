@@ -9,7 +9,7 @@ Rectangle {
     required property var status
     required property bool moduleOpen
 
-    // Four requests, which is what most orders take, have room without scrolling.
+    // Four requests, as many as most orders need, fit without scrolling.
     readonly property int requestsHeight: KelSizes.mediumX + 4 * KelSizes.medium + KelSpacing.tiny
 
     // A shade below the module's ground. The dark ground is deep enough for the cards to stand out from it.

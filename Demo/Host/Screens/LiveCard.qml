@@ -1,4 +1,4 @@
-// Bound components cannot be made by a view or a loader in Qt 6.4, so the ids of this file are seen from inside them.
+// Views and loaders of Qt 6.4 cannot create bound components, so components refer to this file's ids unqualified.
 // qmllint disable unqualified
 
 import QtQuick
@@ -11,7 +11,7 @@ KelCard {
     required property string title
     required property var rows
     required property Component rowDelegate
-    // What is still to come, below the last row.
+    // A line below the last row about what comes next.
     property string outlook
 
     padding: 0

@@ -1,4 +1,4 @@
-// Bound components cannot be made by a view or a loader in Qt 6.4, so the ids of this file are seen from inside them.
+// Views and loaders of Qt 6.4 cannot create bound components, so components refer to this file's ids unqualified.
 // qmllint disable unqualified
 
 import QtQuick
@@ -10,7 +10,7 @@ ApplicationWindow {
     id: window
 
     required property var host
-    // A play looks at the phone alone; a developer's desk has room for the journal beside it.
+    // A play shows the phone only; a wide window has room for the journal beside it.
     required property bool compact
     readonly property alias stack: stack
     readonly property alias phone: phone
@@ -50,7 +50,7 @@ ApplicationWindow {
             anchors.bottom: parent.bottom
             width: parent.width
             clip: true
-            // A page slides in over the one below it, which gives way a little; with reduced motion it fades in.
+            // A page slides in over the one below it, which moves a little; with reduced motion it fades in.
             pushEnter: Transition {
                 NumberAnimation {
                     property: "x"

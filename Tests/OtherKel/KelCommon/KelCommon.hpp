@@ -34,7 +34,7 @@ struct KelBundle {
     QString folder;
     QString table;
 };
-// This host has no string tables: a text is its key.
+// This host has no string tables, so a key is its own text.
 inline QString localized(const char* key, const KelBundle&) {
     return key;
 }

@@ -56,7 +56,7 @@ struct KelColors : QObject {
     }
     Q_INVOKABLE static QColor tint(const QColor& color) { return withAlpha(color, 0.2); }
 };
-// One scale for everything.
+// One scale for all measures.
 struct KelMeasures : QObject {
     Q_OBJECT
 

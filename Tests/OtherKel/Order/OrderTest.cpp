@@ -18,7 +18,7 @@ struct NoNavigation final : QuilletNavigationDelegate {
     void navigateToShareMagazine() override {}
 };
 
-/// What is drawn inside the left edge of an item.
+/// The colour just inside the left edge of an item.
 QColor colorOf(const QQuickItem& item) {
     const QPoint point = item.mapToScene({4, item.height() / 2}).toPoint();
     return item.window()->grabWindow().pixelColor(point);
