@@ -1,6 +1,6 @@
 #include "AllocationCount.hpp"
-#include "Models/OpenOrdersResponse.hpp"
 #include "OpenCartsBody.hpp"
+#include "Quillet/Orders.hpp"
 
 #include <QByteArray>
 #include <QJsonDocument>

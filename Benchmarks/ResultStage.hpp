@@ -4,7 +4,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-#include "Models/Product.hpp"
+#include "Quillet/Checkout.hpp"
 
 #include <chrono>
 #include <memory>

@@ -1,7 +1,7 @@
 # What Backend needs of two libraries beyond their lowest version, said while configuring rather than found out later.
 
-find_package(simdjson REQUIRED)
-find_package(CURL 7.88 REQUIRED)
+quillet_find(simdjson libsimdjson-dev)
+quillet_find(CURL libcurl4-openssl-dev 7.88)
 
 # Only simdjson's first pass is used, and the index that this makes is no public interface. These are the versions that
 # the tests have been run with, lowest and highest (README: "Tested with").

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Entry/Quillet.hpp"
 #include "Sandbox/Journal.hpp"
 #include "Sandbox/LiveStatus.hpp"
+#include <Quillet/Quillet.hpp>
 
 #include <QObject>
 #include <QQmlApplicationEngine>

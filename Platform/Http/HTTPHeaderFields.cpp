@@ -1,4 +1,4 @@
-#include "Platform/Http/HTTPHeaderFields.hpp"
+#include "Quillet/Platform/URLRequest.hpp"
 
 #include "Platform/Http/HTTPSyntax.hpp"
 

@@ -1,4 +1,4 @@
-#include "Platform/Http/URLError.hpp"
+#include "Quillet/Platform/URLError.hpp"
 
 #include <new>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Platform/Http/URLSessionConfiguration.hpp"
 #include "Platform/Http/URLSessionDataTask.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 
 namespace quillet::platform {
 

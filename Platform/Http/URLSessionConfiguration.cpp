@@ -1,4 +1,4 @@
-#include "Platform/Http/URLSessionConfiguration.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 
 #include "Platform/Http/HTTPSyntax.hpp"
 

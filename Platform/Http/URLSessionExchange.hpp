@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Platform/Http/HTTPURLResponse.hpp"
-#include "Platform/Http/URLError.hpp"
-#include "Platform/Http/URLRequest.hpp"
+#include "Quillet/Platform/URLError.hpp"
+#include "Quillet/Platform/URLRequest.hpp"
 
 #include <functional>
 #include <optional>

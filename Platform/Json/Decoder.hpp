@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Platform/Json/DecodingError.hpp"
 #include "Platform/Json/RecordReader.hpp"
 #include "Platform/Json/StructuralIndex.hpp"
+#include "Quillet/Platform/CodingErrors.hpp"
 
 #include <expected>
 #include <string>

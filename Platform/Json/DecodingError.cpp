@@ -1,4 +1,4 @@
-#include "Platform/Json/DecodingError.hpp"
+#include "Quillet/Platform/CodingErrors.hpp"
 
 namespace quillet::platform {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Platform/Json/Decimal.hpp"
 #include "Platform/Json/TextForm.hpp"
+#include "Quillet/Platform/Decimal.hpp"
 
 #include <cstdint>
 #include <optional>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Platform/Json/EncodingError.hpp"
 #include "Platform/Json/Field.hpp"
 #include "Platform/Json/JSONValue.hpp"
+#include "Quillet/Platform/CodingErrors.hpp"
 
 #include <expected>
 #include <string>

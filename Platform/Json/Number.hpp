@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Platform/Json/Decimal.hpp"
 #include "Platform/Json/NumberToken.hpp"
+#include "Quillet/Platform/Decimal.hpp"
 
 #include <cstddef>
 #include <cstdint>

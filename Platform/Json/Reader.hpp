@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Platform/Json/Cursor.hpp"
-#include "Platform/Json/DecodingError.hpp"
 #include "Platform/Json/Expected.hpp"
 #include "Platform/Json/Number.hpp"
+#include "Quillet/Platform/CodingErrors.hpp"
 
 #include <cstdint>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "Platform/Queue/MainQueue.hpp"
+#include "Quillet/Platform/MainQueue.hpp"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #include "Platform/Screens/MainQueuePump.hpp"
 
-#include "Platform/Queue/MainQueue.hpp"
+#include "Quillet/Platform/MainQueue.hpp"
 
 #include <QCoreApplication>
 

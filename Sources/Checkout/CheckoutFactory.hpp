@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Platform/Screens/QuickViewController.hpp"
-#include "Views/Navigation/QuilletNavigationDelegate.hpp"
+#include "Quillet/QuilletNavigationDelegate.hpp"
 #include "Workers/CheckoutWorkerCreating.hpp"
 
 #include <memory>

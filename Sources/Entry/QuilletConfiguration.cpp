@@ -1,4 +1,4 @@
-#include "Entry/QuilletConfiguration.hpp"
+#include "Quillet/Starter.hpp"
 
 namespace quillet {
 

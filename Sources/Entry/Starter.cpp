@@ -1,8 +1,6 @@
-#include "Entry/Starter.hpp"
+#include "Quillet/Starter.hpp"
 
 #include "Entry/BuildSettings.hpp"
-#include "Entry/QuilletConfiguration.hpp"
-#include "Network/Token/HmacSha256Scrivener.hpp"
 #include "Platform/Screens/MainQueuePump.hpp"
 #include "Platform/Screens/NavigationController.hpp"
 #include "SaleSummary/SaleSummaryFactory.hpp"
@@ -34,14 +32,11 @@ std::expected<Starter, JWTError>
 Starter::create(const std::string& accessToken, std::string authorizationProvider, CartForConsultant cart,
                 const std::shared_ptr<QuilletNavigationDelegate>& navigationDelegate) {
     auto domainUrl = gatewayHost(QuilletConfiguration::shared().environment());
-    const JWTCreator creator{Header{"HS256", "JWT"}, Payload{accessToken}, build::signingSecret,
-                             std::make_shared<HmacSha256Scrivener>()};
-    auto token = creator.createJSONWebToken();
-    if (!token) {
-        return std::unexpected(std::move(token.error()));
+    auto authorization = authorize(accessToken, std::move(authorizationProvider), build::signingSecret);
+    if (!authorization) {
+        return std::unexpected(std::move(authorization.error()));
     }
-    return Starter({std::move(*token), std::move(authorizationProvider)}, std::move(cart),
-                   std::move(domainUrl), navigationDelegate);
+    return Starter(*std::move(authorization), std::move(cart), std::move(domainUrl), navigationDelegate);
 }
 
 Starter::Starter(Authorization authorization, CartForConsultant cart, std::string domainUrl,

@@ -1,5 +1,6 @@
-#include "Models/CheckoutResponse.hpp"
+#include "Quillet/Checkout.hpp"
 
+#include "Models/RecordFields.hpp"
 #include "Platform/Json/Decoder.hpp"
 
 namespace quillet {

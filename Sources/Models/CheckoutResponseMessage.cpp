@@ -1,4 +1,4 @@
-#include "Models/CheckoutResponseMessage.hpp"
+#include "Quillet/Checkout.hpp"
 
 namespace quillet {
 

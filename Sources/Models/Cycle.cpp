@@ -1,6 +1,6 @@
-#include "Models/Cycle.hpp"
+#include "Quillet/Orders.hpp"
 
-#include "Models/FatalErrorWrapper.hpp"
+#include "Quillet/FatalErrorWrapper.hpp"
 
 namespace quillet {
 

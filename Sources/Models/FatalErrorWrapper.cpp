@@ -1,4 +1,4 @@
-#include "Models/FatalErrorWrapper.hpp"
+#include "Quillet/FatalErrorWrapper.hpp"
 
 #include <cstdio>
 #include <cstdlib>

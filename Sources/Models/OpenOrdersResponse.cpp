@@ -1,5 +1,6 @@
-#include "Models/OpenOrdersResponse.hpp"
+#include "Quillet/Orders.hpp"
 
+#include "Models/RecordFields.hpp"
 #include "Platform/Json/Decoder.hpp"
 
 namespace quillet {

@@ -1,4 +1,4 @@
-#include "Models/ProductErrorStatus.hpp"
+#include "Models/RecordFields.hpp"
 
 namespace quillet {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Models/CartForConsultant.hpp"
-#include "Network/Token/Authorization.hpp"
 #include "Platform/Screens/QuickViewController.hpp"
-#include "Views/Navigation/QuilletNavigationDelegate.hpp"
+#include "Quillet/Authorization.hpp"
+#include "Quillet/CartForConsultant.hpp"
+#include "Quillet/QuilletNavigationDelegate.hpp"
 
 #include <memory>
 #include <string>

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "Network/Services/SellOutCartServiceRequestable.hpp"
-#include "Network/Token/Authorization.hpp"
-#include "Workers/AssociateConsultantToCartWorkerDelegate.hpp"
+#include "Quillet/Authorization.hpp"
+#include "Quillet/Export.hpp"
+#include "Quillet/Workers.hpp"
 #include "Workers/ServiceWorker.hpp"
 
 namespace quillet {
 
 /// Associates the consultant with the customer's cart.
-class AssociateConsultantToCartWorker final
+class QUILLET_BACKEND_API AssociateConsultantToCartWorker final
     : public ServiceWorker<OrderResult, &OrderResult::response, AssociateConsultantToCartWorkerDelegate,
                            &AssociateConsultantToCartWorkerDelegate::didAssociate> {
 public:

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Network/Services/SellOutCartCheckoutServiceRequestable.hpp"
-#include "Workers/CheckoutWorkerDelegate.hpp"
+#include "Quillet/Workers.hpp"
 #include "Workers/ServiceWorker.hpp"
 
 namespace quillet {

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "Network/Token/Authorization.hpp"
+#include "Quillet/Authorization.hpp"
+#include "Quillet/Export.hpp"
 #include "Workers/CheckoutWorkerCreating.hpp"
 
 namespace quillet {
 
 /// Makes workers with the real service, each with a session of its own, for the process's main queue.
-class CheckoutWorkerFactory final : public CheckoutWorkerCreating {
+class QUILLET_BACKEND_API CheckoutWorkerFactory final : public CheckoutWorkerCreating {
 public:
     /// `domainUrl` is the gateway's bare host name.
     CheckoutWorkerFactory(std::string country, std::uint64_t consultantId, Authorization authorization,

@@ -1,6 +1,6 @@
 #include "Workers/DispatchMainQueueWrapper.hpp"
 
-#include "Platform/Queue/MainQueue.hpp"
+#include "Quillet/Platform/MainQueue.hpp"
 
 #include <utility>
 

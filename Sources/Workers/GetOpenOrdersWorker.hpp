@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Network/Services/SellOutCartsStatusOpenServiceRequestable.hpp"
-#include "Workers/GetOpenOrdersWorkerDelegate.hpp"
+#include "Quillet/Workers.hpp"
 #include "Workers/ServiceWorker.hpp"
 
 namespace quillet {

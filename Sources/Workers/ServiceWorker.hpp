@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Network/Services/ServiceCall.hpp"
+#include "Quillet/Workers.hpp"
 #include "Workers/DispatchQueuing.hpp"
-#include "Workers/Executable.hpp"
 
 #include <atomic>
 #include <chrono>

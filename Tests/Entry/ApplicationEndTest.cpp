@@ -1,5 +1,5 @@
-#include "Platform/Queue/MainQueue.hpp"
 #include "Platform/Screens/MainQueuePump.hpp"
+#include "Quillet/Platform/MainQueue.hpp"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>

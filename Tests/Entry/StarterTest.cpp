@@ -1,6 +1,6 @@
-#include "Entry/Quillet.hpp"
 #include "Network/Token/HmacSha256Scrivener.hpp"
 #include "Network/Token/JWTCreator.hpp"
+#include "Quillet/Quillet.hpp"
 #include "Support/FakeHost.hpp"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "Models/Date.hpp"
+#include "Models/RecordFields.hpp"
 
 #include <gmock/gmock.h>
 

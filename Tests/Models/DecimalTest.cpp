@@ -1,4 +1,4 @@
-#include "Platform/Json/Decimal.hpp"
+#include "Quillet/Platform/Decimal.hpp"
 #include "Platform/Json/Decoder.hpp"
 
 #include <boost/multiprecision/cpp_dec_float.hpp>

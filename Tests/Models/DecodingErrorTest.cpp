@@ -1,6 +1,6 @@
 #include "Models/Bodies.hpp"
-#include "Models/CheckoutResponse.hpp"
-#include "Models/OpenOrdersResponse.hpp"
+#include "Quillet/Checkout.hpp"
+#include "Quillet/Orders.hpp"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
-#include "Models/Cycle.hpp"
-#include "Models/FatalErrorWrapper.hpp"
+#include "Quillet/FatalErrorWrapper.hpp"
+#include "Quillet/Orders.hpp"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 #include "Models/Bodies.hpp"
-#include "Models/CheckoutResponse.hpp"
 #include "Platform/Json/Decoder.hpp"
+#include "Quillet/Checkout.hpp"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>

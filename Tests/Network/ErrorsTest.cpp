@@ -1,5 +1,5 @@
-#include "Models/ResponseCodingError.hpp"
 #include "Network/Errors/HttpErrorFactory.hpp"
+#include "Quillet/Orders.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Network/Errors/ServiceError.hpp"
+#include "Quillet/Errors.hpp"
 #include "SaleSummary/Screen/SaleSummaryView.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModelDelegate.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModeling.hpp"

@@ -1,4 +1,5 @@
-#include "Models/FatalErrorWrapper.hpp"
+#include "Models/RecordFields.hpp"
+#include "Quillet/FatalErrorWrapper.hpp"
 #include "SaleSummary/Fakes.hpp"
 #include "SaleSummary/UseCases/SaleSummarySuccessUseCase.hpp"
 

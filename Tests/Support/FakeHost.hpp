@@ -1,8 +1,8 @@
 #pragma once
 
 #include "KelCommon/KelAnalytics.hpp"
-#include "Views/Navigation/QuilletNavigationDelegate.hpp"
-#include "Workers/Executable.hpp"
+#include "Quillet/QuilletNavigationDelegate.hpp"
+#include "Quillet/Workers.hpp"
 
 #include <functional>
 #include <memory>

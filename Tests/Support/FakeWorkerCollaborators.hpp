@@ -3,11 +3,9 @@
 #include "Network/Services/SellOutCartCheckoutServiceRequestable.hpp"
 #include "Network/Services/SellOutCartServiceRequestable.hpp"
 #include "Network/Services/SellOutCartsStatusOpenServiceRequestable.hpp"
-#include "Platform/Queue/MainQueue.hpp"
-#include "Workers/AssociateConsultantToCartWorkerDelegate.hpp"
-#include "Workers/CheckoutWorkerDelegate.hpp"
+#include "Quillet/Platform/MainQueue.hpp"
+#include "Quillet/Workers.hpp"
 #include "Workers/DispatchQueuing.hpp"
-#include "Workers/GetOpenOrdersWorkerDelegate.hpp"
 
 #include <memory>
 #include <string>

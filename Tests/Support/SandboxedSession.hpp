@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Http/URLSessionConfiguration.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 #include "Support/FaultServer.hpp"
 #include "Support/Recorder.hpp"
 #include "Support/VirtualClock.hpp"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Http/SessionClock.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 
 #include <condition_variable>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "Checkout/CheckoutFactory.hpp"
-#include "Entry/Quillet.hpp"
 #include "KelCommon/KelAnalyticsManager.hpp"
 #include "Models/Bodies.hpp"
+#include "Quillet/Quillet.hpp"
 #include "Support/FakeHost.hpp"
 #include "Support/FaultServer.hpp"
 #include "Support/Stage.hpp"

@@ -1,7 +1,7 @@
 #include "Checkout/CheckoutFactory.hpp"
-#include "Entry/Quillet.hpp"
 #include "KelCommon/KelAnalyticsManager.hpp"
 #include "Platform/Screens/NavigationController.hpp"
+#include "Quillet/Quillet.hpp"
 #include "Support/FakeHost.hpp"
 #include "Support/FakeNetworkPath.hpp"
 #include "Support/SilentPort.hpp"

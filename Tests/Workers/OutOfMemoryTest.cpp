@@ -1,6 +1,6 @@
 #include "Models/Bodies.hpp"
-#include "Platform/Http/URLSessionConfiguration.hpp"
-#include "Platform/Queue/MainQueue.hpp"
+#include "Quillet/Platform/MainQueue.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 #include "Support/FailingAllocations.hpp"
 #include "Support/FaultServer.hpp"
 #include "Support/VirtualClock.hpp"

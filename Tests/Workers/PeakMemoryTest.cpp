@@ -1,7 +1,7 @@
 #include "Models/Bodies.hpp"
-#include "Models/CheckoutResponse.hpp"
-#include "Models/OpenOrdersResponse.hpp"
-#include "Platform/Http/URLSessionConfiguration.hpp"
+#include "Quillet/Checkout.hpp"
+#include "Quillet/Orders.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 #include "Support/FailingAllocations.hpp"
 
 #include <gtest/gtest.h>

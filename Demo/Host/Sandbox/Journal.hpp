@@ -2,7 +2,7 @@
 
 #include "KelCommon/KelAnalytics.hpp"
 #include "KelDSIcons/KelDSIcons.hpp"
-#include "Platform/Http/URLSessionObserving.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 
 #include <QJsonArray>
 #include <QObject>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Entry/Environment.hpp"
 #include "KelDS/KelTagColor.hpp"
-#include "Models/CartForConsultant.hpp"
+#include "Quillet/CartForConsultant.hpp"
+#include "Quillet/Starter.hpp"
 #include "Sandbox/GatewayProcess.hpp"
 
 #include <QObject>

@@ -1,4 +1,5 @@
 #include "Sandbox/NetworkSwitch.hpp"
+#include "Platform/Http/SystemNetworkPathMonitor.hpp"
 
 #include <QTcpServer>
 #include <QTcpSocket>

@@ -1,7 +1,7 @@
 #include "Sandbox/Platform.hpp"
 
 #include "KelCommon/KelAnalyticsManager.hpp"
-#include "Platform/Http/URLSessionConfiguration.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 
 namespace demo {
 

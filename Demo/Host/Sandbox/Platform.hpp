@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Http/NetworkPathMonitoring.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 #include "Sandbox/GatewayProcess.hpp"
 #include "Sandbox/Recorders.hpp"
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "KelCommon/KelAnalytics.hpp"
-#include "Platform/Http/URLSessionObserving.hpp"
-#include "Platform/Queue/MainQueue.hpp"
+#include "Quillet/Platform/MainQueue.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 #include "Sandbox/Journal.hpp"
 
 #include <memory>

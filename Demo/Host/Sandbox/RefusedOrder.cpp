@@ -1,7 +1,7 @@
 #include "Sandbox/RefusedOrder.hpp"
 
 #include "KelCommon/KelAnalyticsManager.hpp"
-#include "Platform/Queue/MainQueue.hpp"
+#include "Quillet/Platform/MainQueue.hpp"
 #include "SaleSummary/Screen/SaleSummaryViewController.hpp"
 #include "SaleSummary/UseCases/SaleSummaryUseCaseFactory.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModel.hpp"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Http/URLError.hpp"
+#include "Quillet/Platform/URLError.hpp"
 
 #include <optional>
 #include <string_view>

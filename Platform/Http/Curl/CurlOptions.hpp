@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Platform/Http/URLRequest.hpp"
-#include "Platform/Http/URLSessionConfiguration.hpp"
+#include "Quillet/Platform/URLRequest.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 
 #include <curl/curl.h>
 

@@ -3,8 +3,8 @@
 #include "Platform/Http/Curl/CurlOptions.hpp"
 #include "Platform/Http/Curl/TlsState.hpp"
 #include "Platform/Http/Session/ResponseBody.hpp"
-#include "Platform/Http/URLSessionConfiguration.hpp"
 #include "Platform/Http/URLSessionExchange.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 
 #include <curl/curl.h>
 

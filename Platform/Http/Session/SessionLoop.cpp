@@ -4,6 +4,8 @@
 #include "Platform/Http/Curl/CurlLibrary.hpp"
 #include "Platform/Http/Process/HostSignals.hpp"
 #include "Platform/Http/Process/OpenSsl.hpp"
+#include "Platform/Http/SystemNetworkPathMonitor.hpp"
+#include "Platform/Http/SystemSessionClock.hpp"
 
 #include <algorithm>
 #include <atomic>

@@ -2,8 +2,8 @@
 
 #include "Platform/Http/Curl/CurlTransfer.hpp"
 #include "Platform/Http/Process/ProcessEnd.hpp"
-#include "Platform/Http/URLSessionConfiguration.hpp"
 #include "Platform/Http/URLSessionExchange.hpp"
+#include "Quillet/Platform/URLSessionConfiguration.hpp"
 
 #include <chrono>
 #include <cstdint>

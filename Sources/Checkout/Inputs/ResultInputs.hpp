@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Models/Product.hpp"
+#include "Quillet/Checkout.hpp"
 
 #include <QString>
 

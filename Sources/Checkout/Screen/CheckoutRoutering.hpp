@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Models/CheckoutResponse.hpp"
+#include "Quillet/Checkout.hpp"
 
 namespace quillet {
 

@@ -2,8 +2,8 @@
 
 #include "Checkout/Analytics/CheckoutAnalyticsScreen.hpp"
 #include "Checkout/Screen/CheckoutRoutering.hpp"
+#include "Quillet/QuilletNavigationDelegate.hpp"
 #include "Resources/Localization.hpp"
-#include "Views/Navigation/QuilletNavigationDelegate.hpp"
 #include "Views/Screen/ViewController.hpp"
 
 #include <utility>

@@ -3,8 +3,7 @@
 #include "Checkout/Screen/CheckoutViewModelDelegate.hpp"
 #include "Checkout/Screen/CheckoutViewModeling.hpp"
 #include "KelCommon/KelCommon.hpp"
-#include "Workers/CheckoutWorkerDelegate.hpp"
-#include "Workers/Executable.hpp"
+#include "Quillet/Workers.hpp"
 
 #include <memory>
 

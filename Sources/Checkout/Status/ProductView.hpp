@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Checkout/Status/ProductRow.hpp"
-#include "Models/Product.hpp"
+#include "Quillet/Checkout.hpp"
 
 #include <QString>
 

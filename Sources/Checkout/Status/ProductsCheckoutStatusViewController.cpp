@@ -2,7 +2,7 @@
 
 #include "Checkout/Analytics/CheckoutAnalyticsScreen.hpp"
 #include "Checkout/Analytics/ProductsCheckoutStatusAnalyticsEvent.hpp"
-#include "Views/Navigation/QuilletNavigationDelegate.hpp"
+#include "Quillet/QuilletNavigationDelegate.hpp"
 
 #include <utility>
 

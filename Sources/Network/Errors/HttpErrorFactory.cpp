@@ -1,5 +1,6 @@
 #include "Network/Errors/HttpErrorFactory.hpp"
 
+#include "Network/Errors/ErrorFields.hpp"
 #include "Platform/Json/Decoder.hpp"
 
 namespace quillet {

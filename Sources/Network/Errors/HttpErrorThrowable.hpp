@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Network/Errors/ServiceError.hpp"
+#include "Quillet/Errors.hpp"
 
 #include <cstdint>
 #include <optional>

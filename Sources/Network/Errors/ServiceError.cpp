@@ -1,4 +1,4 @@
-#include "Network/Errors/ServiceError.hpp"
+#include "Quillet/Errors.hpp"
 
 namespace quillet {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Platform/Http/URLRequest.hpp"
-#include "Platform/Json/EncodingError.hpp"
 #include "Platform/Json/JSONValue.hpp"
+#include "Quillet/Platform/CodingErrors.hpp"
+#include "Quillet/Platform/URLRequest.hpp"
 
 #include <expected>
 #include <memory>

@@ -4,8 +4,8 @@
 #include "Network/Request/URLRequestable.hpp"
 #include "Network/Services/SellOutCartCheckoutServiceRequestable.hpp"
 #include "Network/Session/URLSessionDataTaskCreating.hpp"
-#include "Network/Token/Authorization.hpp"
 #include "Network/Url/UrlCreating.hpp"
+#include "Quillet/Authorization.hpp"
 
 #include <memory>
 

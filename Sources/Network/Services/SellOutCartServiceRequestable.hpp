@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Network/Results/OrderResult.hpp"
+#include "Quillet/Results.hpp"
 
 #include <cstdint>
 #include <functional>

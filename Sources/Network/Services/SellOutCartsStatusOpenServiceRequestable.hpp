@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Network/Results/OpenOrdersResult.hpp"
+#include "Quillet/Results.hpp"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Network/Errors/ServiceError.hpp"
 #include "Network/Request/URLRequestable.hpp"
+#include "Quillet/Errors.hpp"
 
 #include <expected>
 #include <optional>

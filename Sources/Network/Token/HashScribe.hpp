@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Network/Token/HmacSha256Error.hpp"
+#include "Quillet/Authorization.hpp"
 
 #include <expected>
 #include <string>

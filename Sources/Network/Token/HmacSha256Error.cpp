@@ -1,4 +1,4 @@
-#include "Network/Token/HmacSha256Error.hpp"
+#include "Quillet/Authorization.hpp"
 
 namespace quillet {
 

@@ -1,7 +1,7 @@
 #include "Network/Token/JWTCreator.hpp"
 
-#include "Network/Errors/ServiceError.hpp"
 #include "Network/Token/Base64Url.hpp"
+#include "Network/Token/HmacSha256Scrivener.hpp"
 
 #include <utility>
 
@@ -26,6 +26,17 @@ std::expected<std::string, JWTError> JWTCreator::createJSONWebToken() const {
         return std::unexpected(signature.error());
     }
     return content + "." + *signature;
+}
+
+std::expected<Authorization, JWTError> authorize(const std::string& accessToken, std::string provider,
+                                                 const std::string& secretKey) {
+    const JWTCreator creator{Header{"HS256", "JWT"}, Payload{accessToken}, secretKey,
+                             std::make_shared<HmacSha256Scrivener>()};
+    auto token = creator.createJSONWebToken();
+    if (!token) {
+        return std::unexpected(std::move(token.error()));
+    }
+    return Authorization{std::move(*token), std::move(provider)};
 }
 
 } // namespace quillet

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Network/Errors/NetworkServiceError.hpp"
-#include "Platform/Http/Url.hpp"
+#include "Quillet/Errors.hpp"
+#include "Quillet/Platform/URLRequest.hpp"
 
 #include <expected>
 #include <string>

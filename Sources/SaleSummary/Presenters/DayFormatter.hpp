@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Models/Date.hpp"
+#include "Quillet/Orders.hpp"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Models/Cycle.hpp"
+#include "Quillet/Orders.hpp"
 #include "Views/Labels/PointsPresenter.hpp"
 
 #include <cstdint>

@@ -1,9 +1,9 @@
 #include "SaleSummary/UseCases/SaleSummaryIconDialogUseCases.hpp"
 
+#include "Quillet/QuilletNavigationDelegate.hpp"
 #include "Resources/Localization.hpp"
 #include "SaleSummary/Analytics/SaleSummaryAnalyticsEvent.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModelDelegate.hpp"
-#include "Views/Navigation/QuilletNavigationDelegate.hpp"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #include "SaleSummary/UseCases/SaleSummarySuccessUseCase.hpp"
 
-#include "Models/FatalErrorWrapper.hpp"
+#include "Quillet/FatalErrorWrapper.hpp"
 #include "SaleSummary/Analytics/SaleSummaryAnalyticsEvent.hpp"
 #include "SaleSummary/Screen/SaleSummaryView.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModelDelegate.hpp"

@@ -1,10 +1,10 @@
 #include "SaleSummary/UseCases/SaleSummaryTryAgainUseCases.hpp"
 
+#include "Quillet/QuilletNavigationDelegate.hpp"
 #include "Resources/Localization.hpp"
 #include "SaleSummary/Analytics/SaleSummaryAnalyticsScreen.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModelDelegate.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModeling.hpp"
-#include "Views/Navigation/QuilletNavigationDelegate.hpp"
 
 #include <utility>
 

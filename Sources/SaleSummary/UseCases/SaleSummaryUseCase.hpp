@@ -1,8 +1,7 @@
 #pragma once
 
 #include "KelCommon/KelCommon.hpp"
-#include "Network/Results/OpenOrdersResult.hpp"
-#include "Network/Results/OrderResult.hpp"
+#include "Quillet/Results.hpp"
 
 #include <memory>
 #include <utility>

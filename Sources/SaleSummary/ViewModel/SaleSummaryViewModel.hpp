@@ -1,12 +1,10 @@
 #pragma once
 
 #include "KelCommon/KelCommon.hpp"
+#include "Quillet/Workers.hpp"
 #include "SaleSummary/UseCases/SaleSummaryUseCase.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModelDelegate.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModeling.hpp"
-#include "Workers/AssociateConsultantToCartWorkerDelegate.hpp"
-#include "Workers/Executable.hpp"
-#include "Workers/GetOpenOrdersWorkerDelegate.hpp"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
-#include "Entry/Quillet.hpp"
 #include "KelDS/KelDS.hpp"
 #include "Models/Bodies.hpp"
 #include "Support/FaultServer.hpp"
 #include "Support/Stage.hpp"
+#include <Quillet/Quillet.hpp>
 
 #include <QGuiApplication>
 

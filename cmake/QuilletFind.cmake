@@ -1,0 +1,15 @@
+# quillet_find(NAME PACKAGES [ARGUMENTS OF find_package ...]): a library that is needed, or one line that says what to
+# install. For the project's own build and for find_package(Quillet), where a missing one makes Quillet not found.
+macro(quillet_find name packages)
+    find_package(${name} ${ARGN} QUIET)
+    if(NOT ${name}_FOUND)
+        string(REPLACE ";" " " _quillet_wanted "${name};${ARGN}")
+        set(_quillet_missing "${_quillet_wanted} is missing; on Debian: apt install ${packages}")
+        if(CMAKE_FIND_PACKAGE_NAME STREQUAL "Quillet")
+            set(Quillet_FOUND 0)
+            set(Quillet_NOT_FOUND_MESSAGE "${_quillet_missing}")
+            return()
+        endif()
+        message(FATAL_ERROR "${_quillet_missing}")
+    endif()
+endmacro()

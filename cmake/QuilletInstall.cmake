@@ -1,0 +1,63 @@
+# cmake --install: libraries, public headers, and what find_package(Quillet) and pkg-config read. Shared and static builds
+# can be installed into one prefix; they differ in the names of their files.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(quillet_kind static)
+if(BUILD_SHARED_LIBS)
+    set(quillet_kind shared)
+endif()
+set(quillet_package "${CMAKE_INSTALL_LIBDIR}/cmake/Quillet")
+
+# quillet_install(SET NAMESPACE TARGET ...): the targets, and the object libraries with the resources of static ones.
+function(quillet_install set namespace)
+    set(targets ${ARGN})
+    # A shared library finds the others beside itself, wherever they are installed.
+    set_target_properties(${ARGN} PROPERTIES INSTALL_RPATH "$ORIGIN")
+    if(NOT BUILD_SHARED_LIBS)
+        foreach(target ${ARGN})
+            get_target_property(resources ${target} QUILLET_RESOURCE_TARGETS)
+            if(resources)
+                list(APPEND targets ${resources})
+            endif()
+        endforeach()
+    endif()
+    install(TARGETS ${targets} EXPORT Quillet${set}
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        OBJECTS DESTINATION "${CMAKE_INSTALL_LIBDIR}/quillet"
+        INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+    install(EXPORT Quillet${set} FILE "${set}-${quillet_kind}.cmake" NAMESPACE "${namespace}::" DESTINATION "${quillet_package}")
+endfunction()
+
+set_target_properties(QuilletBackend PROPERTIES EXPORT_NAME Backend)
+quillet_install(Backend Quillet QuilletBackend)
+foreach(folder Platform/Include/Quillet Sources/Include/Quillet)
+    install(DIRECTORY "${PROJECT_SOURCE_DIR}/${folder}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+endforeach()
+
+if(QUILLET_BUILD_UI)
+    # Kel stands for a host's own libraries. It is installed only where this build made it.
+    get_target_property(alias Kel::KelDS ALIASED_TARGET)
+    get_target_property(folder ${alias} SOURCE_DIR)
+    if(folder STREQUAL "${PROJECT_SOURCE_DIR}/Kel/KelDS")
+        quillet_install(Kel Kel KelCommon KelDSIcons KelDS)
+        install(DIRECTORY "${PROJECT_SOURCE_DIR}/Kel/" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+            FILES_MATCHING PATTERN "*.hpp" PATTERN Controls EXCLUDE PATTERN Texts EXCLUDE)
+    endif()
+    set(ui Quillet)
+    if(NOT BUILD_SHARED_LIBS)
+        list(APPEND ui QuilletScreens)
+    endif()
+    quillet_install(Quillet Quillet ${ui})
+endif()
+
+configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/QuilletConfig.cmake.in" QuilletConfig.cmake
+    INSTALL_DESTINATION "${quillet_package}")
+write_basic_package_version_file(QuilletConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/QuilletConfig.cmake" "${PROJECT_BINARY_DIR}/QuilletConfigVersion.cmake"
+    "${PROJECT_SOURCE_DIR}/cmake/QuilletFind.cmake"
+    DESTINATION "${quillet_package}")
+
+configure_file("${PROJECT_SOURCE_DIR}/cmake/quillet-backend.pc.in" quillet-backend.pc @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/quillet-backend.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
