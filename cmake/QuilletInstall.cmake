@@ -32,7 +32,10 @@ endfunction()
 
 set_target_properties(QuilletBackend PROPERTIES EXPORT_NAME Backend)
 quillet_install(Backend Quillet QuilletBackend)
-foreach(folder Platform/Include/Quillet Sources/Include/Quillet)
+# The kit is static whatever the others are: nobody ships it.
+set_target_properties(QuilletTesting PROPERTIES EXPORT_NAME Testing)
+quillet_install(Testing Quillet QuilletTesting)
+foreach(folder Platform/Include/Quillet Sources/Include/Quillet Testing/Include/Quillet)
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/${folder}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 endforeach()
 

@@ -1,19 +1,8 @@
 #pragma once
 
-#include "Platform/Http/HTTPURLResponse.hpp"
-#include "Quillet/Platform/URLError.hpp"
-#include "Quillet/Platform/URLRequest.hpp"
-
-#include <functional>
-#include <optional>
-#include <string>
+#include "Quillet/Platform/URLLoading.hpp"
 
 namespace quillet::platform {
-
-/// Takes a call's outcome: either body and response, or the transport error alone. The body of a complete
-/// answer is always there, if need be empty (as for a 204). Must not throw.
-using URLSessionDataTaskCompletion = std::function<void(
-    std::optional<std::string> data, std::optional<HTTPURLResponse> response, std::optional<URLError> error)>;
 
 /// A call's outcome: body and response, or the error alone.
 struct URLSessionOutcome {

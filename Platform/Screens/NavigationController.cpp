@@ -5,17 +5,43 @@
 #include <QLoggingCategory>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QQuickWindow>
+
+#include <algorithm>
 
 namespace quillet::platform {
 
 namespace {
 Q_LOGGING_CATEGORY(lcNavigation, "quillet.navigation")
 
-// Layouts, positioners and containers would arrange an overlay like their other children. They have no public
-// C++ classes, so they are recognised by a documented property.
+// QML's own types have no public C++ classes, so they are recognised by a documented property.
+bool has(const QObject& object, const char* property) {
+    return object.metaObject()->indexOfProperty(property) >= 0;
+}
+
+// Layouts, positioners and containers would arrange an overlay like their other children.
 bool arrangesChildren(const QQuickItem& item) {
-    const auto has = [&](const char* property) { return item.metaObject()->indexOfProperty(property) >= 0; };
-    return has("layoutDirection") || has("populate") || has("currentIndex");
+    return has(item, "layoutDirection") || has(item, "populate") || has(item, "currentIndex");
+}
+
+bool holdsAnotherStack(const QQuickItem& area, const QQuickItem& stackView) {
+    return std::ranges::any_of(area.childItems(), [&](const QQuickItem* child) {
+        return child != &stackView && child->isVisible() &&
+               (has(*child, "initialItem") ? !child->isAncestorOf(&stackView)
+                                           : holdsAnotherStack(*child, stackView));
+    });
+}
+
+// Header and footer of an ApplicationWindow are children of its content, but placed outside of it.
+QQuickItem& withHeader(QQuickItem& area) {
+    const QQuickWindow* window = area.window();
+    for (const char* bar : {"header", "footer"}) {
+        const auto* item = window ? window->property(bar).value<QQuickItem*>() : nullptr;
+        if (item && item->parentItem() == &area && area.parentItem()) {
+            return *area.parentItem();
+        }
+    }
+    return area;
 }
 
 } // namespace
@@ -52,12 +78,23 @@ QQmlEngine* NavigationController::engine() const {
     return stackView_ ? qmlEngine(stackView_) : nullptr;
 }
 
+void NavigationController::setCoverArea(QQuickItem* area) {
+    const bool holdsStack = area && (area == stackView_ || area->isAncestorOf(stackView_));
+    if (area && !holdsStack) {
+        qCWarning(lcNavigation) << "the item to cover does not hold the StackView";
+    }
+    namedCoverArea_ = holdsStack ? area : nullptr;
+}
+
 QQuickItem* NavigationController::coverArea() const {
+    if (namedCoverArea_) {
+        return namedCoverArea_;
+    }
     QQuickItem* area = stackView_ ? stackView_->parentItem() : nullptr;
     while (area && arrangesChildren(*area)) {
         area = area->parentItem();
     }
-    return area ? area : stackView_.data();
+    return area && !holdsAnotherStack(*area, *stackView_) ? &withHeader(*area) : stackView_.data();
 }
 
 bool NavigationController::push(const std::shared_ptr<QuickViewController>& screen) {

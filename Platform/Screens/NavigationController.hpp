@@ -33,13 +33,18 @@ public:
 
     /// The engine that the host's stack was made with; null once the stack is gone.
     [[nodiscard]] QQmlEngine* engine() const;
-    /// The item that overlays cover: the parent that holds the host's StackView and bar.
+    /// The item that overlays cover. If the host named none it is the nearest parent of the StackView that
+    /// does not arrange its children, together with a header and footer of an ApplicationWindow; or the
+    /// StackView alone, if another visible StackView is in there as well.
     [[nodiscard]] QQuickItem* coverArea() const;
+    /// Names the item that overlays cover; null for the default. It must hold the StackView, or is ignored.
+    void setCoverArea(QQuickItem* area);
 
 private:
     explicit NavigationController(QQuickItem& stackView);
 
     QPointer<QQuickItem> stackView_;
+    QPointer<QQuickItem> namedCoverArea_;
 };
 
 } // namespace quillet::platform

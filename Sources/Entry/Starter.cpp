@@ -52,12 +52,15 @@ std::shared_ptr<platform::QuickViewController> Starter::createRootViewController
         .createViewController();
 }
 
-bool present(const std::shared_ptr<platform::QuickViewController>& screen, QQuickItem& stackView) {
+bool present(const std::shared_ptr<platform::QuickViewController>& screen, QQuickItem& stackView,
+             QQuickItem* coverArea) {
     platform::pumpMainQueue();
     if (QQmlEngine* engine = qmlEngine(&stackView)) {
         useQuilletViews(*engine);
     }
-    return platform::NavigationController::of(stackView).push(screen);
+    auto& navigation = platform::NavigationController::of(stackView);
+    navigation.setCoverArea(coverArea);
+    return navigation.push(screen);
 }
 
 } // namespace quillet

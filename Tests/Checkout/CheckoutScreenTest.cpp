@@ -1,7 +1,7 @@
 #include "Checkout/CheckoutFactory.hpp"
 #include "KelCommon/KelAnalyticsManager.hpp"
 #include "Platform/Screens/NavigationController.hpp"
-#include "Support/FakeHost.hpp"
+#include "Quillet/Testing/RecordingHost.hpp"
 #include "Support/FakeWorkerCollaborators.hpp"
 #include "Support/Stage.hpp"
 #include "Views/QuilletViews.hpp"
@@ -51,7 +51,7 @@ private:
 
 struct CheckoutScreen : ::testing::Test {
     CheckoutScreen() {
-        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<FakeAnalytics>(log));
+        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<RecordingAnalytics>(log));
         useQuilletViews(*qmlEngine(&stage.stack()));
     }
     ~CheckoutScreen() override {
@@ -85,7 +85,7 @@ struct CheckoutScreen : ::testing::Test {
     [[nodiscard]] bool settled() const { return !stage.stack().property("busy").toBool(); }
 
     Log log = makeLog();
-    std::shared_ptr<FakeNavigation> host = std::make_shared<FakeNavigation>(log);
+    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(log);
     std::shared_ptr<platform::MainQueue> queue = std::make_shared<platform::MainQueue>();
     std::shared_ptr<Conversation<CheckoutResult>> talk = std::make_shared<Conversation<CheckoutResult>>();
     std::vector<std::weak_ptr<CheckoutWorker>> workers;

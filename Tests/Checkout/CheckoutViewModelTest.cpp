@@ -47,10 +47,10 @@ struct CheckoutViewModelTest : ::testing::Test {
     std::shared_ptr<platform::MainQueue> queue = std::make_shared<platform::MainQueue>();
     std::shared_ptr<CheckoutWorker> worker = std::make_shared<CheckoutWorker>(
         std::make_unique<FakeCheckoutService>(talk), std::make_unique<DrainedQueue>(queue));
-    std::shared_ptr<FakeNavigation> host = std::make_shared<FakeNavigation>(log);
+    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(log);
     std::shared_ptr<FakeCheckoutScreen> screen = std::make_shared<FakeCheckoutScreen>(log, host);
     std::shared_ptr<CheckoutViewModel> viewModel =
-        std::make_shared<CheckoutViewModel>(worker, std::make_shared<FakeAnalytics>(log));
+        std::make_shared<CheckoutViewModel>(worker, std::make_shared<RecordingAnalytics>(log));
 };
 
 } // namespace

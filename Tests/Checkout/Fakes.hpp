@@ -2,7 +2,7 @@
 
 #include "Checkout/Screen/CheckoutRoutering.hpp"
 #include "Checkout/Screen/CheckoutViewModelDelegate.hpp"
-#include "Support/FakeHost.hpp"
+#include "Quillet/Testing/RecordingHost.hpp"
 #include "Views/Screen/ViewController.hpp"
 
 namespace quillet::testing {

@@ -1,7 +1,7 @@
 #include "Checkout/Inputs/ResultFactories.hpp"
 #include "KelCommon/KelAnalyticsManager.hpp"
 #include "Platform/Screens/NavigationController.hpp"
-#include "Support/FakeHost.hpp"
+#include "Quillet/Testing/RecordingHost.hpp"
 #include "Support/Stage.hpp"
 #include "Views/QuilletViews.hpp"
 
@@ -60,7 +60,7 @@ struct ResultScreen : ::testing::Test {
 
     void show(const std::vector<Product>& products) {
         const auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
-            std::make_unique<LoggingDisplayer>(log), std::make_shared<FakeAnalytics>(log));
+            std::make_unique<LoggingDisplayer>(log), std::make_shared<RecordingAnalytics>(log));
         screen->setView(ProductsPartiallyAddedFactory({}).view({"05", 1, 1, 1, products, products}, *screen));
         screen->setNavigationDelegate(host);
         ASSERT_TRUE(platform::NavigationController::of(stage.stack()).push(screen));
@@ -68,7 +68,7 @@ struct ResultScreen : ::testing::Test {
     }
 
     Log log = makeLog();
-    std::shared_ptr<FakeNavigation> host = std::make_shared<FakeNavigation>(log);
+    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(log);
     Stage stage;
 };
 

@@ -1,7 +1,7 @@
 #include "Checkout/Status/ShippingStatusProductsView.hpp"
 
 #include "KelDS/KelAppearance.hpp"
-#include "Support/FakeHost.hpp"
+#include "Quillet/Testing/RecordingHost.hpp"
 #include "Support/HandDrivenAnimating.hpp"
 
 #include <QAbstractItemModelTester>

@@ -1,7 +1,7 @@
 #include "Network/Token/HmacSha256Scrivener.hpp"
 #include "Network/Token/JWTCreator.hpp"
 #include "Quillet/Quillet.hpp"
-#include "Support/FakeHost.hpp"
+#include "Quillet/Testing/RecordingHost.hpp"
 
 #include <gtest/gtest.h>
 
@@ -48,8 +48,8 @@ TEST(Starter, FailsForAnAccessTokenThatIsNotUtf8) {
 
 TEST(Starter, MakesANewScreenEachTimeAndKeepsNoHostAlive) {
     const auto log = makeLog();
-    auto host = std::make_shared<FakeNavigation>(log);
-    const std::weak_ptr<FakeNavigation> watched = host;
+    auto host = std::make_shared<RecordingNavigation>(log);
+    const std::weak_ptr<RecordingNavigation> watched = host;
     const auto starter = start("token", host);
     const auto first = starter->createRootViewController();
     const auto second = starter->createRootViewController();

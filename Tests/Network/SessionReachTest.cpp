@@ -105,7 +105,7 @@ struct ServerFoundLate {
 TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
     // The session must not free this last: its detached thread could do so while OpenSSL's exit handlers run.
     ServerFoundLate late;
-    const auto clock = std::make_shared<testing::VirtualClock>();
+    const auto clock = std::make_shared<testing::ManualClock>();
     const auto observer = std::make_shared<BeginningsCounter>();
     testing::CallRecorder calls;
     const platform::URLSession session(

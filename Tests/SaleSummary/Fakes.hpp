@@ -1,10 +1,10 @@
 #pragma once
 
 #include "Quillet/Errors.hpp"
+#include "Quillet/Testing/RecordingHost.hpp"
 #include "SaleSummary/Screen/SaleSummaryView.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModelDelegate.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModeling.hpp"
-#include "Support/FakeHost.hpp"
 
 namespace quillet::testing {
 

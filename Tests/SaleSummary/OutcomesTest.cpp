@@ -73,7 +73,7 @@ std::vector<Outcome> outcomes() {
 struct SaleSummaryOutcomes : ::testing::TestWithParam<Outcome> {
     void show() {
         const auto useCases = SaleSummaryUseCaseFactory().createAllUseCases(
-            {screen, shared(GetParam().association), nullptr, std::make_shared<FakeAnalytics>(log)});
+            {screen, shared(GetParam().association), nullptr, std::make_shared<RecordingAnalytics>(log)});
         const auto& chosen =
             *std::ranges::find_if(useCases, [](const auto& useCase) { return useCase->canShowContent(); });
         chosen->showContent();
@@ -100,7 +100,7 @@ struct SaleSummaryOutcomes : ::testing::TestWithParam<Outcome> {
     }
 
     Log log = makeLog();
-    std::shared_ptr<FakeNavigation> host = std::make_shared<FakeNavigation>(log);
+    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(log);
     std::shared_ptr<FakeSaleSummaryScreen> screen = std::make_shared<FakeSaleSummaryScreen>(log, host);
 };
 

@@ -33,7 +33,7 @@ OpenOrdersResult openOrders(std::vector<Order> orders, std::optional<Cycle> cycl
 SaleSummaryPresenter present(const OrderResponse& response, std::optional<OpenOrdersResult> open) {
     return SaleSummarySuccessUseCase({}, shared(OrderResult{response, {}, 200}),
                                      open ? shared(*std::move(open)) : nullptr,
-                                     std::make_shared<FakeAnalytics>(makeLog()))
+                                     std::make_shared<RecordingAnalytics>(makeLog()))
         .createPresenter(response.order);
 }
 

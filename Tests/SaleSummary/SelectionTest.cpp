@@ -57,11 +57,11 @@ TEST(SaleSummarySelection, IsDecidedByTheAssociationAlone) {
     for (const auto& [name, association, chosen] : cases) {
         SCOPED_TRACE(name);
         for (const OpenOrdersResult& open : openOrders) {
-            const auto useCases =
-                SaleSummaryUseCaseFactory().createAllUseCases({{},
-                                                               association ? shared(*association) : nullptr,
-                                                               shared(open),
-                                                               std::make_shared<FakeAnalytics>(makeLog())});
+            const auto useCases = SaleSummaryUseCaseFactory().createAllUseCases(
+                {{},
+                 association ? shared(*association) : nullptr,
+                 shared(open),
+                 std::make_shared<RecordingAnalytics>(makeLog())});
             ASSERT_EQ(useCases.size(), 6u);
             const auto first = std::ranges::find_if(
                 useCases, &SaleSummaryUseCase::canShowContent,

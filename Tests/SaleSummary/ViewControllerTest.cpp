@@ -109,7 +109,7 @@ TEST_F(SaleSummaryViewControllerTest, TakesEverythingBehindItAlongInTheMiddleOfI
                                                           "cart", 1, std::make_unique<DrainedQueue>(queue));
     auto openOrdersWorker = std::make_shared<GetOpenOrdersWorker>(
         std::make_unique<FakeOpenOrdersService>(openOrders), std::make_unique<DrainedQueue>(queue));
-    auto viewModel = std::make_shared<SaleSummaryViewModel>(std::make_shared<FakeAnalytics>(log),
+    auto viewModel = std::make_shared<SaleSummaryViewModel>(std::make_shared<RecordingAnalytics>(log),
                                                             associateWorker, openOrdersWorker,
                                                             std::make_unique<SaleSummaryUseCaseFactory>());
     associateWorker->setDelegate(viewModel);

@@ -1,3 +1,4 @@
+#include "SaleSummary/FakeExecutable.hpp"
 #include "SaleSummary/Fakes.hpp"
 #include "SaleSummary/ViewModel/SaleSummaryViewModel.hpp"
 
@@ -52,7 +53,7 @@ struct SaleSummaryViewModelTest : ::testing::Test {
     std::shared_ptr<FakeExecutable> orders = std::make_shared<FakeExecutable>(log, "open orders");
     std::shared_ptr<FakeSaleSummaryScreen> screen = std::make_shared<FakeSaleSummaryScreen>(log);
     std::vector<SaleSummaryUseCaseFactoryInput> inputs;
-    SaleSummaryViewModel viewModel{std::make_shared<FakeAnalytics>(log), associate, orders,
+    SaleSummaryViewModel viewModel{std::make_shared<RecordingAnalytics>(log), associate, orders,
                                    std::make_unique<FakeUseCases>(log, inputs)};
 
     void finishFirstPass() {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Quillet/Platform/URLSessionConfiguration.hpp"
+#include "Quillet/Testing/ManualClock.hpp"
 #include "Support/FaultServer.hpp"
 #include "Support/Recorder.hpp"
-#include "Support/VirtualClock.hpp"
 
 namespace quillet::testing {
 
@@ -13,7 +13,7 @@ inline constexpr auto gatewayHost = "gateway.test";
 struct SandboxedSession {
     TestAuthority authority;
     FaultServer server{authority.serverContext(gatewayHost)};
-    std::shared_ptr<VirtualClock> clock = std::make_shared<VirtualClock>();
+    std::shared_ptr<ManualClock> clock = std::make_shared<ManualClock>();
     platform::URLSessionConfiguration configuration{
         .caBundleFile = authority.bundleFile(),
         .hostMappings = {{.host = gatewayHost, .address = "127.0.0.1", .port = server.port()}},

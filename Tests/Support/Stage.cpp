@@ -13,7 +13,7 @@ namespace quillet::testing {
 
 namespace {
 
-constexpr auto host = R"(
+constexpr auto usualHost = R"(
     import QtQuick
     import QtQuick.Controls.Basic
     ApplicationWindow {
@@ -89,11 +89,11 @@ bool turnUntil(const std::function<bool()>& condition) {
     return true;
 }
 
-Stage::Stage() : engine_(std::make_unique<QQmlEngine>()) {
+Stage::Stage(const char* host) : engine_(std::make_unique<QQmlEngine>()) {
     collected().clear();
     previousHandler = qInstallMessageHandler(collect);
     QQmlComponent component(engine_.get());
-    component.setData(host, QUrl());
+    component.setData(host ? host : usualHost, QUrl());
     window_.reset(qobject_cast<QQuickWindow*>(component.create()));
     if (!window_) {
         throw std::runtime_error(component.errorString().toStdString());

@@ -19,13 +19,15 @@ namespace quillet::testing {
 /// A host's window with a bar and a StackView below it, and the warnings of QML meanwhile.
 class Stage {
 public:
-    Stage();
+    /// `host` is the QML of another host's window, with a `stack` and a `bar` among its properties.
+    explicit Stage(const char* host = nullptr);
     ~Stage();
     Stage(const Stage&) = delete;
     Stage& operator=(const Stage&) = delete;
 
     [[nodiscard]] QQuickItem& stack() const;
     [[nodiscard]] QQuickItem& bar() const;
+    [[nodiscard]] QQuickWindow& window() const { return *window_; }
     [[nodiscard]] int depth() const { return stack().property("depth").toInt(); }
     /// The number of clicks on the bar.
     [[nodiscard]] int barClicks() const { return bar().property("clicks").toInt(); }

@@ -1,5 +1,5 @@
 #include "Views/Dialogs/Dialog.hpp"
-#include "Support/FakeHost.hpp"
+#include "Quillet/Testing/RecordingHost.hpp"
 #include "Support/HandDrivenAnimating.hpp"
 #include "Support/Stage.hpp"
 

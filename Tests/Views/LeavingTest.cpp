@@ -2,7 +2,7 @@
 #include "KelCommon/KelAnalyticsManager.hpp"
 #include "Models/Bodies.hpp"
 #include "Quillet/Quillet.hpp"
-#include "Support/FakeHost.hpp"
+#include "Quillet/Testing/RecordingHost.hpp"
 #include "Support/FaultServer.hpp"
 #include "Support/Stage.hpp"
 #include "Views/Animation/ViewAnimating.hpp"
@@ -82,7 +82,7 @@ std::vector<Case> cases() {
 
 struct Leaving : ::testing::TestWithParam<Case> {
     Leaving() {
-        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<FakeAnalytics>(log));
+        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<RecordingAnalytics>(log));
         platform::URLSessionConfiguration::setDefaultConfiguration(
             {.caBundleFile = authority.bundleFile(),
              .hostMappings = {{.host = gateway, .address = "127.0.0.1", .port = server.port()}},
@@ -129,7 +129,7 @@ struct Leaving : ::testing::TestWithParam<Case> {
     }
 
     Log log = makeLog();
-    std::shared_ptr<FakeNavigation> host = std::make_shared<FakeNavigation>(log);
+    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(log);
     std::string gateway = Starter::create("", "", {}, nullptr)->domainUrl();
     TestAuthority authority;
     FaultServer server{authority.serverContext(gateway)};

@@ -2,7 +2,7 @@
 #include "KelCommon/KelAnalyticsManager.hpp"
 #include "Platform/Screens/NavigationController.hpp"
 #include "Quillet/Quillet.hpp"
-#include "Support/FakeHost.hpp"
+#include "Quillet/Testing/RecordingHost.hpp"
 #include "Support/FakeNetworkPath.hpp"
 #include "Support/SilentPort.hpp"
 #include "Support/Stage.hpp"
@@ -24,7 +24,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 struct PresentTest : ::testing::Test {
-    PresentTest() { kel::KelAnalyticsManager::shared()->setSink(std::make_shared<FakeAnalytics>(log)); }
+    PresentTest() { kel::KelAnalyticsManager::shared()->setSink(std::make_shared<RecordingAnalytics>(log)); }
     ~PresentTest() override {
         kel::KelAnalyticsManager::shared()->setSink(nullptr);
         platform::URLSessionConfiguration::setDefaultConfiguration({});
@@ -67,7 +67,7 @@ struct PresentTest : ::testing::Test {
     [[nodiscard]] bool settled() const { return !stage->stack().property("busy").toBool(); }
 
     Log log = makeLog();
-    std::shared_ptr<FakeNavigation> host = std::make_shared<FakeNavigation>(log);
+    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(log);
     std::unique_ptr<Stage> stage = std::make_unique<Stage>();
 };
 

@@ -1,9 +1,9 @@
 #include "Models/Bodies.hpp"
 #include "Quillet/Platform/MainQueue.hpp"
 #include "Quillet/Platform/URLSessionConfiguration.hpp"
+#include "Quillet/Testing/ManualClock.hpp"
 #include "Support/FailingAllocations.hpp"
 #include "Support/FaultServer.hpp"
-#include "Support/VirtualClock.hpp"
 #include "Workers/AssociateConsultantToCartWorker.hpp"
 
 #include <curl/curl.h>
@@ -89,7 +89,7 @@ public:
     }
 
     testing::FaultServer server;
-    std::shared_ptr<testing::VirtualClock> clock = std::make_shared<testing::VirtualClock>();
+    std::shared_ptr<testing::ManualClock> clock = std::make_shared<testing::ManualClock>();
     std::counting_semaphore<> waiting{0};
     std::shared_ptr<CountingDelegate> delegate = std::make_shared<CountingDelegate>();
     std::shared_ptr<AssociateConsultantToCartWorker> worker;

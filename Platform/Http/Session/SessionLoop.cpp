@@ -8,7 +8,6 @@
 #include "Platform/Http/SystemSessionClock.hpp"
 
 #include <algorithm>
-#include <atomic>
 #include <new>
 #include <system_error>
 #include <thread>
@@ -17,8 +16,6 @@
 namespace quillet::platform {
 
 namespace {
-
-std::atomic<std::uint64_t> exchangeCount = 0;
 
 constexpr std::chrono::hours longestTimeout(24);
 
@@ -42,12 +39,15 @@ SessionLoop::SessionLoop(URLSessionConfiguration configuration)
 }
 
 void SessionLoop::start(URLSessionExchange exchange) {
+    if (configuration_.loader) {
+        startElsewhere(std::move(exchange));
+        return;
+    }
     const auto now = configuration_.clock->now();
     const auto deadline =
         now + std::min<std::chrono::milliseconds>(exchange.request.timeoutInterval, longestTimeout);
     Calls call;
-    call.push_back(
-        {.exchange = std::move(exchange), .number = ++exchangeCount, .start = now, .deadline = deadline});
+    call.push_back({.exchange = std::move(exchange), .report = CallReport(now), .deadline = deadline});
     {
         const std::lock_guard lock(mutex_);
         if (multi_ || startThread()) {
@@ -58,6 +58,18 @@ void SessionLoop::start(URLSessionExchange exchange) {
     }
     call.front().exchange.completionHandler(
         {}, {}, URLError::of(URLError::Code::unknown, "No thread for the session"));
+}
+
+void SessionLoop::startElsewhere(URLSessionExchange exchange) {
+    const CallReport report(configuration_.clock->now());
+    report.willSend(configuration_, exchange.request);
+    // The loader may end the call after the session.
+    configuration_.loader->load(exchange.request, [self = shared_from_this(), report,
+                                                   exchange](auto data, auto response, auto error) {
+        URLSessionOutcome outcome{std::move(data), response, std::move(error)};
+        report.didEnd(self->configuration_, exchange.request, outcome);
+        exchange.completionHandler(std::move(outcome.data), outcome.response, std::move(outcome.error));
+    });
 }
 
 bool SessionLoop::startThread() {
@@ -103,17 +115,6 @@ void SessionLoop::withoutLock(Callback callback) {
     callback();
 }
 
-template <typename Tell>
-void SessionLoop::tellObserver(Tell tell) {
-    if (configuration_.observer) {
-        try {
-            withoutLock([&] { tell(*configuration_.observer); });
-        } catch (...) {
-            // An observer's exception must not affect the call.
-        }
-    }
-}
-
 void SessionLoop::run() noexcept {
     leaveSignalsToTheHost();
     work_ = ProcessEnd::lock();
@@ -142,7 +143,7 @@ void SessionLoop::beginArrivedCalls() {
     while (!arrived.empty()) {
         const auto call = arrived.begin();
         running_.splice(running_.end(), arrived, call);
-        tellObserver([&](auto& observer) { observer.willSend(call->number, call->exchange.request); });
+        withoutLock([&] { call->report.willSend(configuration_, call->exchange.request); });
         begin(call);
     }
 }
@@ -248,15 +249,8 @@ void SessionLoop::finish(Calls::iterator call, URLSessionOutcome outcome) {
     Calls finished;
     finished.splice(finished.end(), running_, call);
     endTransfer(*call);
-    tellObserver([&](auto& observer) {
-        URLSessionExchangeEnd end;
-        end.statusCode = outcome.response ? outcome.response->statusCode : 0;
-        end.errorCode = outcome.error ? std::optional(outcome.error->code) : std::nullopt;
-        end.duration =
-            std::chrono::duration_cast<std::chrono::milliseconds>(configuration_.clock->now() - call->start);
-        observer.didEnd(call->number, call->exchange.request, end);
-    });
     withoutLock([&] {
+        call->report.didEnd(configuration_, call->exchange.request, outcome);
         auto completionHandler = std::move(call->exchange.completionHandler);
         completionHandler(std::move(outcome.data), outcome.response, std::move(outcome.error));
     });

@@ -2,11 +2,11 @@
 
 #include "Platform/Http/Curl/CurlTransfer.hpp"
 #include "Platform/Http/Process/ProcessEnd.hpp"
+#include "Platform/Http/Session/CallReport.hpp"
 #include "Platform/Http/URLSessionExchange.hpp"
 #include "Quillet/Platform/URLSessionConfiguration.hpp"
 
 #include <chrono>
-#include <cstdint>
 #include <list>
 #include <memory>
 #include <mutex>
@@ -36,8 +36,7 @@ private:
 
     struct Call {
         URLSessionExchange exchange;
-        std::uint64_t number;
-        TimePoint start;
+        CallReport report;
         TimePoint deadline;
         std::unique_ptr<CurlTransfer> transfer = nullptr;
     };
@@ -45,6 +44,7 @@ private:
     // nor allocates.
     using Calls = std::list<Call>;
 
+    void startElsewhere(URLSessionExchange exchange);
     bool startThread();
     void wakeUp();
 
@@ -62,8 +62,6 @@ private:
     [[nodiscard]] bool isNetworkThere(const Call& call);
     template <typename Callback>
     void withoutLock(Callback callback);
-    template <typename Tell>
-    void tellObserver(Tell tell);
     [[nodiscard]] int millisecondsToSleep() const;
     [[nodiscard]] bool endIfDone();
 

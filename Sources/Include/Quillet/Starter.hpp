@@ -75,11 +75,14 @@ private:
 };
 
 /// Pushes a screen of the module on a host's StackView, which owns it from then on: popping it ends it at
-/// once and frees everything behind it once its animation is over. A screen is presented once. Overlays cover
-/// the item in which the host keeps the StackView (the nearest that is no layout), so the bar belongs in
-/// there as well. The host's bar binds to `title` and `hidesBackButton` of the current item's
-/// `viewController`. Returns false, with the reason in the log, if the screen could not be shown. Main thread
-/// only.
-QUILLET_API bool present(const std::shared_ptr<platform::QuickViewController>& screen, QQuickItem& stackView);
+/// once and frees everything behind it once its animation is over. A screen is presented once.
+///
+/// Overlays cover `coverArea`, which must hold the StackView. If it is null they cover the item in which the
+/// host keeps the StackView (the nearest that is no layout), and an ApplicationWindow's header and footer; so
+/// a host's bar belongs in there. They cover the StackView alone if another visible one is in there too. The
+/// host's bar binds to `title` and `hidesBackButton` of the current item's `viewController`. Returns false,
+/// with the reason in the log, if the screen could not be shown. Main thread only.
+QUILLET_API bool present(const std::shared_ptr<platform::QuickViewController>& screen, QQuickItem& stackView,
+                         QQuickItem* coverArea = nullptr);
 
 } // namespace quillet

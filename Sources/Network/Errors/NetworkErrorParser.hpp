@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Network/Errors/HttpErrorThrowable.hpp"
-#include "Platform/Http/HTTPURLResponse.hpp"
+#include "Quillet/Platform/URLLoading.hpp"
 
 #include <memory>
 

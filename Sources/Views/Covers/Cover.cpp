@@ -33,9 +33,15 @@ Cover::~Cover() {
 
 bool Cover::isOver(const QQuickItem& item) {
     return std::ranges::any_of(covers(), [&](const Cover* cover) {
-        return cover->window() && cover->window() == item.window() && cover->isVisible() &&
+        return cover->isVisible() && cover->area() && cover->area()->isAncestorOf(&item) &&
                !cover->isAncestorOf(&item);
     });
+}
+
+const QQuickItem* Cover::area() const {
+    const QQuickItem* parent = parentItem();
+    const bool isLoaded = parent && parent->metaObject()->indexOfProperty("sourceComponent") >= 0;
+    return isLoaded ? parent->parentItem() : parent;
 }
 
 void Cover::componentComplete() {
@@ -46,6 +52,9 @@ void Cover::componentComplete() {
 // Not done in QML, because a Loader removes its item without a signal in the item's QML.
 void Cover::itemChange(ItemChange change, const ItemChangeData& data) {
     if (change == ItemSceneChange && data.window && isComponentComplete()) {
+        takeKeys();
+    }
+    if (change == ItemVisibleHasChanged && data.boolValue && isComponentComplete()) {
         takeKeys();
     }
     if ((change == ItemSceneChange && !data.window) || (change == ItemVisibleHasChanged && !data.boolValue)) {
@@ -72,9 +81,15 @@ void Cover::wheelEvent(QWheelEvent* event) {
 }
 
 void Cover::takeKeys() {
-    if (window() && !hasTakenKeys_) {
+    if (!window() || !isVisible() || hasTakenKeys_) {
+        return;
+    }
+    QQuickItem* const focus = window()->activeFocusItem();
+    const bool isElsewhere =
+        focus && area() && focus != area() && !area()->isAncestorOf(focus) && !focus->isAncestorOf(area());
+    if (!isElsewhere) {
         hasTakenKeys_ = true;
-        previous_ = window()->activeFocusItem();
+        previous_ = focus;
         forceActiveFocus();
     }
 }

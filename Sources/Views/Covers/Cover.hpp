@@ -7,8 +7,9 @@
 namespace quillet {
 
 /// A modal overlay: it blocks touch, keyboard and screen reader for what it covers. It is a focus scope that
-/// takes the active focus when it enters a window, and restores the previous focus when it is hidden or
-/// removed. Its children draw it. Main thread only.
+/// takes the active focus when it appears in a window, unless the focus is outside of what it covers, and
+/// restores the previous focus when it is hidden or removed. It covers its parent, or the parent of the
+/// Loader that makes it. Its children draw it. Main thread only.
 class Cover : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -17,7 +18,7 @@ public:
     explicit Cover(QQuickItem* parent = nullptr);
     ~Cover() override;
 
-    /// Whether a cover of the item's window lies over the item.
+    /// Whether a cover lies over the item: over the area that the item is in, and not around it.
     [[nodiscard]] static bool isOver(const QQuickItem& item);
 
 protected:
@@ -29,6 +30,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    [[nodiscard]] const QQuickItem* area() const;
     void takeKeys();
     void giveKeysBack();
 

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "Quillet/Export.hpp"
-#include "Quillet/Platform/URLError.hpp"
-#include "Quillet/Platform/URLRequest.hpp"
+#include "Quillet/Platform/URLLoading.hpp"
 
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -74,6 +74,24 @@ public:
                         const URLSessionExchangeEnd& end) = 0;
 };
 
+/// One call that has ended, for a log. It holds neither the token nor a body.
+struct LoggedCall {
+    std::string method;
+    /// Path and query as sent. They hold the cart's identifier, the country and the consultant's code.
+    std::string path;
+    /// Of a complete answer; 0 where there is none.
+    std::int64_t statusCode = 0;
+    /// From the start of the call, by the session's clock.
+    std::chrono::milliseconds duration{0};
+    /// After unpacking.
+    std::size_t bodyBytes = 0;
+    /// Absent for a complete answer, whatever its status.
+    std::optional<URLError> error;
+};
+
+/// One line: "GET /path 200, 1234 bytes, 56 ms" or "GET /path failed: why, 56 ms".
+[[nodiscard]] QUILLET_BACKEND_API std::string description(const LoggedCall& call);
+
 /// Sends the calls for a host to another address. Names and certificates are still those of the host. Proxies
 /// of the environment do not apply to a mapped host.
 struct HostMapping {
@@ -98,6 +116,11 @@ struct URLSessionConfiguration {
     std::shared_ptr<SessionClock> clock = nullptr;
     /// Null for nobody.
     std::shared_ptr<URLSessionObserving> observer = nullptr;
+    /// Called when a call has ended, just before its completion; no function for no log. On the sessions'
+    /// threads, possibly concurrently; must return quickly. Exceptions that it throws are dropped.
+    std::function<void(const LoggedCall&)> log = nullptr;
+    /// Answers all calls in place of the network. Null for the network, by HTTPS.
+    std::shared_ptr<URLLoading> loader = nullptr;
     /// The largest body that is taken, in bytes after unpacking; a larger one ends the call with an error. 16
     /// MiB is nearly twice a list of two thousand orders of twelve lines each. Decoding may take several
     /// times as much memory, which a phone must have.

@@ -10,8 +10,8 @@
 
 namespace quillet::testing {
 
-/// A clock that only the test advances.
-class VirtualClock final : public platform::SessionClock {
+/// A clock that only the test advances. Threads: any.
+class ManualClock final : public platform::SessionClock {
 public:
     [[nodiscard]] std::chrono::steady_clock::time_point now() const override {
         const std::lock_guard lock(mutex_);

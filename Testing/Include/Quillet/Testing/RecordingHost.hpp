@@ -1,10 +1,9 @@
 #pragma once
 
-#include "KelCommon/KelAnalytics.hpp"
 #include "Quillet/QuilletNavigationDelegate.hpp"
-#include "Quillet/Workers.hpp"
 
-#include <functional>
+#include <KelCommon/KelAnalytics.hpp>
+
 #include <memory>
 #include <string>
 #include <utility>
@@ -12,7 +11,7 @@
 
 namespace quillet::testing {
 
-/// What happened around the unit under test, in order, over all fakes that share this log.
+/// What happened around the module or a part of it, in order, over all recorders that share this log.
 using Log = std::shared_ptr<std::vector<std::string>>;
 
 inline Log makeLog() {
@@ -29,9 +28,10 @@ inline std::string event(const std::string& action, const std::string& label) {
     return "event Quillet - SellOutIntegration / " + action + " / " + label;
 }
 
-class FakeAnalytics final : public kel::KelAnalyticsManagerType {
+/// An analytics manager that records "screen <name>" and the lines of `event`. Main thread only.
+class RecordingAnalytics final : public kel::KelAnalyticsManagerType {
 public:
-    explicit FakeAnalytics(Log log) : log_(std::move(log)) {}
+    explicit RecordingAnalytics(Log log) : log_(std::move(log)) {}
     void trackScreen(const kel::KelAnalyticsScreenType& screen) override {
         log_->push_back("screen " + screen.name());
     }
@@ -47,29 +47,16 @@ private:
     Log log_;
 };
 
-class FakeNavigation final : public QuilletNavigationDelegate {
+/// A host that records the names of the functions that the module calls. Main thread only.
+class RecordingNavigation final : public QuilletNavigationDelegate {
 public:
-    explicit FakeNavigation(Log log) : log_(std::move(log)) {}
+    explicit RecordingNavigation(Log log) : log_(std::move(log)) {}
     void navigateToCart() override { log_->push_back("navigateToCart"); }
     void navigateToHome() override { log_->push_back("navigateToHome"); }
     void navigateToShareMagazine() override { log_->push_back("navigateToShareMagazine"); }
 
 private:
     Log log_;
-};
-
-/// A worker that records each run and answers only when the test does.
-class FakeExecutable final : public Executable {
-public:
-    FakeExecutable(Log log, std::string name) : log_(std::move(log)), name_(std::move(name)) {}
-    [[nodiscard]] bool isFinishedSuccessfully() const override { return succeeded; }
-    void execute() override { log_->push_back(name_); }
-
-    bool succeeded = false;
-
-private:
-    Log log_;
-    std::string name_;
 };
 
 } // namespace quillet::testing
