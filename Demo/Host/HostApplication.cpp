@@ -9,20 +9,33 @@
 #include <QQmlContext>
 #include <QQuickItem>
 
+extern void qml_register_types_Demo();
+
 namespace demo {
 
-HostApplication::HostApplication(Journal& journal, LiveStatus& status, const QByteArray& orders)
-    : journal_(journal), status_(status), orders_(QJsonDocument::fromJson(orders).array().toVariantList()) {}
+HostApplication::HostApplication(Journal& journal, LiveStatus& status, PhoneArea& area,
+                                 const QByteArray& orders)
+    : journal_(journal),
+      status_(status),
+      area_(area),
+      orders_(QJsonDocument::fromJson(orders).array().toVariantList()) {}
 
 HostApplication::~HostApplication() = default;
 
-bool HostApplication::load(const std::shared_ptr<HostApplication>& self, bool compact) {
+bool HostApplication::load(const std::shared_ptr<HostApplication>& self) {
     self_ = self;
+    // Naming the function keeps the linker from dropping the registration out of the static library.
+    qml_register_types_Demo();
     kel::useDesignSystem(engine_);
     engine_.setInitialProperties({{QStringLiteral("host"), QVariant::fromValue<QObject*>(this)},
-                                  {QStringLiteral("compact"), compact}});
+                                  {QStringLiteral("area"), QVariant::fromValue(&area_)}});
     engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Demo/Main.qml")));
-    return window() != nullptr;
+    if (!window()) {
+        return false;
+    }
+    area_.arrange(*window());
+    window()->show();
+    return true;
 }
 
 QQuickWindow* HostApplication::window() const {

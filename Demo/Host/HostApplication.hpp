@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PhoneArea.hpp"
 #include "Sandbox/Journal.hpp"
 #include "Sandbox/LiveStatus.hpp"
 #include <Quillet/Quillet.hpp>
@@ -22,15 +23,16 @@ class HostApplication final : public QObject, public quillet::QuilletNavigationD
 
 public:
     /// `orders` are the incoming orders that the home screen lists, as JSON.
-    HostApplication(Journal& journal, LiveStatus& status, const QByteArray& orders);
+    HostApplication(Journal& journal, LiveStatus& status, PhoneArea& area, const QByteArray& orders);
     ~HostApplication() override;
 
-    /// Loads the window: the phone-sized screen alone if `compact`, else with the journal where the display
-    /// has room. False, with the reason on standard error, if its QML does not load.
-    [[nodiscard]] bool load(const std::shared_ptr<HostApplication>& self, bool compact);
+    /// Loads and shows the window, as large as its phone-sized area asks for. False, with the reason on
+    /// standard error, if its QML does not load.
+    [[nodiscard]] bool load(const std::shared_ptr<HostApplication>& self);
     [[nodiscard]] QQuickWindow* window() const;
-    /// The phone-sized part of the window.
+    /// The phone-sized part of the window, and what decides about its size.
     [[nodiscard]] QQuickItem* phone() const;
+    [[nodiscard]] PhoneArea& area() const { return area_; }
 
     struct Order {
         quillet::CartForConsultant cart;
@@ -62,6 +64,7 @@ private:
 
     Journal& journal_;
     LiveStatus& status_;
+    PhoneArea& area_;
     QVariantList orders_;
     std::weak_ptr<HostApplication> self_;
     QQmlApplicationEngine engine_;

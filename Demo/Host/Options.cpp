@@ -79,8 +79,11 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
     const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Use the dark theme."));
     const QCommandLineOption reducedMotion(QStringLiteral("reduced-motion"),
                                            QStringLiteral("Let nothing move but fade."));
+    const QCommandLineOption size(QStringLiteral("size"),
+                                  QStringLiteral("Size of the phone-sized area: ") + phoneSizeRule(),
+                                  QStringLiteral("WxH"));
     parser.addOptions({help, tour, play, out, controls, gateway, ca, port, reset, data, program, language,
-                       dark, reducedMotion});
+                       dark, reducedMotion, size});
 
     if (!parser.parse(arguments)) {
         return std::unexpected(parser.errorText());
@@ -113,6 +116,17 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
             return std::unexpected(QStringLiteral("not a port: ") + parser.value(port));
         }
         options.port = *number;
+    }
+    if (parser.isSet(size)) {
+        const auto measured = parsePhoneSize(parser.value(size));
+        if (!measured) {
+            return std::unexpected(
+                QStringLiteral("--size is %1, not %2").arg(phoneSizeRule(), parser.value(size)));
+        }
+        if (parser.isSet(controls)) {
+            return std::unexpected(QStringLiteral("--size does not go with --controls"));
+        }
+        options.size = *measured;
     }
     if (parser.isSet(tour)) {
         options.mode = Options::Mode::tour;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PhoneSize.hpp"
+
 #include <QString>
 #include <QStringList>
 
@@ -30,6 +32,8 @@ struct Options {
     QString language;
     bool dark = false;
     bool reducedMotion = false;
+    /// Of the phone-sized area, at the start and at the start of each play.
+    QSize size = usualPhoneSize;
 };
 
 /// Reads the arguments. The error is one line for a person; an empty one means that help was asked for and

@@ -120,8 +120,9 @@ int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& p
     // In interactive use the system's network path is used.
     const auto network = inWindow ? nullptr : std::make_shared<demo::NetworkSwitch>(address);
     demo::configurePlatform(network ? network->address() : address, journal, network);
-    const auto host = std::make_shared<demo::HostApplication>(*journal, status, orders);
-    if (!host->load(host, !inWindow)) {
+    demo::PhoneArea area(options.size, inWindow);
+    const auto host = std::make_shared<demo::HostApplication>(*journal, status, area, orders);
+    if (!host->load(host)) {
         return complain(QStringLiteral("the window does not load"), failed);
     }
     if (inWindow) {

@@ -34,6 +34,13 @@ TEST(Options, RefuseEachWrongCombinationInOneLine) {
         {{"--play", "a", "--out", "d", "--gateway", "h:1", "--ca", ca}, "no certificate in the CA file"},
         {{"--port", "65536"}, "not a port: 65536"},
         {{"--language", "fi"}, "--language is es, pt or en, not fi"},
+        {{"--size", "390"}, "--size is WxH, each from 320 to 1280, not 390"},
+        {{"--size", "319x568"}, "--size is WxH, each from 320 to 1280, not 319x568"},
+        {{"--size", "390x1281"}, "--size is WxH"},
+        {{"--size", "4294967616x568"}, "--size is WxH"},
+        {{"--size", "-390x844"}, "--size is WxH"},
+        {{"--size", "390x844\n"}, "--size is WxH"},
+        {{"--controls", "c", "--size", "320x568"}, "--size does not go with --controls"},
         {{"stray"}, "not understood: stray"},
     };
     for (const auto& [arguments, complaint] : cases) {
@@ -60,6 +67,8 @@ TEST(Options, TakeAServerByNameOrAddress) {
         EXPECT_EQ(options->caFile, ca);
     }
     EXPECT_EQ(parseOptions({"quillet-host"})->mode, Options::Mode::window);
+    EXPECT_EQ(parseOptions({"quillet-host"})->size, QSize(390, 844));
+    EXPECT_EQ(parseOptions({"quillet-host", "--tour", "d", "--size", "320x1280"})->size, QSize(320, 1280));
     EXPECT_EQ(parseOptions({"quillet-host", "--tour", "d"})->outFolder, "d");
     EXPECT_EQ(parseOptions({"quillet-host", "--controls", "c", "--dark"})->controlsFile, "c");
 }

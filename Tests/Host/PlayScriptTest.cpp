@@ -34,6 +34,9 @@ QString told(const Step& step) {
         QString operator()(const steps::Back&) const { return "back"; }
         QString operator()(const steps::Shot& s) const { return "shot " + s.name; }
         QString operator()(const steps::Network& s) const { return s.on ? "network on" : "network off"; }
+        QString operator()(const steps::Size& s) const {
+            return QStringLiteral("size %1 %2").arg(s.size.width()).arg(s.size.height());
+        }
     };
     return std::visit(Teller(), step);
 }
@@ -69,6 +72,8 @@ TEST(PlayScript, ReadsEachKindOfStep) {
         {"back\r", "back"},
         {"shot 01-a.b_c", "shot 01-a.b_c"},
         {"network off", "network off"},
+        {"size 320x568", "size 320 568"},
+        {"size 1280x1280", "size 1280 1280"},
     };
     for (const auto& [line, expected] : lines) {
         SCOPED_TRACE(line.toStdString());
@@ -97,6 +102,10 @@ TEST(PlayScript, NamesTheLineAndWhatIsWrongWithIt) {
         {"scroll up", "scroll takes end or start"},
         {"shot ../a", "shot takes a name"},
         {"network maybe", "network takes on or off"},
+        {"size", "size takes WxH, each from 320 to 1280"},
+        {"size 320 568", "size takes WxH"},
+        {"size 1281x800", "size takes WxH"},
+        {"size 320x568px", "size takes WxH"},
         {"handmade 422", "handmade takes "},
         {"language fi", "language takes "},
         {"open cart=a consultant=1 country=CL colour=red", "open takes cart=UUID"},

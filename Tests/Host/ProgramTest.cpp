@@ -1,4 +1,5 @@
 #include <QFile>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -90,6 +91,31 @@ TEST_F(Program, ReportsAPlayWithItsTrafficAnalyticsAndNavigation) {
     EXPECT_EQ(analytics, (QStringList{"Pedidos de mis clientes", "Deep Linking", "Close",
                                       "Send Orders to Cart - Click", "Feedback de produtos", "Go to Cart"}));
     EXPECT_EQ(told["navigation"].toArray(), QJsonArray{"navigateToCart"});
+}
+
+TEST_F(Program, ShowsTheModuleAtEverySizeThatAPlayAsksFor) {
+    ASSERT_EQ(play("shot asked\n"
+                   "open cart=41053a00-52e1-4d0b-9c77-1f0a6b2e8453 consultant=41053 country=CL\n"
+                   "close-icon\n"
+                   "size 1280x800\n"
+                   "expect \"Enviar productos a mi carrito\"\n"
+                   "shot wide\n"
+                   "size 320x320\n"
+                   // The button is in view only where the page ends.
+                   "absent \"Enviar productos a mi carrito\"\n"
+                   "scroll end\n"
+                   "expect \"Enviar productos a mi carrito\"\n"
+                   "shot small\n",
+                   {"--size", "768x1024"}),
+              0)
+        << complaint.toStdString();
+    const std::pair<QString, QSize> shots[] = {
+        {"asked", {768, 1024}}, {"wide", {1280, 800}}, {"small", {320, 320}}};
+    for (const auto& [name, size] : shots) {
+        SCOPED_TRACE(name.toStdString());
+        // The pictures have two pixels to each of the screen's.
+        EXPECT_EQ(QImage(folder.filePath("out/" + name + ".png")).size(), 2 * size);
+    }
 }
 
 TEST_F(Program, FailsAtTheFirstStepThatIsNotMet) {

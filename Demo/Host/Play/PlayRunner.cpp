@@ -46,12 +46,14 @@ PlayRunner::PlayRunner(HostApplication& host, Journal& journal, NetworkSwitch& n
       journal_(journal),
       network_(network),
       shots_(std::move(shots)),
+      size_(host.area().size()),
       reader_(*host.phone()),
       hands_(*host.window()) {}
 
 QJsonObject PlayRunner::run(const PlayScript& play) {
     journal_.clear();
     network_.setOn(true);
+    host_.area().resize(size_);
     QJsonArray reports;
     bool ok = true;
     for (const PlayLine& line : play.lines) {
@@ -199,6 +201,13 @@ QString PlayRunner::perform(const steps::Shot& step) {
 QString PlayRunner::perform(const steps::Network& step) {
     network_.setOn(step.on);
     return {};
+}
+
+QString PlayRunner::perform(const steps::Size& step) {
+    host_.area().resize(step.size);
+    const bool resized =
+        wait(patience, [&] { return settled() && host_.phone()->size() == QSizeF(step.size); });
+    return resized ? QString() : QStringLiteral("the screen does not take this size");
 }
 
 bool PlayRunner::wait(std::chrono::milliseconds longest, const std::function<bool()>& done,

@@ -42,6 +42,7 @@ private:
     [[nodiscard]] QString perform(const steps::Back& step);
     [[nodiscard]] QString perform(const steps::Shot& step);
     [[nodiscard]] QString perform(const steps::Network& step);
+    [[nodiscard]] QString perform(const steps::Size& step);
 
     /// Waits until `done`, for at most `longest`, checking every `glance`. Returns whether `done` became
     /// true.
@@ -59,6 +60,8 @@ private:
     Journal& journal_;
     NetworkSwitch& network_;
     QString shots_;
+    /// Of the phone-sized area at the start of each play.
+    QSize size_;
     ScreenReader reader_;
     Hands hands_;
     bool hasOpened_ = false;

@@ -1,5 +1,7 @@
 #include "Play/PlayScript.hpp"
 
+#include "PhoneSize.hpp"
+
 #include <QHash>
 #include <QRegularExpression>
 #include <QStringList>
@@ -194,6 +196,12 @@ Parsed parseScroll(const Words& words) {
                 : std::unexpected(QStringLiteral("scroll takes end or start"));
 }
 
+Parsed parseSize(const Words& words) {
+    const auto size = words.size() == 1 ? parsePhoneSize(words.first()) : std::nullopt;
+    return size ? Parsed(steps::Size{*size})
+                : std::unexpected(QStringLiteral("size takes ") + phoneSizeRule());
+}
+
 Parsed parseStep(const QString& line) {
     static const QHash<QString, std::function<Parsed(const Words&)>> parsers{
         {QStringLiteral("open"), parseOpen},
@@ -210,6 +218,7 @@ Parsed parseStep(const QString& line) {
         {QStringLiteral("back"), parseBare<steps::Back>},
         {QStringLiteral("shot"), parseShot},
         {QStringLiteral("network"), parseNetwork},
+        {QStringLiteral("size"), parseSize},
     };
     const auto words = split(line);
     if (!words) {

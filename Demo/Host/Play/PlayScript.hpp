@@ -3,6 +3,7 @@
 #include "HostApplication.hpp"
 #include "Play/Hands.hpp"
 
+#include <QSize>
 #include <QString>
 
 #include <chrono>
@@ -59,12 +60,16 @@ struct Shot {
 struct Network {
     bool on;
 };
+/// Of the phone-sized area.
+struct Size {
+    QSize size;
+};
 
 } // namespace steps
 
 using Step = std::variant<steps::Open, steps::Handmade, steps::Language, steps::Close, steps::Tap,
                           steps::Expect, steps::Absent, steps::Title, steps::Background, steps::CloseIcon,
-                          steps::Scroll, steps::Back, steps::Shot, steps::Network>;
+                          steps::Scroll, steps::Back, steps::Shot, steps::Network, steps::Size>;
 
 /// A step and its source line.
 struct PlayLine {

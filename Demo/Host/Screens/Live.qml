@@ -1,20 +1,18 @@
 import QtQuick
 import KelDS
+import Demo
 
 // What a host's developer wants to see while the module runs.
-Rectangle {
+Ground {
     id: live
 
     required property var journal
     required property var status
+    required property PhoneArea area
     required property bool moduleOpen
 
     // Four requests, as many as most orders need, fit without scrolling.
     readonly property int requestsHeight: KelSizes.mediumX + 4 * KelSizes.medium + KelSpacing.tiny
-
-    // A shade below the module's ground. The dark ground is deep enough for the cards to stand out from it.
-    color: KelColors.hasShadows ? Qt.tint(KelColors.background, KelColors.withAlpha(KelColors.lowEmphasis, KelOpacity.low))
-                                : KelColors.background
 
     KelDivider {
         id: edge
@@ -32,6 +30,7 @@ Rectangle {
 
             width: parent.width
             status: live.status
+            area: live.area
         }
         LiveCard {
             id: requests

@@ -1,11 +1,13 @@
 import QtQuick
 import KelDS
+import Demo
 
-// Whose order the journal is about; at the right where its requests go.
+// Whose order the journal is about; at the right the size of the screen beside it, and where its requests go.
 Item {
     id: header
 
     required property var status
+    required property PhoneArea area
 
     implicitHeight: KelSizes.semiX
 
@@ -35,11 +37,17 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: KelSpacing.tiny
 
+        SizePicker {
+            anchors.verticalCenter: parent.verticalCenter
+            area: header.area
+        }
         KelTag {
+            anchors.verticalCenter: parent.verticalCenter
             text: header.status.environment
             tagColor: KelTagColor.Link
         }
         KelTag {
+            anchors.verticalCenter: parent.verticalCenter
             text: header.status.gateway
             tagColor: header.status.gatewayColor
         }

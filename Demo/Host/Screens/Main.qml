@@ -10,15 +10,10 @@ ApplicationWindow {
     id: window
 
     required property var host
-    // A play shows the phone only; a wide window has room for the journal beside it.
-    required property bool compact
+    required property PhoneArea area
     readonly property alias stack: stack
     readonly property alias phone: phone
-    readonly property bool wide: window.width >= 800
 
-    width: !window.compact && Screen.desktopAvailableWidth >= 1180 ? 1180 : 390
-    height: 844
-    visible: true
     title: "Quillet"
     color: KelColors.background
 
@@ -33,9 +28,9 @@ ApplicationWindow {
     Item {
         id: phone
 
-        width: window.wide ? 390 : parent.width
-        height: parent.height
-        clip: window.wide
+        width: window.area.live ? window.area.width : parent.width
+        height: window.area.live ? window.area.height : parent.height - window.area.strip
+        clip: true
 
         Bar {
             id: bar
@@ -104,6 +99,31 @@ ApplicationWindow {
             }
         }
     }
+    // Below a phone that is not as high as Live.
+    Ground {
+        y: phone.height
+        width: phone.width
+        height: parent.height - y
+        visible: window.area.live
+
+        KelDivider {
+            width: parent.width
+        }
+    }
+    Loader {
+        y: phone.height
+        width: parent.width
+        active: window.area.strip > 0
+        sourceComponent: strip
+    }
+    Component {
+        id: strip
+
+        SizeStrip {
+            height: window.area.strip
+            area: window.area
+        }
+    }
     Component {
         id: page
 
@@ -113,7 +133,7 @@ ApplicationWindow {
         x: phone.width
         width: parent.width - x
         height: parent.height
-        active: window.wide
+        active: window.area.live
         sourceComponent: live
     }
     Component {
@@ -122,6 +142,7 @@ ApplicationWindow {
         Live {
             journal: window.host.journal
             status: window.host.status
+            area: window.area
             moduleOpen: bar.screen !== null
         }
     }

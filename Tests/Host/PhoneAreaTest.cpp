@@ -1,0 +1,53 @@
+#include "PhoneArea.hpp"
+
+#include <gtest/gtest.h>
+
+namespace demo::testing {
+
+TEST(PhoneArea, HasLiveBesideItWhereTheDesktopHasRoom) {
+    constexpr QSize small{1366, 768};
+    constexpr QSize usual{1920, 1080};
+    const struct {
+        QSize phone;
+        QSize desktop;
+        QSize window;
+    } cases[] = {
+        {{390, 844}, usual, {1180, 844}},
+        {{320, 568}, usual, {1110, 844}},
+        {{768, 1024}, usual, {1558, 1024}},
+        {{1280, 800}, usual, {1920, 844}},
+        {{390, 844}, small, {1180, 844}},
+        {{320, 320}, small, {1110, 768}},
+        {{844, 390}, small, {1366, 768}},
+        {{846, 390}, small, {1366, 768}},
+        {{847, 390}, small, {}},
+        {{390, 844}, {}, {}},
+    };
+    for (const auto& [phone, desktop, window] : cases) {
+        SCOPED_TRACE(::testing::Message() << phone.width() << " on " << desktop.width());
+        const WindowLayout layout = windowBesideLive(phone, usualLiveSize, desktop);
+        EXPECT_EQ(layout.live, window.isValid());
+        EXPECT_EQ(layout.window, window);
+    }
+}
+
+TEST(PhoneArea, SizesItsWindowAndFollowsIt) {
+    QWindow window;
+    PhoneArea area({390, 844}, true);
+    area.arrange(window);
+    EXPECT_FALSE(area.hasLive());
+    EXPECT_EQ(window.size(), QSize(390, 844 + sizeStripHeight));
+    EXPECT_EQ(area.choice(), 1);
+
+    area.choose(3);
+    EXPECT_EQ(window.size(), QSize(768, 1024 + sizeStripHeight));
+    EXPECT_EQ(area.label(), "768 × 1024");
+
+    window.resize(500, 700);
+    EXPECT_EQ(area.size(), QSize(500, 700 - sizeStripHeight));
+    EXPECT_EQ(area.choice(), -1);
+    EXPECT_EQ(window.minimumSize(), QSize(320, 320 + sizeStripHeight));
+    EXPECT_EQ(window.maximumSize(), QSize(1280, 1280 + sizeStripHeight));
+}
+
+} // namespace demo::testing
