@@ -81,7 +81,7 @@ QStringList PhoneArea::choices() const {
 }
 
 int PhoneArea::choice() const {
-    const auto* found = std::ranges::find(phoneSizes, size_);
+    const auto found = std::ranges::find(phoneSizes, size_);
     return found == phoneSizes.end() ? -1 : int(found - phoneSizes.begin());
 }
 

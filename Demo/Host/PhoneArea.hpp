@@ -12,7 +12,7 @@ namespace demo {
 
 /// What Live measures where nothing narrows it, and the least it can be read at.
 inline constexpr QSize usualLiveSize{790, 844};
-inline constexpr QSize leastLiveSize{520, 640};
+inline constexpr QSize leastLiveSize{520, 720};
 /// The strip below the phone-sized area from which a person chooses its size where Live is not shown.
 inline constexpr int sizeStripHeight = 48;
 

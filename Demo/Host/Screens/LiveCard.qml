@@ -46,11 +46,14 @@ KelCard {
         delegate: card.rowDelegate
         footer: KelLabel {
             visible: text !== ""
+            width: ListView.view.width
             height: visible ? KelSizes.mediumX : 0
             text: card.outlook
             size: KelFonts.Caption
             color: KelColors.mediumEmphasis
+            wrapMode: Text.Wrap
         }
         onCountChanged: positionViewAtEnd()
+        onHeightChanged: positionViewAtEnd()
     }
 }
