@@ -14,7 +14,7 @@ quillet_packages=(
     libgl1-mesa-dev 'qt6-svg-plugins|libqt6svg6'
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates qml6-module-qtquick-layouts
     qml6-module-qtquick-window qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
-    fonts-inter fonts-material-design-icons-iconfont
+    fonts-inter fonts-material-design-icons-iconfont 'fonts-dejavu-mono|fonts-dejavu-core'
     # gateway
     libboost-dev libsqlite3-dev
     # tests and benchmarks

@@ -13,6 +13,22 @@ extern void qml_register_types_Demo();
 
 namespace demo {
 
+namespace {
+
+HostPage cartPage() {
+    return {QStringLiteral("Carrito"),
+            QStringLiteral("Aquí la aplicación anfitriona muestra el carrito de la consultora."),
+            kel::KelIconNumber::cart};
+}
+
+HostPage magazinePage() {
+    return {QStringLiteral("Revista digital"),
+            QStringLiteral("Aquí la aplicación anfitriona comparte la revista con los clientes."),
+            kel::KelIconNumber::share};
+}
+
+} // namespace
+
 HostApplication::HostApplication(Journal& journal, LiveStatus& status, PhoneArea& area,
                                  const QByteArray& orders)
     : journal_(journal),
@@ -50,19 +66,16 @@ QQuickItem* HostApplication::phone() const {
 bool HostApplication::open(const Order& order) {
     close();
     status_.opened(order.cart, order.environment);
-    quillet::QuilletConfiguration::shared().configure(order.environment);
-    const auto starter =
-        quillet::Starter::create(order.accessToken, order.authorizationProvider, order.cart, self_.lock());
-    return starter && show(starter->createRootViewController());
+    return embed(order);
 }
 
 bool HostApplication::openHandmade(const std::string& refusal) {
     close();
-    return show(refusedOrderScreen(refusal, self_));
+    return quillet::present(refusedOrderScreen(refusal, self_), stack());
 }
 
-bool HostApplication::show(const std::shared_ptr<quillet::platform::QuickViewController>& screen) {
-    return quillet::present(screen, *window()->property("stack").value<QQuickItem*>());
+QQuickItem& HostApplication::stack() const {
+    return *window()->property("stack").value<QQuickItem*>();
 }
 
 void HostApplication::close() {
@@ -79,11 +92,21 @@ void HostApplication::openOrder(int index) {
           .authorizationProvider = "sample-idp"});
 }
 
+// Live shows what stands between the two marks.
+// host code: begin
+bool HostApplication::embed(const Order& order) {
+    const auto& [cart, token, provider, environment] = order;
+    // A starter keeps the environment that is configured when it is created.
+    quillet::QuilletConfiguration::shared().configure(environment);
+    const auto starter = quillet::Starter::create(token, provider, cart, self_.lock());
+    // The module's screens are pages of the host's StackView. Popping them ends the module.
+    return starter && quillet::present(starter->createRootViewController(), stack());
+}
+
+// The module hands over to its navigation delegate, which is the host.
 void HostApplication::navigateToCart() {
     journal_.navigated(QStringLiteral("navigateToCart"), kel::KelIconNumber::cart);
-    showHostPage(QStringLiteral("Carrito"),
-                 QStringLiteral("Aquí la aplicación anfitriona muestra el carrito de la consultora."),
-                 int(kel::KelIconNumber::cart));
+    showHostPage(cartPage());
 }
 
 void HostApplication::navigateToHome() {
@@ -93,14 +116,13 @@ void HostApplication::navigateToHome() {
 
 void HostApplication::navigateToShareMagazine() {
     journal_.navigated(QStringLiteral("navigateToShareMagazine"), kel::KelIconNumber::share);
-    showHostPage(QStringLiteral("Revista digital"),
-                 QStringLiteral("Aquí la aplicación anfitriona comparte la revista con los clientes."),
-                 int(kel::KelIconNumber::share));
+    showHostPage(magazinePage());
 }
+// host code: end
 
-void HostApplication::showHostPage(const QString& title, const QString& message, int icon) {
-    QMetaObject::invokeMethod(window(), "showHostPage", Q_ARG(QVariant, title), Q_ARG(QVariant, message),
-                              Q_ARG(QVariant, icon));
+void HostApplication::showHostPage(const HostPage& page) {
+    QMetaObject::invokeMethod(window(), "showHostPage", Q_ARG(QVariant, page.title),
+                              Q_ARG(QVariant, page.message), Q_ARG(QVariant, int(page.icon)));
 }
 
 } // namespace demo

@@ -13,6 +13,13 @@
 
 namespace demo {
 
+/// A page of the host's own that the module navigates to.
+struct HostPage {
+    QString title;
+    QString message;
+    kel::KelIconNumber icon;
+};
+
 /// The sample host: one window with a phone-sized screen, on which it opens the module, and beside it, where
 /// there is room, the journal. It is also the module's navigation delegate. Main thread only.
 class HostApplication final : public QObject, public quillet::QuilletNavigationDelegate {
@@ -59,8 +66,9 @@ public:
     [[nodiscard]] QObject* status() const { return &status_; }
 
 private:
-    bool show(const std::shared_ptr<quillet::platform::QuickViewController>& screen);
-    void showHostPage(const QString& title, const QString& message, int icon);
+    bool embed(const Order& order);
+    [[nodiscard]] QQuickItem& stack() const;
+    void showHostPage(const HostPage& page);
 
     Journal& journal_;
     LiveStatus& status_;

@@ -13,6 +13,17 @@ Ground {
 
     // Four requests, as many as most orders need, fit without scrolling.
     readonly property int requestsHeight: KelSizes.mediumX + 4 * KelSizes.medium + KelSpacing.tiny
+    // What analytics and code share. Analytics keep six entries where there is room; else the code shrinks to some ten
+    // lines, then analytics to two entries, then the code again.
+    readonly property int sharedHeight: body.height - header.height - KelSpacing.semi - live.requestsHeight
+                                        - 2 * KelSpacing.small
+    readonly property int tenLines: KelSizes.mediumX + 9 * KelSizes.standard
+    readonly property int codeHeight: Math.max(live.sharedHeight - live.entriesHeight(6),
+                                               Math.min(live.sharedHeight - live.entriesHeight(2), live.tenLines))
+
+    function entriesHeight(count: int): int {
+        return (1 + count) * KelSizes.mediumX + KelSpacing.tiny
+    }
 
     KelDivider {
         id: edge
@@ -21,6 +32,8 @@ Ground {
         height: parent.height
     }
     Item {
+        id: body
+
         anchors.fill: parent
         anchors.margins: KelSpacing.semi
         anchors.leftMargin: KelSpacing.semi + edge.width
@@ -48,7 +61,8 @@ Ground {
 
             anchors.top: requests.bottom
             anchors.topMargin: KelSpacing.small
-            anchors.bottom: parent.bottom
+            anchors.bottom: code.top
+            anchors.bottomMargin: KelSpacing.small
             width: Math.round((parent.width - KelSpacing.small) * 0.6)
             title: "Analytics"
             rows: live.journal.analytics
@@ -64,7 +78,8 @@ Ground {
         LiveCard {
             anchors.top: requests.bottom
             anchors.topMargin: KelSpacing.small
-            anchors.bottom: parent.bottom
+            anchors.bottom: code.top
+            anchors.bottomMargin: KelSpacing.small
             anchors.right: parent.right
             width: parent.width - analytics.width - KelSpacing.small
             title: "Navigation"
@@ -76,6 +91,15 @@ Ground {
                 icon: modelData.icon
                 tone: KelColors.mediumEmphasis
             }
+        }
+        LiveCode {
+            id: code
+
+            anchors.bottom: parent.bottom
+            width: parent.width
+            // Until a person opens or closes it.
+            open: live.sharedHeight >= live.tenLines + live.entriesHeight(5)
+            openHeight: live.codeHeight
         }
     }
 }
