@@ -64,3 +64,21 @@ install(FILES "${PROJECT_BINARY_DIR}/QuilletConfig.cmake" "${PROJECT_BINARY_DIR}
 
 configure_file("${PROJECT_SOURCE_DIR}/cmake/quillet-backend.pc.in" quillet-backend.pc @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/quillet-backend.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+
+# One Debian package for those who build a host: libraries of both kinds, headers, the test kit and what they depend on.
+# scripts/package makes it out of a shared and a static build.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME quillet-dev)
+set(CPACK_PACKAGE_CONTACT "Quillet <quillet@quillet.example>")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/lib")
+string(JOIN ", " CPACK_DEBIAN_PACKAGE_DEPENDS
+    libcurl4-openssl-dev libssl-dev zlib1g-dev libsimdjson-dev
+    qt6-declarative-dev libgl1-mesa-dev "qt6-svg-plugins | libqt6svg6"
+    qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates qml6-module-qtquick-layouts
+    qml6-module-qtquick-window qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript)
+include(CPack)
