@@ -36,17 +36,28 @@ KelCard {
             width: parent.width
         }
         Item {
+            id: origin
+
+            // Cycle and date stand side by side where there is room for both, else one below the other.
+            readonly property bool fits: cycle.implicitWidth + KelSpacing.small + date.width <= width
+
             width: parent.width
-            height: KelSizes.mediumX
+            height: origin.fits ? KelSizes.mediumX : 2 * KelSizes.semiX
 
             CaptionedItem {
-                height: parent.height
+                id: cycle
+
+                width: parent.width
+                height: origin.fits ? parent.height : parent.height / 2
                 visible: text !== ""
                 captioned: card.order.orderCycleLabel
             }
             Row {
-                anchors.right: parent.right
-                height: parent.height
+                id: date
+
+                anchors.right: origin.fits ? parent.right : undefined
+                anchors.bottom: parent.bottom
+                height: cycle.height
                 spacing: KelSpacing.tiny
 
                 KelIcon {
