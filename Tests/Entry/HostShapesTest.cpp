@@ -191,4 +191,21 @@ TEST_F(HostShapes, HideAndShowAPageWithADialogThatKeepsTheKeys) {
     EXPECT_TRUE(turnUntil([&] { return std::ranges::count(*log, "navigateToHome") == 1; }));
 }
 
+TEST_F(HostShapes, GetTheKeysBackOnlyWhereTheyAreSeen) {
+    backend->script(Call::checkout, {Reply{.status = 500}});
+    Stage stage;
+    ASSERT_TRUE(open(stage.stack()));
+    ASSERT_TRUE(showOrder(stage));
+    // The focus stays behind on the button of the page that the checkout covers.
+    stage.item(send)->forceActiveFocus();
+    stage.key(Qt::Key_Return);
+    ASSERT_TRUE(turnUntil([&] { return stage.shows("dialogCloseIcon") && !stage.shows(send); }));
+    stage.key(Qt::Key_Escape);
+    ASSERT_TRUE(turnUntil([&] { return !stage.shows("dialogCloseIcon"); }));
+    log->clear();
+    stage.key(Qt::Key_Return);
+    EXPECT_THAT(*log, IsEmpty());
+    EXPECT_TRUE(!stage.focus() || stage.focus()->isVisible());
+}
+
 } // namespace quillet::testing

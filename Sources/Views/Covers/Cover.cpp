@@ -101,6 +101,11 @@ void Cover::giveKeysBack() {
     if (!previous || !previous->window() || !previous->window()->contentItem()) {
         return;
     }
+    if (!previous->isVisible() || !previous->isEnabled()) {
+        // Its page is covered by another one. A key must not act on what nobody sees.
+        previous->setFocus(false);
+        previous = previous->window()->contentItem();
+    }
     // A cover above this one must not restore the focus to this one.
     for (Cover* cover : covers()) {
         if (cover != this && cover->previous_ &&
