@@ -19,6 +19,11 @@ QString& chosenLanguage() {
     return language;
 }
 
+KelBundle& hostTexts() {
+    static KelBundle bundle;
+    return bundle;
+}
+
 QString currentLanguage() {
     if (!chosenLanguage().isEmpty()) {
         return chosenLanguage();
@@ -27,19 +32,28 @@ QString currentLanguage() {
     return system.language() == QLocale::C ? QString::fromLatin1(fallbackLanguage) : system.name().left(2);
 }
 
-std::shared_ptr<const QTranslator> table(const KelBundle& bundle) {
+const QTranslator& table(const KelBundle& bundle, const QString& language) {
     static QHash<QString, std::shared_ptr<QTranslator>> tables;
-    const QString language = currentLanguage();
-    auto& translator = tables[bundle.folder + u'/' + bundle.table + u'/' + language];
+    const QString file = bundle.folder + u'/' + bundle.table + u'_' + language;
+    auto& translator = tables[file];
     if (!translator) {
         translator = std::make_shared<QTranslator>();
-        for (const QString& candidate : {language, QString::fromLatin1(fallbackLanguage)}) {
-            if (translator->load(bundle.folder + u'/' + bundle.table + u'_' + candidate)) {
-                break;
+        static_cast<void>(translator->load(file));
+    }
+    return *translator;
+}
+
+// Empty without an entry. The host's texts come before a library's own, in either language.
+QString entry(const char* key, const KelBundle& bundle, const QString& language, int count = -1) {
+    for (const QString& candidate : {language, QString::fromLatin1(fallbackLanguage)}) {
+        for (const KelBundle& texts : {hostTexts(), bundle}) {
+            const QString text = table(texts, candidate).translate("", key, nullptr, count);
+            if (!text.isEmpty()) {
+                return text;
             }
         }
     }
-    return translator;
+    return {};
 }
 
 } // namespace
@@ -48,19 +62,22 @@ void setLanguage(const QString& language) {
     chosenLanguage() = language;
 }
 
+void setHostTexts(const KelBundle& bundle) {
+    hostTexts() = bundle;
+}
+
 QString localized(const char* key, const KelBundle& bundle) {
-    const QString text = table(bundle)->translate("", key);
+    const QString text = entry(key, bundle, currentLanguage());
     return text.isEmpty() ? QString::fromUtf8(key) : text;
 }
 
 std::function<QString(quint64)> localizedCount(const char* key, const KelBundle& bundle) {
-    return [key, words = table(bundle)](quint64 count) {
+    return [key, bundle, language = currentLanguage()](quint64 count) {
         const int form = static_cast<int>(std::min<quint64>(count, std::numeric_limits<int>::max()));
-        QString text = words->translate("", key, nullptr, form);
-        if (text.isEmpty()) {
-            text = QString::fromUtf8(key);
-        }
-        return text.replace(QLatin1String("%n"), QString::number(count));
+        QString text = entry(key, bundle, language, form);
+        const QString digits = QString::number(count);
+        // The number matters more than the word for it.
+        return text.contains(QLatin1String("%n")) ? text.replace(QLatin1String("%n"), digits) : digits;
     };
 }
 

@@ -45,12 +45,17 @@ QUILLET_TEXT(loading, "Loading")
 
 QString Localization::code(quint64 productCode) {
     static const QString form = kel::localized("Code: ", moduleBundle());
-    return QString(form).replace(QLatin1String("%n"), QString::number(productCode));
+    const QString digits = QString::number(productCode);
+    // A host's table may lack the entry, and then the form has no place for the number.
+    return form.contains(QLatin1String("%n")) ? QString(form).replace(QLatin1String("%n"), digits)
+                                              : form + digits;
 }
 
 QString Localization::pointsCount(quint64 points) {
     static const auto words = kel::localizedCount("points count", moduleBundle());
-    return words(points);
+    const QString text = words(points);
+    const QString digits = QString::number(points);
+    return text.contains(digits) ? text : digits;
 }
 
 } // namespace quillet

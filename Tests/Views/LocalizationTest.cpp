@@ -54,8 +54,26 @@ TEST(Localization, FallsBackToSpanishAndThenToTheKey) {
     EXPECT_EQ(kel::localized("no such key", moduleBundle()), "no such key");
     const kel::KelBundle missing{":/no/such/folder", "none"};
     EXPECT_EQ(kel::localized("Update", missing), "Update");
-    EXPECT_EQ(kel::localizedCount("points count", missing)(2), "points count");
+    EXPECT_EQ(kel::localizedCount("points count", missing)(2), "2");
     kel::setLanguage("es");
+}
+
+TEST(Localization, PrefersTheHostsTextsAndAddsTheirLanguages) {
+    const auto count = [](quint64 number) {
+        return kel::localizedCount("points count", moduleBundle())(number);
+    };
+    kel::setHostTexts({":/host/texts", "host"});
+    EXPECT_EQ(kel::localized("Update", moduleBundle()), "Cargar de nuevo");
+    EXPECT_EQ(kel::localized("Go to cart", moduleBundle()), "Ir al carrito");
+    kel::setLanguage("fr");
+    EXPECT_EQ(kel::localized("Update", moduleBundle()), "Actualiser");
+    EXPECT_EQ(count(2), "2 points");
+    // What the host has not translated is Spanish: its own text first.
+    EXPECT_EQ(kel::localized("Share Magazine", moduleBundle()), "Comparte tu revista");
+    EXPECT_EQ(kel::localized("Go to cart", moduleBundle()), "Ir al carrito");
+    kel::setHostTexts({});
+    kel::setLanguage("es");
+    EXPECT_EQ(kel::localized("Update", moduleBundle()), "Actualizar");
 }
 
 TEST(Resources, HoldTheImagesThatTheScreensName) {

@@ -63,9 +63,10 @@ void SessionLoop::start(URLSessionExchange exchange) {
 void SessionLoop::startElsewhere(URLSessionExchange exchange) {
     const CallReport report(configuration_.clock->now());
     report.willSend(configuration_, exchange.request);
+    const URLRequest request = exchange.request;
     // The loader may end the call after the session.
-    configuration_.loader->load(exchange.request, [self = shared_from_this(), report,
-                                                   exchange](auto data, auto response, auto error) {
+    configuration_.loader->load(request, [self = shared_from_this(), report, exchange = std::move(exchange)](
+                                             auto data, auto response, auto error) {
         URLSessionOutcome outcome{std::move(data), response, std::move(error)};
         report.didEnd(self->configuration_, exchange.request, outcome);
         exchange.completionHandler(std::move(outcome.data), outcome.response, std::move(outcome.error));
