@@ -24,12 +24,19 @@ KelBundle& hostTexts() {
     return bundle;
 }
 
-QString currentLanguage() {
-    if (!chosenLanguage().isEmpty()) {
-        return chosenLanguage();
+// The languages in which a text is looked up, in their order.
+QStringList currentLanguages() {
+    QStringList languages{chosenLanguage()};
+    if (chosenLanguage().isEmpty()) {
+        languages = QLocale::system().uiLanguages();
     }
-    const QLocale system = QLocale::system();
-    return system.language() == QLocale::C ? QString::fromLatin1(fallbackLanguage) : system.name().left(2);
+    languages << QString::fromLatin1(fallbackLanguage);
+    for (QString& language : languages) {
+        // "pt-BR" is Portuguese; "C" and codes of three letters have no table.
+        language = language.section(u'-', 0, 0);
+    }
+    languages.removeDuplicates();
+    return languages;
 }
 
 const QTranslator& table(const KelBundle& bundle, const QString& language) {
@@ -43,11 +50,11 @@ const QTranslator& table(const KelBundle& bundle, const QString& language) {
     return *translator;
 }
 
-// Empty without an entry. The host's texts come before a library's own, in either language.
-QString entry(const char* key, const KelBundle& bundle, const QString& language, int count = -1) {
-    for (const QString& candidate : {language, QString::fromLatin1(fallbackLanguage)}) {
+// Empty without an entry. The host's texts come before a library's own, in each language.
+QString entry(const char* key, const KelBundle& bundle, const QStringList& languages, int count = -1) {
+    for (const QString& language : languages) {
         for (const KelBundle& texts : {hostTexts(), bundle}) {
-            const QString text = table(texts, candidate).translate("", key, nullptr, count);
+            const QString text = table(texts, language).translate("", key, nullptr, count);
             if (!text.isEmpty()) {
                 return text;
             }
@@ -67,14 +74,14 @@ void setHostTexts(const KelBundle& bundle) {
 }
 
 QString localized(const char* key, const KelBundle& bundle) {
-    const QString text = entry(key, bundle, currentLanguage());
+    const QString text = entry(key, bundle, currentLanguages());
     return text.isEmpty() ? QString::fromUtf8(key) : text;
 }
 
 std::function<QString(quint64)> localizedCount(const char* key, const KelBundle& bundle) {
-    return [key, bundle, language = currentLanguage()](quint64 count) {
+    return [key, bundle, languages = currentLanguages()](quint64 count) {
         const int form = static_cast<int>(std::min<quint64>(count, std::numeric_limits<int>::max()));
-        QString text = entry(key, bundle, language, form);
+        QString text = entry(key, bundle, languages, form);
         const QString digits = QString::number(count);
         // The number matters more than the word for it.
         return text.contains(QLatin1String("%n")) ? text.replace(QLatin1String("%n"), digits) : digits;

@@ -13,8 +13,9 @@ struct KelBundle {
     QString table;
 };
 
-/// The language that texts are looked up in from now on, as an ISO 639 code ("es"); empty means the system's.
-/// A host calls it before it shows anything: texts that were looked up before keep their language.
+/// The language that texts are looked up in from now on, as an ISO 639 code ("es"); empty means the languages
+/// of the system's user interface, in the user's order. A host calls it before it shows anything: texts that
+/// were looked up before keep their language.
 void setLanguage(const QString& language);
 
 /// Names a host's own string tables, which come before those of all libraries: a text of the same key

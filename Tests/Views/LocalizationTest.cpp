@@ -58,6 +58,17 @@ TEST(Localization, FallsBackToSpanishAndThenToTheKey) {
     kel::setLanguage("es");
 }
 
+TEST(Localization, FollowsTheLanguagesOfTheSystemsInterface) {
+    // Not those of its numbers and dates; of several, the first that has the text.
+    const QByteArray languages = qgetenv("LANGUAGE");
+    qputenv("LANGUAGE", "de:pt_BR:en");
+    kel::setLanguage({});
+    EXPECT_EQ(kel::localized("Update", moduleBundle()), "Atualizar");
+    EXPECT_EQ(kel::localizedCount("points count", moduleBundle())(2), "2 pontos");
+    qputenv("LANGUAGE", languages);
+    kel::setLanguage("es");
+}
+
 TEST(Localization, PrefersTheHostsTextsAndAddsTheirLanguages) {
     const auto count = [](quint64 number) {
         return kel::localizedCount("points count", moduleBundle())(number);

@@ -92,6 +92,7 @@ QString accessibleName(QQuickItem& item) {
     switch (interface->role()) {
     // A container that has the name of a text inside it would say that text twice.
     case QAccessible::Dialog:
+    case QAccessible::ListItem:
     case QAccessible::Animation:
     case QAccessible::Client:
         return {};

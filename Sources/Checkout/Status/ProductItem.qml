@@ -12,6 +12,9 @@ Item {
     // Numbers of twenty digits leave no room for the texts between them: points and texts then go below the badge.
     readonly property bool crowded: badge.width + pointsLabel.implicitWidth > item.width / 2
 
+    // A screen reader says the row as one, not as four loose texts.
+    Accessible.role: Accessible.ListItem
+    Accessible.name: item.product.spoken
     implicitHeight: Math.max(tile.y + tile.height, texts.y + texts.height) + KelSpacing.small
 
     KelDivider {
@@ -49,6 +52,7 @@ Item {
 
             anchors.centerIn: parent
             text: item.product.quantity
+            Accessible.ignored: true
             size: KelFonts.Caption
             weight: KelFonts.Bold
             // On amber, text is dark in either theme.
@@ -67,6 +71,7 @@ Item {
             width: parent.width
             visible: item.product.description !== ""
             text: item.product.description
+            Accessible.ignored: true
             size: KelFonts.Subtitle2
             lineHeight: 1.2
             wrapMode: Text.Wrap
@@ -74,6 +79,7 @@ Item {
         KelLabel {
             width: parent.width
             text: item.product.code
+            Accessible.ignored: true
             size: KelFonts.Caption
             color: KelColors.mediumEmphasis
             wrapMode: Text.Wrap
@@ -98,6 +104,7 @@ Item {
         y: item.crowded ? badge.y + badge.height + KelSpacing.micro : tile.y
         width: item.crowded ? parent.width - KelSpacing.small - x : implicitWidth
         text: item.product.points
+        Accessible.ignored: true
         size: KelFonts.Subtitle2
         // As the description's, so that both begin on one line.
         lineHeight: 1.2

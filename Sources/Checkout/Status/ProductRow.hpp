@@ -15,6 +15,7 @@ class ProductRow {
     Q_PROPERTY(QString code MEMBER code CONSTANT FINAL)
     Q_PROPERTY(QString points MEMBER points CONSTANT FINAL)
     Q_PROPERTY(bool hasReason MEMBER hasReason CONSTANT FINAL)
+    Q_PROPERTY(QString spoken READ spoken CONSTANT FINAL)
     Q_PROPERTY(QString reasonTag MEMBER reasonTag CONSTANT FINAL)
 
 public:
@@ -25,6 +26,9 @@ public:
     /// Whether the product was not sent, which a tag tells.
     bool hasReason = false;
     QString reasonTag;
+
+    /// The row as a screen reader says it: all of its texts in one.
+    [[nodiscard]] QString spoken() const;
 
     bool operator==(const ProductRow&) const = default;
 };

@@ -2,7 +2,15 @@
 
 #include "Resources/Localization.hpp"
 
+#include <QStringList>
+
 namespace quillet {
+
+QString ProductRow::spoken() const {
+    QStringList parts{quantity, description, code, points, reasonTag};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
 
 QString ProductView::quantity() const {
     return QString::number(product_.quantity);

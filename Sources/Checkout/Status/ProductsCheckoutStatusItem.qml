@@ -30,6 +30,7 @@ ListView {
     }
 
     objectName: "result"
+    Accessible.role: Accessible.List
     boundsBehavior: Flickable.StopAtBounds
     // No row is the current one: it would be kept when it is out of view, and arrow keys would go to rows, which have
     // nothing to do. They scroll instead.
