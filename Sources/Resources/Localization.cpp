@@ -40,6 +40,7 @@ QUILLET_TEXT(toAddProductsAskCustomerCreateOrderAgain,
 QUILLET_TEXT(shareMagazine, "Share Magazine")
 QUILLET_TEXT(close, "Close")
 QUILLET_TEXT(loading, "Loading")
+QUILLET_TEXT(takesLongerThanUsual, "This is taking longer than usual.")
 
 #undef QUILLET_TEXT
 

@@ -33,6 +33,8 @@ struct Localization {
     /// For those who hear a screen rather than see it.
     static const QString& close();
     static const QString& loading();
+    /// Shown while a call has run for five seconds and more.
+    static const QString& takesLongerThanUsual();
 
     /// "Code: " and the product's code.
     static QString code(quint64 productCode);

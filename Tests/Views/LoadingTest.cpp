@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -44,6 +45,24 @@ const Moment moments[] = {
 };
 
 constexpr QSizeF item(56, 56);
+
+TEST(LoadingView, SaysThatItTakesLongAfterFiveSecondsOnScreen) {
+    LoadingView loading;
+    auto& patience = *loading.findChild<QTimer*>();
+    EXPECT_EQ(patience.interval(), 5000);
+    EXPECT_FALSE(patience.isActive());
+    for (int round = 0; round < 2; ++round) {
+        loading.startLoading();
+        EXPECT_TRUE(patience.isActive());
+        EXPECT_EQ(loading.notice(), "");
+        // In place of the five seconds.
+        QMetaObject::invokeMethod(&patience, "timeout", Qt::DirectConnection);
+        EXPECT_EQ(loading.notice(), "Está tardando más de lo habitual.");
+        loading.stopLoading();
+        EXPECT_EQ(loading.notice(), "");
+        EXPECT_FALSE(patience.isActive());
+    }
+}
 
 TEST(ProgressIndicator, MovesItsArcByTheFormula) {
     LoadingView loading;

@@ -106,5 +106,9 @@
         <source>Loading</source>
         <translation>Loading</translation>
     </message>
+    <message>
+        <source>This is taking longer than usual.</source>
+        <translation>This is taking longer than usual.</translation>
+    </message>
 </context>
 </TS>

@@ -106,5 +106,9 @@
         <source>Loading</source>
         <translation>Cargando</translation>
     </message>
+    <message>
+        <source>This is taking longer than usual.</source>
+        <translation>Está tardando más de lo habitual.</translation>
+    </message>
 </context>
 </TS>

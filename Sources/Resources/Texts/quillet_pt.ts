@@ -106,5 +106,9 @@
         <source>Loading</source>
         <translation>Carregando</translation>
     </message>
+    <message>
+        <source>This is taking longer than usual.</source>
+        <translation>Está demorando mais do que o normal.</translation>
+    </message>
 </context>
 </TS>

@@ -1,4 +1,5 @@
 import QtQuick
+import KelDS
 import Quillet
 
 // The overlay and its ring. It takes every touch and key, so that nothing below it can be used while a call runs.
@@ -11,6 +12,7 @@ Cover {
 
     Accessible.role: Accessible.Animation
     Accessible.name: loading.loadingView.name
+    Accessible.description: loading.loadingView.notice
 
     Rectangle {
         x: loading.screenArea.x
@@ -24,11 +26,24 @@ Cover {
         color: loading.loadingView.overlayColor
     }
     ProgressIndicatorItem {
+        id: ring
+
         anchors.centerIn: parent
         width: loading.loadingView.indicatorSize
         height: loading.loadingView.indicatorSize
         indicator: loading.loadingView.progressIndicator
         time: clock.elapsedTime
+    }
+    KelLabel {
+        anchors.top: ring.bottom
+        anchors.topMargin: KelSpacing.small
+        x: KelSpacing.small
+        width: parent.width - 2 * KelSpacing.small
+        visible: text !== ""
+        text: loading.loadingView.notice
+        color: loading.loadingView.noticeColor
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
     }
     FrameAnimation {
         id: clock

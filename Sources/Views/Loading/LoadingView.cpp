@@ -2,6 +2,7 @@
 
 #include "Resources/Localization.hpp"
 
+#include <chrono>
 #include <utility>
 
 namespace quillet {
@@ -9,7 +10,11 @@ namespace quillet {
 using Indicator = ProgressIndicatorCircular;
 
 LoadingView::LoadingView(std::unique_ptr<Coloring> colors, std::unique_ptr<Sizing> sizer)
-    : colors_(std::move(colors)), sizer_(std::move(sizer)) {}
+    : colors_(std::move(colors)), sizer_(std::move(sizer)) {
+    patience_.setSingleShot(true);
+    patience_.setInterval(std::chrono::seconds(5));
+    connect(&patience_, &QTimer::timeout, this, [this] { setNotice(Localization::takesLongerThanUsual()); });
+}
 
 Overlay& LoadingView::overylay() {
     return overylay_ ? *overylay_ : overylay_.emplace();
@@ -41,7 +46,16 @@ QString LoadingView::name() const {
 void LoadingView::setOnScreen(bool onScreen) {
     if (onScreen != onScreen_) {
         onScreen_ = onScreen;
+        onScreen ? patience_.start() : patience_.stop();
+        setNotice({});
         Q_EMIT onScreenChanged();
+    }
+}
+
+void LoadingView::setNotice(const QString& notice) {
+    if (notice != notice_) {
+        notice_ = notice;
+        Q_EMIT noticeChanged();
     }
 }
 

@@ -7,6 +7,8 @@
 #include "Views/Tokens/Sizing.hpp"
 #include "Views/Tokens/ThemedView.hpp"
 
+#include <QTimer>
+
 #include <memory>
 #include <optional>
 
@@ -23,6 +25,8 @@ class LoadingView : public quillet::ThemedView, public Loading {
     Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY themeChanged FINAL)
     Q_PROPERTY(QColor overlayColor READ overlayColor NOTIFY themeChanged FINAL)
     Q_PROPERTY(QString name READ name CONSTANT FINAL)
+    Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged FINAL)
+    Q_PROPERTY(QColor noticeColor READ noticeColor CONSTANT FINAL)
     Q_PROPERTY(int indicatorSize READ indicatorSize CONSTANT FINAL)
 
 public:
@@ -40,19 +44,28 @@ public:
     [[nodiscard]] int indicatorSize() const { return sizer_->mediumX(); }
     /// What a screen reader calls the overlay.
     [[nodiscard]] QString name() const;
+    /// One line that says that it takes longer than usual: empty for the first five seconds on screen. It
+    /// changes nothing about the calls.
+    [[nodiscard]] QString notice() const { return notice_; }
+    /// The overlay is dark in every theme.
+    [[nodiscard]] QColor noticeColor() const { return Qt::white; }
 
 Q_SIGNALS:
     void onScreenChanged();
+    void noticeChanged();
 
 private:
     [[nodiscard]] Overlay& overylay();
     void setOnScreen(bool onScreen);
+    void setNotice(const QString& notice);
 
     std::unique_ptr<ProgressIndicatorCircular> progressIndicator_;
     // Spelled as in the interface.
     std::optional<Overlay> overylay_;
     std::unique_ptr<Coloring> colors_;
     std::unique_ptr<Sizing> sizer_;
+    QString notice_;
+    QTimer patience_{this};
     bool onScreen_ = false;
 };
 
