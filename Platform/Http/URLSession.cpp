@@ -1,6 +1,6 @@
 #include "Platform/Http/URLSession.hpp"
 
-#include "Platform/Http/Session/SessionLoop.hpp"
+#include "Platform/Http/Session/SessionOwner.hpp"
 
 #include <utility>
 

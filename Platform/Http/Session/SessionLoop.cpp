@@ -287,16 +287,4 @@ bool SessionLoop::endIfDone() {
     return true;
 }
 
-SessionOwner::SessionOwner(URLSessionConfiguration configuration) {
-    const auto clock = configuration.clock;
-    loop_ = std::make_shared<SessionLoop>(std::move(configuration));
-    if (clock) {
-        clock->addListener(loop_);
-    }
-}
-
-SessionOwner::~SessionOwner() {
-    loop_->ownerIsGone();
-}
-
 } // namespace quillet::platform
