@@ -64,13 +64,16 @@ void SessionLoop::startElsewhere(URLSessionExchange exchange) {
     const CallReport report(configuration_.clock->now());
     report.willSend(configuration_, exchange.request);
     const URLRequest request = exchange.request;
-    // The loader may end the call after the session.
-    configuration_.loader->load(request, [self = shared_from_this(), report, exchange = std::move(exchange)](
-                                             auto data, auto response, auto error) {
-        URLSessionOutcome outcome{std::move(data), response, std::move(error)};
-        report.didEnd(self->configuration_, exchange.request, outcome);
-        exchange.completionHandler(std::move(outcome.data), outcome.response, std::move(outcome.error));
-    });
+    // The loader may end the call after the session. It owns the completion, which therefore must not own it.
+    auto configuration = configuration_;
+    configuration.loader = nullptr;
+    configuration_.loader->load(
+        request, [configuration = std::move(configuration), report,
+                  exchange = std::move(exchange)](auto data, auto response, auto error) {
+            URLSessionOutcome outcome{std::move(data), response, std::move(error)};
+            report.didEnd(configuration, exchange.request, outcome);
+            exchange.completionHandler(std::move(outcome.data), outcome.response, std::move(outcome.error));
+        });
 }
 
 bool SessionLoop::startThread() {
