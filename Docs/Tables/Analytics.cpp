@@ -11,7 +11,7 @@ namespace quillet::docs {
 
 namespace {
 
-// No default in these: a new event does not compile before it is told of.
+// No default in these: what is new does not compile before it is told of.
 std::string when(SaleSummaryAnalyticsEvent::Case event) {
     switch (event) {
     case SaleSummaryAnalyticsEvent::sendOrdersToCart:
@@ -43,35 +43,58 @@ std::string when(ProductsCheckoutStatusAnalyticsEvent::Case event) {
     return {};
 }
 
+std::string when(SaleSummaryAnalyticsScreen::Case screen) {
+    switch (screen) {
+    case SaleSummaryAnalyticsScreen::saleSummary:
+        return "the first screen is loaded, before its first request";
+    case SaleSummaryAnalyticsScreen::error:
+        return "the first screen shows that something failed (time-out, no connection, other errors)";
+    }
+    return {};
+}
+
+std::string when(CheckoutAnalyticsScreen::Case screen) {
+    switch (screen) {
+    case CheckoutAnalyticsScreen::error:
+        return "the checkout failed and its dialog is shown";
+    }
+    return {};
+}
+
+template <typename Tracked>
+auto allOf() {
+    using Case = Tracked::Case;
+    return valuesBetween<Case>(0, 15, [](Case value) { return !when(value).empty(); });
+}
+
+template <typename Screen>
+void printScreensOf(std::ostream& out) {
+    for (const auto screen : allOf<Screen>()) {
+        printRow(out, {Screen(screen).name(), when(screen)});
+    }
+}
+
 template <typename Event>
-void printEventsOf(std::ostream& out, const std::string& screen, typename Event::Case last) {
-    for (int i = 0; i <= last; ++i) {
-        const Event event(static_cast<typename Event::Case>(i));
-        printRow(out, {screen, event.category(), event.action(), event.label().value_or(""),
-                       when(static_cast<typename Event::Case>(i))});
+void printEventsOf(std::ostream& out, const std::string& screen) {
+    for (const auto value : allOf<Event>()) {
+        const Event event(value);
+        printRow(out, {screen, event.category(), event.action(), event.label().value_or(""), when(value)});
     }
 }
 
 } // namespace
 
 void printScreens(std::ostream& out) {
-    using Summary = SaleSummaryAnalyticsScreen;
     printHead(out, {"Name", "When"});
-    printRow(out,
-             {Summary(Summary::saleSummary).name(), "the first screen is loaded, before its first request"});
-    printRow(out, {Summary(Summary::error).name(),
-                   "the first screen shows that something failed (time-out, no connection, other errors)"});
-    printRow(out, {CheckoutAnalyticsScreen(CheckoutAnalyticsScreen::error).name(),
-                   "the checkout failed and its dialog is shown"});
+    printScreensOf<SaleSummaryAnalyticsScreen>(out);
+    printScreensOf<CheckoutAnalyticsScreen>(out);
     printRow(out, {ProductsCheckoutStatusAnalyticsScreen().name(), "a result screen is made"});
 }
 
 void printEvents(std::ostream& out) {
     printHead(out, {"Screen", "Category", "Action", "Label", "When"});
-    printEventsOf<SaleSummaryAnalyticsEvent>(out, "first screen",
-                                             SaleSummaryAnalyticsEvent::registerOrderClose);
-    printEventsOf<ProductsCheckoutStatusAnalyticsEvent>(
-        out, "result", ProductsCheckoutStatusAnalyticsEvent::hideProductsNotSent);
+    printEventsOf<SaleSummaryAnalyticsEvent>(out, "first screen");
+    printEventsOf<ProductsCheckoutStatusAnalyticsEvent>(out, "result");
 }
 
 } // namespace quillet::docs

@@ -14,8 +14,8 @@ namespace quillet::docs {
 namespace {
 
 // The keys in the order of the table of texts; the library keeps no list of them.
-QStringList keysOf(const std::string& folder) {
-    QFile file(QString::fromStdString(folder) + "/quillet_en.ts");
+QStringList keysOf(const std::string& root) {
+    QFile file(QString::fromStdString(root) + "/Sources/Resources/Texts/quillet_en.ts");
     if (!file.open(QFile::ReadOnly)) {
         throw std::runtime_error("cannot read " + file.fileName().toStdString());
     }
@@ -31,9 +31,9 @@ QStringList keysOf(const std::string& folder) {
 
 } // namespace
 
-void printTexts(std::ostream& out, const std::string& folder) {
+void printTexts(std::ostream& out, const std::string& root) {
     printHead(out, {"Key", "Spanish", "Portuguese", "English"});
-    for (const QString& key : keysOf(folder)) {
+    for (const QString& key : keysOf(root)) {
         std::vector<std::string> cells{'`' + key.toStdString() + '`'};
         for (const char* language : {"es", "pt", "en"}) {
             kel::setLanguage(language);
