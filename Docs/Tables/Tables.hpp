@@ -6,9 +6,11 @@
 
 namespace quillet::docs {
 
-/// Each prints one table in Markdown. They ask the module itself, so that they tell what it does. `root` is
-/// the project's folder.
+/// Each prints one table in Markdown, or one example. They ask the module itself, so that they tell what it
+/// does; examples are cut out of tests. `root` is the project's folder.
 void printTexts(std::ostream& out, const std::string& root);
+void printHostTable(std::ostream& out, const std::string& root);
+void printHostCode(std::ostream& out, const std::string& root);
 void printScreens(std::ostream& out);
 void printEvents(std::ostream& out);
 void printOutcomes(std::ostream& out);

@@ -13,13 +13,17 @@ namespace quillet::docs {
 
 namespace {
 
+QByteArray contents(const std::string& path) {
+    QFile file(QString::fromStdString(path));
+    if (!file.open(QFile::ReadOnly)) {
+        throw std::runtime_error("cannot read " + path);
+    }
+    return file.readAll();
+}
+
 // The keys in the order of the table of texts; the library keeps no list of them.
 QStringList keysOf(const std::string& root) {
-    QFile file(QString::fromStdString(root) + "/Sources/Resources/Texts/quillet_en.ts");
-    if (!file.open(QFile::ReadOnly)) {
-        throw std::runtime_error("cannot read " + file.fileName().toStdString());
-    }
-    QXmlStreamReader xml(&file);
+    QXmlStreamReader xml(contents(root + "/Sources/Resources/Texts/quillet_en.ts"));
     QStringList keys;
     while (!xml.atEnd()) {
         if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("source")) {
@@ -44,6 +48,28 @@ void printTexts(std::ostream& out, const std::string& root) {
         }
         printRow(out, cells);
     }
+}
+
+void printHostTable(std::ostream& out, const std::string& root) {
+    out << "```xml\n" << contents(root + "/Tests/Views/host_fr.ts").toStdString() << "```\n";
+}
+
+void printHostCode(std::ostream& out, const std::string& root) {
+    out << "```cpp\n";
+    bool isShown = false;
+    for (const QByteArray& line : contents(root + "/Tests/Views/LocalizationTest.cpp").split('\n')) {
+        const QByteArray code = line.trimmed();
+        if (code == "// end: host-code") {
+            isShown = false;
+        }
+        if (isShown) {
+            out << code.toStdString() << '\n';
+        }
+        if (code == "// begin: host-code") {
+            isShown = true;
+        }
+    }
+    out << "```\n";
 }
 
 } // namespace quillet::docs

@@ -1,4 +1,4 @@
-// quillet-doc-tables TABLE ROOT: prints one of the tables that Docs holds. ROOT is the project's folder.
+// quillet-doc-tables TABLE ROOT: prints one of the tables and examples of Docs. ROOT is the project's folder.
 #include "Tables.hpp"
 
 #include "KelCommon/KelCommon.hpp"
@@ -34,6 +34,8 @@ int main(int argc, char** argv) {
     using namespace quillet::docs;
     const std::map<std::string, std::function<void()>> tables{
         {"texts", [&] { printTexts(std::cout, argv[2]); }},
+        {"host-table", [&] { printHostTable(std::cout, argv[2]); }},
+        {"host-code", [&] { printHostCode(std::cout, argv[2]); }},
         {"screens", [] { printScreens(std::cout); }},
         {"events", [] { printEvents(std::cout); }},
         {"outcomes", [] { printOutcomes(std::cout); }},

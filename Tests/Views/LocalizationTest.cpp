@@ -73,7 +73,9 @@ TEST(Localization, PrefersTheHostsTextsAndAddsTheirLanguages) {
     const auto count = [](quint64 number) {
         return kel::localizedCount("points count", moduleBundle())(number);
     };
+    // begin: host-code
     kel::setHostTexts({":/host/texts", "host"});
+    // end: host-code
     EXPECT_EQ(kel::localized("Update", moduleBundle()), "Cargar de nuevo");
     EXPECT_EQ(kel::localized("Go to cart", moduleBundle()), "Ir al carrito");
     kel::setLanguage("fr");
