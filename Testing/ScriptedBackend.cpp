@@ -98,7 +98,7 @@ void ScriptedBackend::load(const platform::URLRequest& request,
             reply.error = platform::URLError{platform::URLError::Code::timedOut, "The request timed out"};
         }
         const auto due = now + std::min(reply.after, request.timeoutInterval);
-        pending_.push_back({due, std::move(reply), std::move(completion)});
+        pending_.emplace(due, Pending{std::move(reply), std::move(completion)});
     }
     clockDidJump();
 }
@@ -117,19 +117,19 @@ Reply ScriptedBackend::next(Call call) {
 
 void ScriptedBackend::clockDidJump() {
     const auto now = clock_->now();
-    std::deque<Pending> due;
+    decltype(pending_) due;
     {
         const std::lock_guard lock(mutex_);
-        const auto isDue = [&](const Pending& one) { return one.due <= now; };
-        std::ranges::copy_if(pending_, std::back_inserter(due), isDue);
-        std::erase_if(pending_, isDue);
+        while (!pending_.empty() && pending_.begin()->first <= now) {
+            due.insert(pending_.extract(pending_.begin()));
+        }
     }
-    std::ranges::stable_sort(due, {}, &Pending::due);
-    for (auto& [time, reply, completion] : due) {
+    for (auto& [time, pending] : due) {
+        const Reply& reply = pending.reply;
         if (reply.error) {
-            completion({}, {}, reply.error);
+            pending.completion({}, {}, reply.error);
         } else {
-            completion(reply.body, platform::HTTPURLResponse{reply.status}, {});
+            pending.completion(reply.body, platform::HTTPURLResponse{reply.status}, {});
         }
     }
 }

@@ -59,7 +59,6 @@ public:
 
 private:
     struct Pending {
-        std::chrono::steady_clock::time_point due;
         Reply reply;
         platform::URLSessionDataTaskCompletion completion;
     };
@@ -70,7 +69,8 @@ private:
     std::shared_ptr<ManualClock> clock_ = std::make_shared<ManualClock>();
     std::map<Call, std::deque<Reply>> scripts_;
     std::vector<platform::URLRequest> requests_;
-    std::deque<Pending> pending_;
+    /// By the time at which they are due; those of one time in their order.
+    std::multimap<std::chrono::steady_clock::time_point, Pending> pending_;
 };
 
 } // namespace quillet::testing
