@@ -26,6 +26,8 @@ class KelColors : public QObject {
     Q_PROPERTY(QColor alert READ alert NOTIFY changed FINAL)
     Q_PROPERTY(QColor warning READ warning NOTIFY changed FINAL)
     Q_PROPERTY(QColor link READ link NOTIFY changed FINAL)
+    Q_PROPERTY(QColor primaryEdge READ primaryEdge NOTIFY changed FINAL)
+    Q_PROPERTY(QColor edge READ edge NOTIFY changed FINAL)
     Q_PROPERTY(QColor hairline READ hairline NOTIFY changed FINAL)
     Q_PROPERTY(bool hasShadows READ hasShadows NOTIFY changed FINAL)
 
@@ -44,10 +46,12 @@ public:
     [[nodiscard]] static QColor alert() { return palette().alert; }
     [[nodiscard]] static QColor warning() { return palette().warning; }
     [[nodiscard]] static QColor link() { return palette().link; }
+    [[nodiscard]] static QColor primaryEdge() { return palette().primaryEdge; }
+    [[nodiscard]] static QColor edge() { return palette().edge; }
+    [[nodiscard]] static QColor veil() { return palette().veil; }
     [[nodiscard]] static QColor hairline() { return withAlpha(highEmphasis(), palette().hairline); }
 
-    /// Shadows are invisible on a dark background, where a lighter surface sets a card off.
-    [[nodiscard]] static bool hasShadows() { return KelAppearance::current().theme() == KelTheme::light; }
+    [[nodiscard]] static bool hasShadows() { return palette().shadow; }
 
     [[nodiscard]] Q_INVOKABLE static QColor withAlpha(QColor color, double alpha);
     /// The pale background of a strip or disc in the given colour.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 // The macro has to stand outside any namespace; see KelDSIcons.
 static void initFontResources() {
@@ -32,12 +33,16 @@ void registerFaces() {
 
 } // namespace
 
-QFont KelFonts::font(int size, int weight) {
+KelFonts::KelFonts(QObject* parent) : QObject(parent) {
+    connect(&KelAppearance::current(), &KelAppearance::changed, this, &KelFonts::changed);
+}
+
+QFont KelFonts::scaled(int size, int weight, double scale) {
     registerFaces();
     static constexpr QFont::Weight weights[] = {QFont::Normal, QFont::Medium, QFont::DemiBold};
     const int pixels = pixelSizes[static_cast<std::size_t>(std::clamp(size, 0, int(Overline)))];
     QFont result(pixels < smallestDisplaySize ? QStringLiteral("Inter") : QStringLiteral("Inter Display"));
-    result.setPixelSize(pixels);
+    result.setPixelSize(static_cast<int>(std::lround(pixels * scale)));
     result.setWeight(weights[std::clamp(weight, 0, 2)]);
     return result;
 }

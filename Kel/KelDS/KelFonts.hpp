@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KelDS/KelAppearance.hpp"
+
 #include <QFont>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -12,6 +14,8 @@ class KelFonts : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
+    /// The factor that texts, and what stands beside them, are enlarged by.
+    Q_PROPERTY(double scale READ scale NOTIFY changed FINAL)
 
 public:
     enum Size {
@@ -33,8 +37,17 @@ public:
     enum Weight { Regular, Medium, Bold };
     Q_ENUM(Weight)
 
-    /// The font of a size and a weight; an index outside the tokens gives the nearest one.
-    [[nodiscard]] Q_INVOKABLE static QFont font(int size, int weight);
+    explicit KelFonts(QObject* parent = nullptr);
+
+    /// The font of a size and a weight, enlarged by the text scale in force; an index outside the tokens gives
+    /// the nearest one.
+    [[nodiscard]] static QFont font(int size, int weight) { return scaled(size, weight, scale()); }
+    /// The same enlarged by another factor; for QML, where a binding has to name what it depends on.
+    [[nodiscard]] Q_INVOKABLE static QFont scaled(int size, int weight, double scale);
+    [[nodiscard]] static double scale() { return KelAppearance::current().textScale(); }
+
+Q_SIGNALS:
+    void changed();
 };
 
 } // namespace kel

@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
+#include <algorithm>
+
 namespace kel {
 
 /// Distances between things, in device-independent pixels.
@@ -93,16 +95,17 @@ public:
     static constexpr double high = 0.92;
 };
 
-/// How long things take to move, in milliseconds, and whether anything but opacity may.
+/// How long things take to move, in milliseconds, and whether anything but opacity may. With reduced motion
+/// nothing takes longer than `reducedLongest`.
 class KelMotion : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    Q_PROPERTY(int press MEMBER press CONSTANT FINAL)
-    Q_PROPERTY(int panel MEMBER panel CONSTANT FINAL)
-    Q_PROPERTY(int dialogIn MEMBER dialogIn CONSTANT FINAL)
-    Q_PROPERTY(int dialogOut MEMBER dialogOut CONSTANT FINAL)
-    Q_PROPERTY(int page MEMBER page CONSTANT FINAL)
+    Q_PROPERTY(int press READ pressNow NOTIFY changed FINAL)
+    Q_PROPERTY(int panel READ panelNow NOTIFY changed FINAL)
+    Q_PROPERTY(int dialogIn READ dialogInNow NOTIFY changed FINAL)
+    Q_PROPERTY(int dialogOut READ dialogOutNow NOTIFY changed FINAL)
+    Q_PROPERTY(int page READ pageNow NOTIFY changed FINAL)
     Q_PROPERTY(bool reduced READ isReduced NOTIFY changed FINAL)
 
 public:
@@ -111,14 +114,23 @@ public:
     static constexpr int dialogIn = 200;
     static constexpr int dialogOut = 700;
     static constexpr int page = 300;
+    static constexpr int reducedLongest = 150;
 
     explicit KelMotion(QObject* parent = nullptr) : QObject(parent) {
         connect(&KelAppearance::current(), &KelAppearance::changed, this, &KelMotion::changed);
     }
     [[nodiscard]] static bool isReduced() { return KelAppearance::current().hasReducedMotion(); }
+    [[nodiscard]] static int pressNow() { return now(press); }
+    [[nodiscard]] static int panelNow() { return now(panel); }
+    [[nodiscard]] static int dialogInNow() { return now(dialogIn); }
+    [[nodiscard]] static int dialogOutNow() { return now(dialogOut); }
+    [[nodiscard]] static int pageNow() { return now(page); }
 
 Q_SIGNALS:
     void changed();
+
+private:
+    [[nodiscard]] static int now(int usual) { return isReduced() ? std::min(usual, reducedLongest) : usual; }
 };
 
 } // namespace kel

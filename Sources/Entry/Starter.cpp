@@ -3,6 +3,7 @@
 #include "Entry/BuildSettings.hpp"
 #include "Platform/Screens/MainQueuePump.hpp"
 #include "Platform/Screens/NavigationController.hpp"
+#include "Platform/Screens/SafeArea.hpp"
 #include "SaleSummary/SaleSummaryFactory.hpp"
 #include "Views/QuilletViews.hpp"
 
@@ -61,6 +62,10 @@ bool present(const std::shared_ptr<platform::QuickViewController>& screen, QQuic
     auto& navigation = platform::NavigationController::of(stackView);
     navigation.setCoverArea(coverArea);
     return navigation.push(screen);
+}
+
+void setSafeAreaInsets(QQuickItem& area, const QMarginsF& insets) {
+    platform::SafeArea::setInsets(area, insets);
 }
 
 } // namespace quillet

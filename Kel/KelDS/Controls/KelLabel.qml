@@ -8,9 +8,11 @@ Text {
     property int size: KelFonts.Subtitle1
     property int weight: KelFonts.Regular
 
-    font: KelFonts.font(label.size, label.weight)
+    font: KelFonts.scaled(label.size, label.weight, KelFonts.scale)
     color: KelColors.highEmphasis
     textFormat: Text.PlainText
+    // Said, so that mirroring turns it round whatever the text is written in.
+    horizontalAlignment: Text.AlignLeft
     verticalAlignment: Text.AlignVCenter
     Accessible.role: Accessible.StaticText
     Accessible.name: label.text

@@ -18,7 +18,7 @@ class ProductsHeaderView final : public quillet::ThemedView {
     QML_UNCREATABLE("Part of a ProductsCheckoutStatusView")
     Q_PROPERTY(quillet::IconStatusProductsView* iconView READ iconView CONSTANT FINAL)
     Q_PROPERTY(QString mainMessage READ mainMessage CONSTANT FINAL)
-    Q_PROPERTY(QFont mainMessageFont READ mainMessageFont CONSTANT FINAL)
+    Q_PROPERTY(QFont mainMessageFont READ mainMessageFont NOTIFY themeChanged FINAL)
     Q_PROPERTY(QColor mainMessageColor READ mainMessageColor NOTIFY themeChanged FINAL)
     Q_PROPERTY(QList<quillet::TextWithTagView> textWithTagViews READ textWithTagViews CONSTANT FINAL)
 

@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 
+class QMarginsF;
 class QQuickItem;
 
 namespace quillet::platform {
@@ -84,5 +85,12 @@ private:
 /// with the reason in the log, if the screen could not be shown. Main thread only.
 QUILLET_API bool present(const std::shared_ptr<platform::QuickViewController>& screen, QQuickItem& stackView,
                          QQuickItem* coverArea = nullptr);
+
+/// Tells how much of the edges of `area` a notch, rounded corners or a gesture bar of the device take, in
+/// device-independent pixels; negative insets count as none. `area` is an item around the StackView, such as
+/// the content item of the window. What the module lets a person touch or read then keeps off these edges,
+/// also where it is on the screen already. From Qt 6.9 on the module reads them from the window where a host
+/// sets none. Main thread only.
+QUILLET_API void setSafeAreaInsets(QQuickItem& area, const QMarginsF& insets);
 
 } // namespace quillet

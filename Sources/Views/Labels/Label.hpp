@@ -15,7 +15,7 @@ class Label : public quillet::ThemedView {
     QML_ELEMENT
     QML_UNCREATABLE("Made by the view that holds it")
     Q_PROPERTY(quillet::Captioned text READ text CONSTANT FINAL)
-    Q_PROPERTY(QFont font READ font CONSTANT FINAL)
+    Q_PROPERTY(QFont font READ font NOTIFY themeChanged FINAL)
     Q_PROPERTY(QColor color READ color NOTIFY themeChanged FINAL)
 
 public:

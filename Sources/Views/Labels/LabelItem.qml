@@ -11,7 +11,7 @@ KelLabel {
     visible: item.text !== ""
     text: item.label ? item.label.text.styledText : ""
     textFormat: Text.StyledText
-    font: item.label ? item.label.font : KelFonts.font(KelFonts.Subtitle1, KelFonts.Regular)
+    font: item.label ? item.label.font : KelFonts.scaled(KelFonts.Subtitle1, KelFonts.Regular, KelFonts.scale)
     color: item.label ? item.label.color : KelColors.highEmphasis
     wrapMode: Text.Wrap
     Accessible.name: item.label ? item.label.text.plainText : ""

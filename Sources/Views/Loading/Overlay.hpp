@@ -8,17 +8,15 @@
 
 namespace quillet {
 
-/// The layer between a screen and the progress indicator: highEmphasis with the opacity mediumHigh. In the
-/// dark theme that colour is light, and the ring's contrast would be 1.1:1, so black is used there.
+/// The layer between a screen and the progress indicator: the theme's veil with the opacity mediumHigh. In the
+/// light theme the veil has the colour highEmphasis; where that is light, the ring's contrast would be 1.1:1.
 class Overlay {
 public:
     explicit Overlay(std::unique_ptr<Opacity> opacity = std::make_unique<Opacities>())
         : opacity_(std::move(opacity)) {}
 
     [[nodiscard]] QColor color() const {
-        const bool isLight = kel::KelAppearance::current().theme() == kel::KelTheme::light;
-        return kel::KelColors::withAlpha(isLight ? kel::KelColors::highEmphasis() : QColor(Qt::black),
-                                         opacity_->mediumHigh());
+        return kel::KelColors::withAlpha(kel::KelColors::veil(), opacity_->mediumHigh());
     }
 
 private:

@@ -7,14 +7,12 @@ namespace kel {
 
 void useDesignSystem(QQmlEngine& engine);
 
-enum class KelTheme { light, dark };
 
 struct KelAppearance : QObject {
     Q_OBJECT
 
 public:
     static KelAppearance& current();
-    KelTheme theme() const { return KelTheme::light; }
     bool hasReducedMotion() const { return true; }
 Q_SIGNALS:
     void changed();
@@ -51,6 +49,8 @@ struct KelColors : QObject {
     KEL_COLOR(success, 0x006000)
     KEL_COLOR(alert, 0xa00000)
     KEL_COLOR(warning, 0x806000)
+    KEL_COLOR(edge, 0x444444)
+    KEL_COLOR(veil, 0x000000)
     static QColor withAlpha(QColor c, double alpha) {
         return QColor(c.red(), c.green(), c.blue(), int(255 * alpha));
     }
@@ -97,7 +97,12 @@ struct KelFonts : QObject {
     Q_ENUM(Size)
     enum Weight { Regular = QFont::Normal, Medium = QFont::Medium, Bold = QFont::Bold };
     Q_ENUM(Weight)
-    Q_INVOKABLE static QFont font(int size, int weight) { return QFont("sans", 14 - size, weight); }
+    Q_PROPERTY(double scale MEMBER scale CONSTANT)
+    static constexpr double scale = 1;
+    static QFont font(int size, int weight) { return scaled(size, weight, 1); }
+    Q_INVOKABLE static QFont scaled(int size, int weight, double scale) {
+        return QFont("sans", int(scale * (14 - size)), weight);
+    }
 };
 struct KelIcons : QObject {
     KEL_SINGLETON

@@ -4,6 +4,6 @@ import KelDS
 Text {
     property int size: KelFonts.Subtitle1
     property int weight: KelFonts.Regular
-    font: KelFonts.font(size, weight)
+    font: KelFonts.scaled(size, weight, KelFonts.scale)
     textFormat: Text.PlainText
 }
