@@ -8,7 +8,7 @@ namespace quillet::docs {
 
 /// Each prints one table in Markdown, or one example. They ask the module itself, so that they tell what it
 /// does; examples are cut out of tests. `root` is the project's folder.
-void printTexts(std::ostream& out, const std::string& root);
+void printTexts(std::ostream& out);
 void printHostTable(std::ostream& out, const std::string& root);
 void printHostCode(std::ostream& out, const std::string& root);
 void printScreens(std::ostream& out);

@@ -4,7 +4,6 @@
 #include "Resources/ModuleBundle.hpp"
 
 #include <QFile>
-#include <QXmlStreamReader>
 
 #include <ostream>
 #include <stdexcept>
@@ -21,33 +20,33 @@ QByteArray contents(const std::string& path) {
     return file.readAll();
 }
 
-// The keys in the order of the table of texts; the library keeps no list of them.
-QStringList keysOf(const std::string& root) {
-    QXmlStreamReader xml(contents(root + "/Sources/Resources/Texts/quillet_en.ts"));
-    QStringList keys;
-    while (!xml.atEnd()) {
-        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("source")) {
-            keys << xml.readElementText();
-        }
+QString textIn(const char* language, const char* key) {
+    kel::setLanguage(language);
+    return kel::localized(key, moduleBundle());
+}
+
+QString countsIn(const char* language, const char* key) {
+    kel::setLanguage(language);
+    const auto count = kel::localizedCount(key, moduleBundle());
+    return count(1) + QLatin1String(", ") + count(2);
+}
+
+void printText(std::ostream& out, const char* key, QString (*in)(const char* language, const char* key)) {
+    std::vector<std::string> cells{'`' + std::string(key) + '`'};
+    for (const char* language : {"es", "pt", "en"}) {
+        cells.push_back(in(language, key).toStdString());
     }
-    return keys;
+    printRow(out, cells);
 }
 
 } // namespace
 
-void printTexts(std::ostream& out, const std::string& root) {
+void printTexts(std::ostream& out) {
     printHead(out, {"Key", "Spanish", "Portuguese", "English"});
-    for (const QString& key : keysOf(root)) {
-        std::vector<std::string> cells{'`' + key.toStdString() + '`'};
-        for (const char* language : {"es", "pt", "en"}) {
-            kel::setLanguage(language);
-            const QByteArray name = key.toUtf8();
-            const QString text = kel::localized(name, moduleBundle());
-            const auto count = kel::localizedCount(name, moduleBundle());
-            cells.push_back((key == "points count" ? count(1) + ", " + count(2) : text).toStdString());
-        }
-        printRow(out, cells);
-    }
+#define QUILLET_TEXT(name, key) printText(out, key, textIn);
+#define QUILLET_NUMBERED_TEXT(name, key) QUILLET_TEXT(name, key)
+#define QUILLET_COUNTED_TEXT(name, key) printText(out, key, countsIn);
+#include "Resources/LocalizationKeys.def"
 }
 
 void printHostTable(std::ostream& out, const std::string& root) {

@@ -33,7 +33,7 @@ void printHead(std::ostream& out, const std::vector<std::string>& cells) {
 int main(int argc, char** argv) {
     using namespace quillet::docs;
     const std::map<std::string, std::function<void()>> tables{
-        {"texts", [&] { printTexts(std::cout, argv[2]); }},
+        {"texts", [] { printTexts(std::cout); }},
         {"host-table", [&] { printHostTable(std::cout, argv[2]); }},
         {"host-code", [&] { printHostCode(std::cout, argv[2]); }},
         {"screens", [] { printScreens(std::cout); }},

@@ -19,9 +19,14 @@ namespace kel {
 namespace {
 Q_LOGGING_CATEGORY(lcDialog, "kel.dialog")
 
+namespace keys {
+#define KEL_TEXT(name, key) constexpr auto name = key;
+#include "KelDS/KelTextKeys.def"
+} // namespace keys
+
 QString closeText() {
     initTextResources();
-    return localized("Close", {QStringLiteral(":/kel/texts"), QStringLiteral("kelds")});
+    return localized(keys::close, {QStringLiteral(":/kel/texts"), QStringLiteral("kelds")});
 }
 
 } // namespace

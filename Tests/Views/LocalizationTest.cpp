@@ -19,6 +19,7 @@ TEST(Localization, ChoosesThePluralByTheCountAndWritesAllItsDigits) {
         {0, "0 puntos", "0 ponto", "0 points"},
         {1, "1 punto", "1 ponto", "1 point"},
         {2, "2 puntos", "2 pontos", "2 points"},
+        {5, "5 puntos", "5 pontos", "5 points"},
         {(quint64{1} << 32) + 1, "4294967297 puntos", "4294967297 pontos", "4294967297 points"},
         {largest, "18446744073709551615 puntos", "18446744073709551615 pontos",
          "18446744073709551615 points"},
