@@ -1,5 +1,7 @@
 #include "Options.hpp"
 
+#include "Language.hpp"
+
 #include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
@@ -74,7 +76,7 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
                                   QStringLiteral("DIR"));
     const QCommandLineOption program(QStringLiteral("gateway-program"),
                                      QStringLiteral("The gateway to start."), QStringLiteral("FILE"));
-    const QCommandLineOption language(QStringLiteral("language"), QStringLiteral("es, pt or en (es)."),
+    const QCommandLineOption language(QStringLiteral("language"), languageRule() + QStringLiteral(" (es)."),
                                       QStringLiteral("CODE"), QStringLiteral("es"));
     const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Use the dark theme."));
     const QCommandLineOption reducedMotion(QStringLiteral("reduced-motion"),
@@ -103,9 +105,9 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
     options.language = parser.value(language);
     options.dark = parser.isSet(dark);
     options.reducedMotion = parser.isSet(reducedMotion);
-    if (!QStringList{QStringLiteral("es"), QStringLiteral("pt"), QStringLiteral("en")}.contains(
-            options.language)) {
-        return std::unexpected(QStringLiteral("--language is es, pt or en, not ") + options.language);
+    if (!isLanguage(options.language)) {
+        return std::unexpected(
+            QStringLiteral("--language is %1, not %2").arg(languageRule(), options.language));
     }
     if (parser.isSet(tour) + parser.isSet(play) + parser.isSet(controls) > 1) {
         return std::unexpected(QStringLiteral("--tour, --play and --controls do not go together"));

@@ -1,7 +1,7 @@
 #include "ControlsSheet.hpp"
 #include "HostApplication.hpp"
-#include "KelCommon/KelLocalized.hpp"
 #include "KelDS/KelAppearance.hpp"
+#include "Language.hpp"
 #include "Options.hpp"
 #include "Play/PlayRunner.hpp"
 #include "Play/WarningCounter.hpp"
@@ -170,7 +170,7 @@ int main(int argc, char** argv) {
 
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("quillet-host"));
-    kel::setLanguage(options->language);
+    demo::useLanguage(options->language);
     kel::KelAppearance::current().setTheme(options->dark ? kel::KelTheme::dark : kel::KelTheme::light);
     kel::KelAppearance::current().setReducedMotion(options->reducedMotion);
 

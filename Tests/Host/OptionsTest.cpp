@@ -33,7 +33,7 @@ TEST(Options, RefuseEachWrongCombinationInOneLine) {
         {{"--play", "a", "--out", "d", "--gateway", "h:1", "--ca", "/"}, "cannot read the CA file /"},
         {{"--play", "a", "--out", "d", "--gateway", "h:1", "--ca", ca}, "no certificate in the CA file"},
         {{"--port", "65536"}, "not a port: 65536"},
-        {{"--language", "fi"}, "--language is es, pt or en, not fi"},
+        {{"--language", "fi"}, "--language is es, pt, en, xa or xb, not fi"},
         {{"--size", "390"}, "--size is WxH, each from 320 to 1280, not 390"},
         {{"--size", "319x568"}, "--size is WxH, each from 320 to 1280, not 319x568"},
         {{"--size", "390x1281"}, "--size is WxH"},

@@ -54,6 +54,7 @@ TEST(PlayScript, ReadsEachKindOfStep) {
         {"open cart=a=b consultant=1 country=CL", "open a=b 1 CL sample-access-token sample-idp 0"},
         {"handmade ERROR_CART_ALREADY_SUBMITTED", "handmade ERROR_CART_ALREADY_SUBMITTED"},
         {"language pt", "language pt"},
+        {"language xb", "language xb"},
         {"close", "close"},
         {R"(tap "Ver Pedidos")", "tap Ver Pedidos"},
         {R"(tap "Ver Pedidos" by=touch)", "tap Ver Pedidos by touch"},

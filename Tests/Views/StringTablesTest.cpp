@@ -1,4 +1,5 @@
 #include "StringTable.hpp"
+#include "Views/TextKeys.hpp"
 
 #include <QRegularExpression>
 
@@ -7,35 +8,6 @@
 namespace quillet::testing {
 
 namespace {
-
-/// A key as the code uses it.
-struct Key {
-    QString key;
-    bool isCounted = false;
-    /// What each form of a text holds the place for.
-    QStringList placeholders;
-};
-
-struct Family {
-    /// The tables' path in the project, without language and ending.
-    QString path;
-    std::vector<Key> keys;
-};
-
-const Family families[] = {
-    {"Sources/Resources/Texts/quillet",
-     {
-#define QUILLET_TEXT(name, key) {key, false, {}},
-#define QUILLET_NUMBERED_TEXT(name, key) {key, false, {"%n"}},
-#define QUILLET_COUNTED_TEXT(name, key) {key, true, {"%n"}},
-#include "Resources/LocalizationKeys.def"
-     }},
-    {"Kel/KelDS/Texts/kelds",
-     {
-#define KEL_TEXT(name, key) {key, false, {}},
-#include "KelDS/KelTextKeys.def"
-     }},
-};
 
 QStringList placeholdersOf(const QString& text) {
     static const QRegularExpression placeholder("%[A-Za-z0-9]+");
@@ -46,7 +18,7 @@ QStringList placeholdersOf(const QString& text) {
     return found;
 }
 
-QString faultOf(const demo::StringTableEntry& entry, const Key& key) {
+QString faultOf(const demo::StringTableEntry& entry, const TextKey& key) {
     if (!entry.isFinished) {
         return "is not finished";
     }
@@ -68,19 +40,19 @@ QString faultOf(const demo::StringTableEntry& entry, const Key& key) {
     return {};
 }
 
-std::vector<std::string> faultsOf(const demo::StringTable& table, const std::vector<Key>& keys) {
+std::vector<std::string> faultsOf(const demo::StringTable& table, const std::vector<TextKey>& keys) {
     std::vector<std::string> faults;
     const auto blame = [&](const QString& key, const QString& fault) {
         faults.push_back(('"' + key + "\" " + fault).toStdString());
     };
-    for (const Key& key : keys) {
-        const auto count = std::ranges::count(table.entries, key.key, &demo::StringTableEntry::key);
+    for (const TextKey& key : keys) {
+        const auto count = std::ranges::count(table.entries, QString(key.key), &demo::StringTableEntry::key);
         if (count != 1) {
             blame(key.key, count == 0 ? "has no entry" : "has several entries");
         }
     }
     for (const auto& entry : table.entries) {
-        const auto key = std::ranges::find(keys, entry.key, &Key::key);
+        const auto key = std::ranges::find(keys, entry.key, &TextKey::key);
         const QString fault = key == keys.end() ? "is no key of the code" : faultOf(entry, *key);
         if (!fault.isEmpty()) {
             blame(entry.key, fault);
@@ -92,7 +64,7 @@ std::vector<std::string> faultsOf(const demo::StringTable& table, const std::vec
 } // namespace
 
 TEST(StringTables, HoldAFinishedTextForEachKeyOfTheCodeAndNoOther) {
-    for (const auto& [path, keys] : families) {
+    for (const auto& [path, keys] : textFamilies()) {
         for (const char* language : {"es", "pt", "en"}) {
             const QString file = path + '_' + language + ".ts";
             SCOPED_TRACE(file.toStdString());

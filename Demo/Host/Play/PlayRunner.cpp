@@ -1,6 +1,6 @@
 #include "Play/PlayRunner.hpp"
 
-#include "KelCommon/KelLocalized.hpp"
+#include "Language.hpp"
 #include "Play/Scroller.hpp"
 
 #include <QElapsedTimer>
@@ -112,7 +112,7 @@ QString PlayRunner::perform(const steps::Language& step) {
     if (hasOpened_) {
         return QStringLiteral("the language is chosen before the first screen");
     }
-    kel::setLanguage(step.code);
+    useLanguage(step.code);
     return {};
 }
 

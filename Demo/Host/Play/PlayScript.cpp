@@ -1,5 +1,6 @@
 #include "Play/PlayScript.hpp"
 
+#include "Language.hpp"
 #include "PhoneSize.hpp"
 
 #include <QHash>
@@ -179,9 +180,9 @@ Parsed parseHandmade(const Words& words) {
 }
 
 Parsed parseLanguage(const Words& words) {
-    const auto code = choice(words, {QStringLiteral("es"), QStringLiteral("pt"), QStringLiteral("en")});
-    return code ? Parsed(steps::Language{*code})
-                : std::unexpected(QStringLiteral("language takes es, pt or en"));
+    return words.size() == 1 && isLanguage(words.first())
+               ? Parsed(steps::Language{words.first()})
+               : std::unexpected(QStringLiteral("language takes ") + languageRule());
 }
 
 Parsed parseNetwork(const Words& words) {
