@@ -89,6 +89,14 @@ void SafeArea::setItem(QQuickItem* item) {
     Q_EMIT itemChanged();
 }
 
+void SafeArea::setInner(Qt::Edges edges) {
+    if (edges != inner_) {
+        inner_ = edges;
+        measure();
+        Q_EMIT innerChanged();
+    }
+}
+
 void SafeArea::followWindow() {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 9, 0)
     if (const QQuickWindow* window = item_ ? item_->window() : nullptr) {
@@ -110,6 +118,8 @@ void SafeArea::measure() {
         margins = insets ? marginsWithin(*item_, *area, insets->margins)
                          : marginsWithin(*item_, *outermost, windowInsets(*item_));
     }
+    margins = {inner_ & Qt::LeftEdge ? 0 : margins.left(), inner_ & Qt::TopEdge ? 0 : margins.top(),
+               inner_ & Qt::RightEdge ? 0 : margins.right(), inner_ & Qt::BottomEdge ? 0 : margins.bottom()};
     if (margins != margins_) {
         margins_ = margins;
         Q_EMIT changed();

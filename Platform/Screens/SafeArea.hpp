@@ -19,6 +19,8 @@ class SafeArea : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QQuickItem* item READ item WRITE setItem NOTIFY itemChanged FINAL)
+    /// Edges of the item beside which something else lies, so that they have no margin.
+    Q_PROPERTY(Qt::Edges inner READ inner WRITE setInner NOTIFY innerChanged FINAL)
     Q_PROPERTY(double left READ left NOTIFY changed FINAL)
     Q_PROPERTY(double top READ top NOTIFY changed FINAL)
     Q_PROPERTY(double right READ right NOTIFY changed FINAL)
@@ -32,6 +34,8 @@ public:
 
     [[nodiscard]] QQuickItem* item() const { return item_; }
     void setItem(QQuickItem* item);
+    [[nodiscard]] Qt::Edges inner() const { return inner_; }
+    void setInner(Qt::Edges edges);
     [[nodiscard]] double left() const { return margins_.left(); }
     [[nodiscard]] double top() const { return margins_.top(); }
     [[nodiscard]] double right() const { return margins_.right(); }
@@ -39,6 +43,7 @@ public:
 
 Q_SIGNALS:
     void itemChanged();
+    void innerChanged();
     void changed();
 
 private:
@@ -46,6 +51,7 @@ private:
     void followWindow();
 
     QPointer<QQuickItem> item_;
+    Qt::Edges inner_;
     QMarginsF margins_;
 };
 

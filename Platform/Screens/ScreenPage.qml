@@ -6,11 +6,19 @@ import Quillet.Screens
 ScreenItem {
     id: page
 
+    // What the device takes of the stack's edges; not of the page's own, which slide.
+    readonly property SafeArea safeArea: SafeArea {
+        item: page.StackView.view
+    }
+    readonly property bool mirrored: Qt.application.layoutDirection === Qt.RightToLeft
     // Whether the page is the one that is shown, or about to be.
     readonly property bool onTop: StackView.status === StackView.Active || StackView.status === StackView.Activating
 
     // What is scrolled must not reach over the host's bar, whether or not the host cuts its pages off.
     clip: true
+    focus: page.onTop
+    LayoutMirroring.enabled: page.mirrored
+    LayoutMirroring.childrenInherit: true
     StackView.onActivating: page.viewWillAppear()
     StackView.onDeactivating: page.viewWillDisappear()
     StackView.onRemoved: page.viewDidLeave()

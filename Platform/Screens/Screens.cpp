@@ -1,5 +1,7 @@
 #include "Platform/Screens/Screens.hpp"
 
+#include "Platform/Screens/Accessible/AccessibleItem.hpp"
+
 #include <QQmlEngine>
 
 extern void qml_register_types_Quillet_Screens();
@@ -15,6 +17,7 @@ void useScreens(QQmlEngine& engine) {
     static const bool once = [] {
         initScreenResources();
         qml_register_types_Quillet_Screens();
+        useAccessibleItems();
         return true;
     }();
     static_cast<void>(once);
