@@ -39,8 +39,8 @@ public:
 
     explicit KelFonts(QObject* parent = nullptr);
 
-    /// The font of a size and a weight, enlarged by the text scale in force; an index outside the tokens gives
-    /// the nearest one.
+    /// The font of a size and a weight, enlarged by the text scale in force; an index outside the tokens
+    /// gives the nearest one.
     [[nodiscard]] static QFont font(int size, int weight) { return scaled(size, weight, scale()); }
     /// The same enlarged by another factor; for QML, where a binding has to name what it depends on.
     [[nodiscard]] Q_INVOKABLE static QFont scaled(int size, int weight, double scale);

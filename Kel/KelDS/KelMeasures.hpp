@@ -28,7 +28,9 @@ public:
     static constexpr int standard = 32;
 };
 
-/// Sizes of things, in device-independent pixels. `touch` is the least that a finger hits without fail.
+/// Sizes of things, in device-independent pixels. `touch` is the least that a finger hits without fail. Of
+/// greatest widths, `column` is that of a column of text and cards, and `dialog` that of a dialog or a
+/// button. `wide` is the width from which a page has two columns.
 class KelSizes : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -43,6 +45,9 @@ class KelSizes : public QObject {
     Q_PROPERTY(int mediumX MEMBER mediumX CONSTANT FINAL)
     Q_PROPERTY(int large MEMBER large CONSTANT FINAL)
     Q_PROPERTY(int touch MEMBER touch CONSTANT FINAL)
+    Q_PROPERTY(int dialog MEMBER dialog CONSTANT FINAL)
+    Q_PROPERTY(int column MEMBER column CONSTANT FINAL)
+    Q_PROPERTY(int wide MEMBER wide CONSTANT FINAL)
 
 public:
     static constexpr int micro = 4;
@@ -55,6 +60,9 @@ public:
     static constexpr int mediumX = 56;
     static constexpr int large = 64;
     static constexpr int touch = 44;
+    static constexpr int dialog = 480;
+    static constexpr int column = 640;
+    static constexpr int wide = 840;
 };
 
 /// Radii of corners, in device-independent pixels. Buttons sit between two steps of the scale.

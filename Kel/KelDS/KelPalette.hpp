@@ -19,8 +19,8 @@ struct KelPalette {
     QRgb primaryEdge;
     /// Scroll hints, and the edge of a dialog's card.
     QRgb edge;
-    /// What dims a screen while it cannot be used, at an opacity token. It is dark in every theme, as the ring
-    /// of a progress indicator would vanish on a light one.
+    /// What dims a screen while it cannot be used, at an opacity token. It is dark in every theme, as the
+    /// ring of a progress indicator would vanish on a light one.
     QRgb veil;
     /// Opacities of hairlines and of tints.
     double hairline, tint;

@@ -30,7 +30,7 @@ KelPressable {
              : button.enabled ? KelColors.primary
                               : KelColors.withAlpha(KelColors.highEmphasis, KelOpacity.disabled)
         border.width: button.outlined ? 1.5 : 0
-        border.color: button.enabled ? KelColors.primary
+        border.color: button.enabled ? KelColors.primaryEdge
                                      : KelColors.withAlpha(KelColors.highEmphasis, KelOpacity.disabled)
 
         Rectangle {

@@ -15,9 +15,9 @@ Popup {
     // Whether it comes and goes by a fade.
     property bool animated: true
 
-    x: KelSpacing.small
+    x: Math.round((dialog.parent.width - dialog.width) / 2)
     y: Math.round((dialog.parent.height - dialog.height) / 2)
-    width: dialog.parent.width - 2 * KelSpacing.small
+    width: Math.min(KelSizes.dialog, dialog.parent.width - 2 * KelSpacing.small)
     height: Math.min(dialog.implicitHeight, dialog.parent.height - 2 * KelSpacing.small)
     topPadding: KelSizes.medium
     bottomPadding: KelSpacing.semi
@@ -33,6 +33,8 @@ Popup {
     background: Rectangle {
         radius: KelBorderRadius.large
         color: KelColors.surface
+        border.width: 1
+        border.color: KelColors.edge
     }
     contentItem: Item { // qmllint disable deferred-property-id
         implicitHeight: content.height
@@ -74,8 +76,10 @@ Popup {
             readonly property real inset: KelSpacing.tiny - (KelSizes.touch - KelSizes.semiX) / 2
 
             objectName: "dialogCloseIcon"
-            x: parent.width + dialog.rightPadding - width - inset
-            y: inset - dialog.topPadding
+            anchors.right: parent.right
+            anchors.rightMargin: inset - dialog.rightPadding
+            anchors.top: parent.top
+            anchors.topMargin: inset - dialog.topPadding
             number: KelIcons.Close
             text: dialog.closeText
             focus: true

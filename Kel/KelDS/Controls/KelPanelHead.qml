@@ -11,8 +11,6 @@ KelPressable {
 
     implicitHeight: Math.max(KelSizes.mediumX, head.implicitContentHeight)
     text: head.title
-    Accessible.checkable: true
-    Accessible.checked: head.expanded
 
     background: Rectangle {
         anchors.fill: parent
@@ -26,19 +24,27 @@ KelPressable {
             cornerRadius: KelBorderRadius.large
         }
     }
-    contentItem: KelLabel {
-        leftPadding: KelSpacing.small
-        rightPadding: KelSpacing.small + KelSizes.standard + KelSpacing.tiny
-        topPadding: KelSpacing.tiny
-        bottomPadding: KelSpacing.tiny
-        text: head.title
-        weight: KelFonts.Bold
-        color: head.tone
-        wrapMode: Text.Wrap
-        Accessible.ignored: true
-        Accessible.name: ""
+    contentItem: Item {
+        implicitHeight: title.implicitHeight + 2 * KelSpacing.tiny
 
+        KelLabel {
+            id: title
+
+            anchors.left: parent.left
+            anchors.leftMargin: KelSpacing.small
+            anchors.right: icon.left
+            anchors.rightMargin: KelSpacing.tiny
+            anchors.verticalCenter: parent.verticalCenter
+            text: head.title
+            weight: KelFonts.Bold
+            color: head.tone
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+            Accessible.name: ""
+        }
         KelIcon {
+            id: icon
+
             anchors.right: parent.right
             anchors.rightMargin: KelSpacing.small
             height: parent.height

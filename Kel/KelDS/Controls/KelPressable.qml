@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import QtQuick.Templates as T
+import KelDS
 
 // Base of all tappable controls: touch, keyboard and screen reader. A key that is held down activates once.
 AbstractButton {
@@ -8,7 +9,7 @@ AbstractButton {
 
     // Whether touching down is enough; else the finger has to leave the control on it.
     property bool actsOnPress: false
-    property bool showsFocus: pressable.visualFocus
+    property bool showsFocus: pressable.activeFocus && KelInput.byKeys
 
     // By touch, key or screen reader.
     signal activated

@@ -11,7 +11,11 @@ Rectangle {
     property list<string> titles
     property int currentIndex: 0
 
-    implicitHeight: KelSizes.medium
+    // How far the titles keep off the sides beyond their usual distance.
+    property real leftInset: 0
+    property real rightInset: 0
+
+    implicitHeight: Math.max(KelSizes.medium, row.implicitHeight)
     color: KelColors.surface
     Accessible.role: Accessible.PageTabList
 
@@ -20,7 +24,10 @@ Rectangle {
         width: parent.width
     }
     Row {
-        x: KelSpacing.small
+        id: row
+
+        anchors.left: parent.left
+        anchors.leftMargin: KelSpacing.small + (tabs.LayoutMirroring.enabled ? tabs.rightInset : tabs.leftInset)
         height: parent.height
         spacing: KelSpacing.semi
 
@@ -35,19 +42,21 @@ Rectangle {
                 readonly property bool current: tab.index === tabs.currentIndex
 
                 height: parent.height
+                implicitHeight: implicitContentHeight + KelSpacing.small
                 text: tab.modelData
                 // A tab bar with a single tab leads nowhere else.
                 focusPolicy: tabs.titles.length > 1 ? Qt.StrongFocus : Qt.NoFocus
-                Accessible.role: Accessible.PageTab
-                Accessible.selected: tab.current
+                // A button is a button to screen readers whatever its role says, so its text stands for the tab.
+                Accessible.ignored: true
                 onActivated: tabs.currentIndex = tab.index
                 contentItem: KelLabel {
                     text: tab.text
                     size: KelFonts.Button
                     weight: KelFonts.Bold
                     color: tab.current ? KelColors.highEmphasis : KelColors.mediumEmphasis
-                    Accessible.ignored: true
-                    Accessible.name: ""
+                    Accessible.role: Accessible.PageTab
+                    Accessible.selected: tab.current
+                    Accessible.onPressAction: tabs.currentIndex = tab.index
                 }
                 background: Item {
                     Rectangle {
@@ -55,7 +64,7 @@ Rectangle {
                         width: parent.width
                         height: 3
                         visible: tab.current
-                        color: KelColors.primary
+                        color: KelColors.primaryEdge
                     }
                     KelFocusRing {
                         visible: tab.showsFocus

@@ -9,7 +9,7 @@ Rectangle {
     property int tagColor: KelTagColor.Alert
 
     implicitWidth: tag.text === "" ? KelSizes.semi : Math.max(KelSizes.semi, label.implicitWidth + KelSpacing.small)
-    implicitHeight: tag.text === "" ? KelSizes.tiny : KelSizes.standard
+    implicitHeight: tag.text === "" ? KelSizes.tiny : Math.max(KelSizes.standard, label.implicitHeight + KelSpacing.tiny)
     radius: height / 2
     color: [KelColors.primary, KelColors.success, KelColors.warning, KelColors.alert, KelColors.link][tag.tagColor]
 

@@ -7,7 +7,6 @@ namespace kel {
 
 void useDesignSystem(QQmlEngine& engine);
 
-
 struct KelAppearance : QObject {
     Q_OBJECT
 
@@ -71,6 +70,9 @@ public:
     KEL_NUMBER(mediumX, 50)
     KEL_NUMBER(large, 60)
     KEL_NUMBER(touch, 44)
+    KEL_NUMBER(dialog, 400)
+    KEL_NUMBER(column, 600)
+    KEL_NUMBER(wide, 800)
 };
 struct KelSpacing : kel::KelMeasures {
     KEL_SINGLETON
