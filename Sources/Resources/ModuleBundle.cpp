@@ -1,5 +1,7 @@
 #include "Resources/ModuleBundle.hpp"
 
+#include "KelDS/KelDS.hpp"
+
 // The resources of a static library stay with the program only if they are asked for by name, outside any
 // namespace.
 static void initModuleResources() {
@@ -19,7 +21,10 @@ const kel::KelBundle& moduleBundle() {
 
 QUrl moduleImage(const QString& name) {
     static_cast<void>(moduleBundle());
-    return QUrl(QStringLiteral("qrc:/quillet/images/%1.svg").arg(name));
+    // The greys of a drawing have to stand out from the ground.
+    const bool isDark = kel::KelColors::surface().lightnessF() < 0.5F;
+    return QUrl(QStringLiteral("qrc:/quillet/images/%1%2.svg")
+                    .arg(name, isDark ? QStringLiteral("-dark") : QString()));
 }
 
 } // namespace quillet

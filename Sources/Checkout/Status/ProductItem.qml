@@ -9,8 +9,10 @@ Item {
     required property productRow product
     required property bool first
 
-    // Numbers of twenty digits leave no room for the texts between them: points and texts then go below the badge.
-    readonly property bool crowded: badge.width + pointsLabel.implicitWidth > item.width / 2
+    // Where the numbers leave no room for the words between them, points and texts go below the badge.
+    readonly property real widestText: item.width - 2 * KelSpacing.small - tile.width - KelSpacing.tiny
+    readonly property real roomForTexts: item.widestText - badge.width - 12 - 12 - pointsLabel.implicitWidth
+    readonly property bool crowded: !Words.fit(item.product.description + " " + item.product.code, name.font, item.roomForTexts)
 
     // A screen reader says the row as one, not as four loose texts.
     Accessible.role: Accessible.ListItem
@@ -18,13 +20,16 @@ Item {
     implicitHeight: Math.max(tile.y + tile.height, texts.y + texts.height) + KelSpacing.small
 
     KelDivider {
-        x: item.first ? KelSpacing.small : badge.x
-        width: parent.width - x - KelSpacing.small
+        anchors.left: item.first ? parent.left : badge.left
+        anchors.leftMargin: item.first ? KelSpacing.small : 0
+        anchors.right: parent.right
+        anchors.rightMargin: KelSpacing.small
     }
     Rectangle {
         id: tile
 
-        x: KelSpacing.small
+        anchors.left: parent.left
+        anchors.leftMargin: KelSpacing.small
         y: KelSpacing.small + 1
         width: KelSizes.semiX
         height: KelSizes.semiX
@@ -40,10 +45,11 @@ Item {
     Rectangle {
         id: badge
 
-        x: tile.x + tile.width + KelSpacing.tiny
+        anchors.left: tile.right
+        anchors.leftMargin: KelSpacing.tiny
         y: tile.y
         width: Math.max(KelSizes.standard, quantityLabel.implicitWidth + 12)
-        height: KelSizes.standard
+        height: Math.max(KelSizes.standard, quantityLabel.implicitHeight + KelSpacing.tiny)
         radius: KelBorderRadius.small
         color: KelColors.primary
 
@@ -62,12 +68,15 @@ Item {
     Column {
         id: texts
 
-        x: item.crowded ? badge.x : badge.x + badge.width + 12
+        anchors.left: item.crowded ? badge.left : badge.right
+        anchors.leftMargin: item.crowded ? 0 : 12
         y: item.crowded ? pointsLabel.y + pointsLabel.height + KelSpacing.micro : tile.y
-        width: (item.crowded ? item.width - KelSpacing.small : pointsLabel.x - 12) - x
+        width: item.crowded ? item.widestText : item.roomForTexts
         spacing: KelSpacing.micro
 
         KelLabel {
+            id: name
+
             width: parent.width
             visible: item.product.description !== ""
             text: item.product.description
@@ -100,9 +109,10 @@ Item {
     KelLabel {
         id: pointsLabel
 
-        x: item.crowded ? badge.x : parent.width - KelSpacing.small - width
+        anchors.right: parent.right
+        anchors.rightMargin: KelSpacing.small
         y: item.crowded ? badge.y + badge.height + KelSpacing.micro : tile.y
-        width: item.crowded ? parent.width - KelSpacing.small - x : implicitWidth
+        width: item.crowded ? item.widestText : implicitWidth
         text: item.product.points
         Accessible.ignored: true
         size: KelFonts.Subtitle2

@@ -4,76 +4,198 @@
 import QtQuick
 import KelDS
 import Quillet
+import Quillet.Screens
 
-// One list: what stands above the products is its header, what stands below them its footer, so that only the rows in
-// view are ever made.
-ListView {
-    id: list
+// A result. In one column it is one list: what stands above the products is its header, what stands below them its footer,
+// so that only the rows in view are ever made. Where there is room for two columns, both stand beside the list.
+Item {
+    id: root
 
     required property ProductsCheckoutStatusView status
+    required property SafeArea safeArea
     // Read here, because types are not known inside the components below.
-    readonly property ShippingStatusProductsView products: list.status.products
-    readonly property rememberLabel rememberLabel: list.status.rememberLabel
-    readonly property button goToCartButton: list.status.goToCartButton
+    readonly property ShippingStatusProductsView products: root.status.products
+    readonly property rememberLabel rememberLabel: root.status.rememberLabel
+    readonly property button goToCartButton: root.status.goToCartButton
+    readonly property bool isWide: root.width - root.safeArea.left - root.safeArea.right >= KelSizes.wide
 
     // How many products there is room for below a row. None is lower than its tile with the spacing around it.
     function roomBelow(row: Item): int {
         const room = list.contentY + list.height - row.y - KelSizes.mediumX
         return Math.ceil(Math.max(0, Math.min(room, list.height)) / (KelSizes.semiX + 2 * KelSpacing.small))
     }
-
     function toggle(row: Item, index: int) {
-        list.products.toggle(index, list.roomBelow(row))
+        root.products.toggle(index, root.roomBelow(row))
     }
     function tapGoToCart() {
-        list.status.tapGoToCart()
+        root.status.tapGoToCart()
     }
 
-    objectName: "result"
-    Accessible.role: Accessible.List
-    boundsBehavior: Flickable.StopAtBounds
-    // No row is the current one: it would be kept when it is out of view, and arrow keys would go to rows, which have
-    // nothing to do. They scroll instead.
-    currentIndex: -1
-    keyNavigationEnabled: false
-    Keys.forwardTo: [keys]
-    // Rows that are being made ahead of time must not be taken away meanwhile, as closing a section does.
-    cacheBuffer: 0
-    model: list.products
-    delegate: ProductsRow {
-        id: row
-
-        width: ListView.view.width
-        products: list.products
-        onHeadTapped: list.toggle(row, row.index)
-        onHeadFocused: list.positionViewAtIndex(row.index, ListView.Contain)
+    // The Tab key goes through heads and button in the order in which they are seen. The list does not keep that order
+    // among its items, and heads that are out of view may not have been made.
+    function focusButton() {
+        (root.isWide ? side.item : list.footerItem).footer.focusButton()
     }
-    header: ProductsHeaderItem {
-        width: ListView.view.width
-        status: list.status
+    function focusHead(index: int): bool {
+        if (index >= 0) {
+            list.positionViewAtIndex(index, ListView.Contain)
+            list.itemAtIndex(index).focusHead()
+        }
+        return index >= 0
     }
-    footer: Item {
-        id: end
-
-        width: ListView.view.width
-        height: KelSpacing.small + footer.height
-
-        Footer {
-            id: footer
-
-            // Where the content is shorter than the screen the footer moves down to its bottom edge.
-            y: KelSpacing.small + Math.max(0, list.height - (end.y - list.originY) - end.height)
-            width: parent.width
-            rememberLabel: list.rememberLabel
-            button: list.goToCartButton
-            onTapped: list.tapGoToCart()
-            onButtonFocused: list.positionViewAtEnd()
+    function focusFirst() {
+        if (root.isWide || !root.focusHead(root.products.headBelow(-1))) {
+            root.focusButton()
         }
     }
+    function focusLast() {
+        if (!root.isWide || !root.focusHead(root.products.headAbove(list.count))) {
+            root.focusButton()
+        }
+    }
+    function tabFromHead(index: int, forward: bool) {
+        const next = forward ? root.products.headBelow(index) : root.products.headAbove(index)
+        if (!root.focusHead(next)) {
+            forward === root.isWide ? root.leave(forward) : root.focusButton()
+        }
+    }
+    function tabFromButton(forward: bool) {
+        const next = forward ? root.products.headBelow(-1) : root.products.headAbove(list.count)
+        if (forward !== root.isWide || !root.focusHead(next)) {
+            root.leave(forward)
+        }
+    }
+    function leave(forward: bool) {
+        const edge = forward ? end : start
+        edge.nextItemInFocusChain(forward).forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+    }
 
+    Keys.forwardTo: [keys]
+
+    // Where the keys come into the page.
+    Item {
+        id: start
+
+        activeFocusOnTab: true
+        onActiveFocusChanged: if (activeFocus) root.focusFirst()
+    }
+    Loader {
+        id: side
+
+        anchors.left: parent.left
+        width: root.isWide ? Math.round(0.4 * root.width) : 0
+        height: root.height
+        active: root.isWide
+        sourceComponent: beside
+    }
+    ListView {
+        id: list
+
+        readonly property SafeArea safeArea: SafeArea {
+            item: root.safeArea.item
+            inner: !root.isWide ? 0 : root.LayoutMirroring.enabled ? Qt.RightEdge : Qt.LeftEdge
+        }
+
+        objectName: "result"
+        anchors.left: side.right
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.topMargin: root.safeArea.top
+        anchors.bottom: parent.bottom
+        clip: root.safeArea.top > 0
+        Accessible.role: Accessible.List
+        Accessible.name: root.status.headerView.mainMessage
+        AccessibleState.announcement: root.status.headerView.mainMessage
+        boundsBehavior: Flickable.StopAtBounds
+        // No row is the current one: it would be kept when it is out of view, and arrow keys would go to rows, which have
+        // nothing to do. They scroll instead.
+        currentIndex: -1
+        keyNavigationEnabled: false
+        // Rows that are being made ahead of time must not be taken away meanwhile, as closing a section does.
+        cacheBuffer: 0
+        model: root.products
+        delegate: ProductsRow {
+            id: row
+
+            width: ListView.view.width
+            safeArea: list.safeArea
+            products: root.products
+            onHeadTapped: root.toggle(row, row.index)
+            onHeadFocused: list.positionViewAtIndex(row.index, ListView.Contain)
+            onTabbed: forward => root.tabFromHead(row.index, forward)
+        }
+        // A header that is made before its width is known grows when it is laid out, and the list would begin in the
+        // middle of it.
+        header: list.width <= 0 ? null : root.isWide ? gap : above
+        footer: root.isWide ? gap : below
+        // At once, so that no frame shows the list elsewhere, and again when its rows have their heights.
+        onHeaderItemChanged: {
+            list.positionViewAtBeginning()
+            Qt.callLater(list.positionViewAtBeginning)
+        }
+    }
+    Item {
+        id: end
+
+        activeFocusOnTab: true
+        onActiveFocusChanged: if (activeFocus) root.focusLast()
+    }
     ScrollKeys {
         id: keys
 
         page: list
+    }
+    Component {
+        id: above
+
+        ProductsHeaderItem {
+            width: ListView.view.width
+            status: root.status
+            safeArea: root.safeArea
+        }
+    }
+    Component {
+        id: below
+
+        Item {
+            id: bottom
+
+            readonly property alias footer: footer
+
+            width: ListView.view.width
+            height: KelSpacing.small + footer.height
+
+            Footer {
+                id: footer
+
+                // Where the content is shorter than the screen the footer moves down to its bottom edge.
+                y: KelSpacing.small + Math.max(0, list.height - (bottom.y - list.originY) - bottom.height)
+                width: parent.width
+                safeArea: root.safeArea
+                rememberLabel: root.rememberLabel
+                button: root.goToCartButton
+                handsTabsOn: true
+                onTapped: root.tapGoToCart()
+                onTabbed: forward => root.tabFromButton(forward)
+                onButtonFocused: list.positionViewAtEnd()
+            }
+        }
+    }
+    Component {
+        id: gap
+
+        Item {
+            height: KelSpacing.semi + root.safeArea.bottom
+        }
+    }
+    Component {
+        id: beside
+
+        ResultSide {
+            status: root.status
+            safeArea: root.safeArea
+            onTapped: root.tapGoToCart()
+            onTabbed: forward => root.tabFromButton(forward)
+        }
     }
 }

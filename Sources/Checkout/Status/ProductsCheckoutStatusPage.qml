@@ -8,9 +8,13 @@ ModulePage {
 
     viewController: page.controller
     loadingView: page.controller.loadingView
+    scrolling: content
 
     ProductsCheckoutStatusItem {
+        id: content
+
         anchors.fill: parent
         status: page.controller.status
+        safeArea: page.safeArea
     }
 }

@@ -1,11 +1,13 @@
 import QtQuick
 import KelDS
 import Quillet
+import Quillet.Screens
 
 Item {
     id: header
 
     required property ProductsCheckoutStatusView status
+    required property SafeArea safeArea
     readonly property ProductsHeaderView view: header.status.headerView
 
     // Columns lay themselves out with the next frame, which would be one too late: the list that this header opens begins
@@ -15,17 +17,17 @@ Item {
         column.forceLayout()
     }
 
-    height: column.height + KelSpacing.semi + KelSpacing.small
+    height: column.height + KelSpacing.small
 
     Component.onCompleted: header.layOut()
-    onWidthChanged: header.layOut()
 
-    Column {
+    PageColumn {
         id: column
 
-        x: KelSpacing.small
-        y: KelSpacing.semi
-        width: parent.width - 2 * KelSpacing.small
+        onWidthChanged: header.layOut()
+
+        topPadding: KelSpacing.semi
+        safeArea: header.safeArea
 
         LabelItem {
             width: parent.width
@@ -55,7 +57,7 @@ Item {
                     status: header.view.iconView
                 }
                 KelLabel {
-                    x: KelSpacing.tiny
+                    anchors.horizontalCenter: parent.horizontalCenter
                     width: parent.width - 2 * KelSpacing.tiny
                     topPadding: KelSpacing.small
                     bottomPadding: KelSpacing.small
@@ -87,7 +89,9 @@ Item {
                         KelLabel {
                             id: text
 
-                            width: tag.x - KelSpacing.tiny
+                            anchors.left: parent.left
+                            anchors.right: tag.left
+                            anchors.rightMargin: KelSpacing.tiny
                             height: parent.height
                             text: counter.modelData.leftText
                             size: KelFonts.Subtitle2

@@ -4,6 +4,7 @@
 import QtQuick
 import KelDS
 import Quillet
+import Quillet.Screens
 
 // One row of the product list, with its slice of the section's outline. While its section opens or closes, the row shows
 // what of it the section has come to.
@@ -23,12 +24,19 @@ Item {
     required property productRow product
 
     required property ShippingStatusProductsView products
+    required property SafeArea safeArea
     readonly property real shownHeight: row.moving ? row.products.shownHeight(row.index, row.products.reveal)
                                                    : content.height
 
     signal headTapped
     // The keys go to the head now.
     signal headFocused
+    // The keys are to go on from the head, or back.
+    signal tabbed(forward: bool)
+
+    function focusHead() {
+        content.item.forceActiveFocus(Qt.TabFocusReason)
+    }
 
     function reportHeight() {
         if (row.moving) {
@@ -44,8 +52,8 @@ Item {
     KelPanelFrame {
         id: frame
 
-        x: KelSpacing.small
-        width: parent.width - 2 * KelSpacing.small
+        x: Math.round(row.safeArea.left + KelSpacing.small)
+        width: Math.round(parent.width - x - row.safeArea.right - KelSpacing.small)
         height: Math.round(row.shownHeight)
         stroke: row.stroke
         fill: row.fill
@@ -69,6 +77,10 @@ Item {
             title: row.title
             tone: row.tone
             expanded: row.expanded
+            AccessibleState.expandable: true
+            AccessibleState.expanded: row.expanded
+            Keys.onTabPressed: row.tabbed(true)
+            Keys.onBacktabPressed: row.tabbed(false)
             onActivated: if (!Covers.over(panelHead)) row.headTapped()
             onVisualFocusChanged: if (visualFocus) row.headFocused()
         }

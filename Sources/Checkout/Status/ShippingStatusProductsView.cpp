@@ -156,6 +156,20 @@ void ShippingStatusProductsView::toggle(int row, int rowsInView) {
     }
 }
 
+int ShippingStatusProductsView::headBelow(int row) const {
+    const auto found =
+        std::ranges::find_if(sections_, [&](const Section& section) { return headOf(section) > row; });
+    return found == sections_.end() ? -1 : headOf(*found);
+}
+
+int ShippingStatusProductsView::headAbove(int row) const {
+    int above = -1;
+    for (const Section& section : sections_) {
+        above = headOf(section) < row ? headOf(section) : above;
+    }
+    return above;
+}
+
 void ShippingStatusProductsView::reportHeight(int row, double height) {
     const auto product = movingProduct(row);
     if (product && panelReveal_.setHeight(*product, height)) {

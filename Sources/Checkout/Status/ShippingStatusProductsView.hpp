@@ -81,6 +81,11 @@ public:
     /// rows below the head there is room for on the screen.
     Q_INVOKABLE void toggle(int row, int rowsInView);
 
+    /// The row of the first head below the given row, or above it; -1 where there is none. -1 stands for the
+    /// row before the first, and `rowCount()` for the one after the last.
+    [[nodiscard]] Q_INVOKABLE int headBelow(int row) const;
+    [[nodiscard]] Q_INVOKABLE int headAbove(int row) const;
+
     /// Reports the full height of a moving row; other rows are ignored, as is a delegate that a view is still
     /// setting up and that has the index 0 meanwhile.
     Q_INVOKABLE void reportHeight(int row, double height);

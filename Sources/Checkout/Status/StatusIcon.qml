@@ -20,7 +20,8 @@ Rectangle {
         color: disc.status.iconColor
     }
     Rectangle {
-        x: 64
+        anchors.left: parent.left
+        anchors.leftMargin: 64
         y: 62
         width: disc.status.markSize + KelSpacing.micro
         height: width

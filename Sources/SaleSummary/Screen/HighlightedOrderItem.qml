@@ -17,12 +17,15 @@ KelCard {
             KelLabel {
                 id: title
 
-                width: tag.x - KelSpacing.tiny
+                anchors.left: parent.left
+                anchors.right: tag.left
+                anchors.rightMargin: KelSpacing.tiny
                 height: parent.height - KelSpacing.small
                 text: card.order.orderSummaryLabel
                 size: KelFonts.Headline6
                 weight: KelFonts.Medium
                 wrapMode: Text.Wrap
+                Accessible.role: Accessible.Heading
             }
             KelTag {
                 id: tag
@@ -39,30 +42,35 @@ KelCard {
             id: origin
 
             // Cycle and date stand side by side where there is room for both, else one below the other.
-            readonly property bool fits: cycle.implicitWidth + KelSpacing.small + date.width <= width
+            readonly property real line: Math.max(KelSizes.semiX, cycle.contentHeight + KelSpacing.tiny)
+            readonly property bool fits: cycle.implicitWidth + KelSpacing.small + date.implicitWidth <= width
 
             width: parent.width
-            height: origin.fits ? KelSizes.mediumX : 2 * KelSizes.semiX
+            height: origin.fits ? Math.max(KelSizes.mediumX, origin.line)
+                                : origin.line + Math.max(KelSizes.semiX, date.implicitHeight)
 
             CaptionedItem {
                 id: cycle
 
                 width: parent.width
-                height: origin.fits ? parent.height : parent.height / 2
+                height: origin.fits ? parent.height : origin.line
+                wrapMode: Text.Wrap
                 visible: text !== ""
                 captioned: card.order.orderCycleLabel
             }
             Row {
                 id: date
 
-                anchors.right: origin.fits ? parent.right : undefined
+                anchors.right: parent.right
+                width: origin.fits ? implicitWidth : parent.width
                 anchors.bottom: parent.bottom
-                height: cycle.height
+                height: origin.fits ? parent.height : parent.height - origin.line
                 spacing: KelSpacing.tiny
 
                 KelIcon {
                     height: parent.height
                     number: KelIcons.Calendar
+                    size: Math.round(KelSizes.small * KelFonts.scale)
                 }
                 KelLabel {
                     height: parent.height
@@ -88,9 +96,9 @@ KelCard {
             LabelItem {
                 id: points
 
-                x: KelSpacing.small
-                width: parent.width - 2 * KelSpacing.small
-                height: parent.height
+                anchors.fill: parent
+                anchors.leftMargin: KelSpacing.small
+                anchors.rightMargin: KelSpacing.small
                 label: card.order.orderPointsLabel
             }
         }

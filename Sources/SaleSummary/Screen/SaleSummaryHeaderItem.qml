@@ -22,10 +22,12 @@ Column {
         DateItem {
             number: KelIcons.Calendar
             text: view.header.cycleStart
+            longest: view.width
         }
         DateItem {
             number: KelIcons.Schedule
             text: view.header.cycleEnd
+            longest: view.width
         }
     }
     LabelItem {

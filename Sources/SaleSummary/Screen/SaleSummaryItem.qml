@@ -1,13 +1,16 @@
 import QtQuick
 import KelDS
 import Quillet
+import Quillet.Screens
 
 // The summary: slack goes between the content and the footer, and the whole scrolls when it is longer than the screen.
 ScrollableView {
     id: root
 
     required property SaleSummaryView summary
+    required property SafeArea safeArea
 
+    anchors.topMargin: root.safeArea.top
     contentHeight: page.height
     hinted: false
 
@@ -15,27 +18,30 @@ ScrollableView {
         id: page
 
         width: root.width
-        height: Math.max(root.height, content.height + KelSpacing.semi + footer.height)
+        height: Math.max(root.height, content.y + content.height + KelSpacing.semi + footer.height)
 
-        Column {
-            id: content
+        KelTabs {
+            id: tabs
 
             width: parent.width
+            titles: [root.summary.inProgressTab]
+            leftInset: content.x - KelSpacing.small
+            rightInset: width - content.x - content.width - KelSpacing.small
+        }
+        PageColumn {
+            id: content
 
-            KelTabs {
-                width: parent.width
-                titles: [root.summary.inProgressTab]
-            }
+            anchors.top: tabs.bottom
+            topPadding: KelSpacing.semi
+            safeArea: root.safeArea
+
             SaleSummaryHeaderItem {
-                x: KelSpacing.small
-                width: parent.width - 2 * KelSpacing.small
-                topPadding: KelSpacing.semi
+                width: parent.width
                 bottomPadding: KelSpacing.semi
                 header: root.summary.headerView
             }
             HighlightedOrderItem {
-                x: KelSpacing.small
-                width: parent.width - 2 * KelSpacing.small
+                width: parent.width
                 order: root.summary.highlightedOrderView
             }
         }
@@ -44,6 +50,7 @@ ScrollableView {
 
             width: parent.width
             anchors.bottom: parent.bottom
+            safeArea: root.safeArea
             rememberLabel: root.summary.rememberLabel
             button: root.summary.sendProductsButton
             onTapped: root.summary.tapSendProducts()

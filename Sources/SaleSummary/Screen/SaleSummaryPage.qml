@@ -14,12 +14,16 @@ ModulePage {
     loadingView: page.controller.loadingView
     dialog: page.controller.dialog
     tryAgainView: page.controller.tryAgainView
+    scrolling: content.item as Item
 
     Loader {
+        id: content
+
         anchors.fill: parent
         active: page.contentView !== null
         sourceComponent: SaleSummaryItem {
             summary: page.contentView
+            safeArea: page.safeArea
         }
     }
 }

@@ -32,13 +32,14 @@ class Dialog final : public quillet::ThemedView {
     QML_UNCREATABLE("Made by a screen")
     Q_PROPERTY(QString title READ title CONSTANT FINAL)
     Q_PROPERTY(QString message READ message CONSTANT FINAL)
-    Q_PROPERTY(QUrl icon READ icon CONSTANT FINAL)
+    Q_PROPERTY(QUrl icon READ icon NOTIFY themeChanged FINAL)
     Q_PROPERTY(QString actionText READ actionText CONSTANT FINAL)
     Q_PROPERTY(QString closeText READ closeText CONSTANT FINAL)
     Q_PROPERTY(QFont titleFont READ titleFont NOTIFY themeChanged FINAL)
     Q_PROPERTY(QFont messageFont READ messageFont NOTIFY themeChanged FINAL)
     Q_PROPERTY(QColor textColor READ textColor NOTIFY themeChanged FINAL)
     Q_PROPERTY(QColor backgroundColor READ backgroundColor CONSTANT FINAL)
+    Q_PROPERTY(double firstAlpha READ firstAlpha CONSTANT FINAL)
     Q_PROPERTY(double alpha READ alpha NOTIFY alphaChanged FINAL)
     Q_PROPERTY(bool onScreen READ isOnScreen NOTIFY onScreenChanged FINAL)
 
@@ -67,6 +68,10 @@ public:
     }
     /// Opacity of card and background; 1 until a touch.
     [[nodiscard]] double alpha() const { return alpha_; }
+    /// Where the opacity begins that the dialog comes in with: that of a dialog which it replaces on the
+    /// screen, else 0.
+    [[nodiscard]] double firstAlpha() const { return firstAlpha_; }
+    void replace(const Dialog& other) { firstAlpha_ = other.isOnScreen() ? other.alpha() : 0; }
     [[nodiscard]] bool isOnScreen() const { return onScreen_; }
 
     Q_INVOKABLE void touchButton() { dismiss(actions_.didTapButton); }
@@ -87,6 +92,7 @@ private:
     DialogWithIconPresenter presenter_;
     std::shared_ptr<ViewAnimating> viewAnimating_;
     DialogActions actions_;
+    double firstAlpha_ = 0;
     double alpha_ = 1;
     bool onScreen_ = true;
 };

@@ -1,6 +1,7 @@
 import QtQuick
 import KelDS
 import Quillet
+import Quillet.Screens
 
 // A dimmed ground and a card on it. While the dialog is there the keys are its own: Tab stays within it, Escape stands for
 // the close icon.
@@ -11,8 +12,16 @@ Cover {
     // How far the dialog has come in.
     property real appeared: 0
 
+    function appear() {
+        item.appeared = item.dialog.firstAlpha
+        entrance.restart()
+        button.forceActiveFocus()
+    }
+
     Accessible.role: Accessible.Dialog
     Accessible.name: item.dialog.title
+    AccessibleState.modal: true
+    AccessibleState.announcement: item.dialog.message
     Keys.onEscapePressed: event => {
         if (!event.isAutoRepeat) {
             item.dialog.touchCloseIcon()
@@ -20,7 +29,14 @@ Cover {
     }
     Keys.onBackPressed: item.dialog.touchCloseIcon()
     Keys.forwardTo: [page]
+    onDialogChanged: item.appear()
     Component.onCompleted: entrance.start()
+
+    SafeArea {
+        id: safe
+
+        item: item.parent
+    }
 
     NumberAnimation {
         id: entrance
@@ -46,15 +62,19 @@ Cover {
     KelCard {
         id: card
 
-        readonly property real room: parent.height - 2 * KelSpacing.small
+        readonly property real room: parent.height - safe.top - safe.bottom - 2 * KelSpacing.small
+        readonly property real breadth: parent.width - safe.left - safe.right
         readonly property real around: page.y + button.height + 2 * KelSpacing.semi
 
-        x: KelSpacing.small
-        width: parent.width - 2 * KelSpacing.small
+        x: Math.round(safe.left + (card.breadth - width) / 2)
+        width: Math.min(KelSizes.dialog, card.breadth - 2 * KelSpacing.small)
         height: Math.min(page.contentHeight + card.around, card.room)
-        y: Math.round((parent.height - height) / 2)
+        y: Math.round(safe.top + (parent.height - safe.top - safe.bottom - height) / 2)
         padding: 0
         elevated: false
+        // In a dark theme the card's surface alone does not tell it from the veil.
+        border.width: 1
+        border.color: KelColors.edge
         scale: KelMotion.reduced ? 1 : 0.96 + 0.04 * item.appeared
         opacity: item.dialog.alpha * item.appeared
 

@@ -1,6 +1,7 @@
 import QtQuick
 import KelDS
 import Quillet
+import Quillet.Screens
 
 // The overlay and its ring. It takes every touch and key, so that nothing below it can be used while a call runs.
 Cover {
@@ -12,7 +13,10 @@ Cover {
 
     Accessible.role: Accessible.Animation
     Accessible.name: loading.loadingView.name
-    Accessible.description: loading.loadingView.notice
+    AccessibleState.busy: true
+    AccessibleState.modal: true
+    AccessibleState.announcement: loading.loadingView.notice === "" ? loading.loadingView.name
+                                                                    : loading.loadingView.notice
 
     Rectangle {
         x: loading.screenArea.x
@@ -37,8 +41,8 @@ Cover {
     KelLabel {
         anchors.top: ring.bottom
         anchors.topMargin: KelSpacing.small
-        x: KelSpacing.small
-        width: parent.width - 2 * KelSpacing.small
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(KelSizes.dialog, parent.width - 2 * KelSpacing.small)
         visible: text !== ""
         text: loading.loadingView.notice
         color: loading.loadingView.noticeColor

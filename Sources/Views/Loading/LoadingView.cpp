@@ -46,8 +46,12 @@ QString LoadingView::name() const {
 void LoadingView::setOnScreen(bool onScreen) {
     if (onScreen != onScreen_) {
         onScreen_ = onScreen;
-        onScreen ? patience_.start() : patience_.stop();
-        setNotice({});
+        if (onScreen) {
+            setNotice({});
+            patience_.start();
+        } else {
+            patience_.stop();
+        }
         Q_EMIT onScreenChanged();
     }
 }

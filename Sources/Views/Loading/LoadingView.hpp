@@ -44,8 +44,8 @@ public:
     [[nodiscard]] int indicatorSize() const { return sizer_->mediumX(); }
     /// What a screen reader calls the overlay.
     [[nodiscard]] QString name() const;
-    /// One line that says that it takes longer than usual: empty for the first five seconds on screen. It
-    /// changes nothing about the calls.
+    /// One line that says that it takes longer than usual: empty for the first five seconds on screen, and
+    /// kept until the overlay is shown again. It changes nothing about the calls.
     [[nodiscard]] QString notice() const { return notice_; }
     /// The overlay is dark in every theme.
     [[nodiscard]] QColor noticeColor() const { return Qt::white; }

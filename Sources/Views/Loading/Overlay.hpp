@@ -8,8 +8,9 @@
 
 namespace quillet {
 
-/// The layer between a screen and the progress indicator: the theme's veil with the opacity mediumHigh. In the
-/// light theme the veil has the colour highEmphasis; where that is light, the ring's contrast would be 1.1:1.
+/// The layer between a screen and the progress indicator: the theme's veil with the opacity mediumHigh. In
+/// the light theme the veil has the colour highEmphasis; where that is light, the ring's contrast would
+/// be 1.1:1.
 class Overlay {
 public:
     explicit Overlay(std::unique_ptr<Opacity> opacity = std::make_unique<Opacities>())

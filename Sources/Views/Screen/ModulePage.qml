@@ -12,28 +12,49 @@ ScreenPage {
     required property LoadingView loadingView
     property Dialog dialog: null
     property TryAgainView tryAgainView: null
+    // What scrolls by the keys that nothing else takes.
+    property Item scrolling: null
+    readonly property bool isCovered: dialogLoader.active || loadingLoader.active
+
+    Accessible.role: Accessible.Pane
+    Accessible.name: page.viewController ? page.viewController.title : ""
+    AccessibleState.busy: page.onTop && page.loadingView.onScreen
+    AccessibleState.sealed: page.isCovered
+
+    Keys.forwardTo: [tryAgainLoader.item || page.scrolling || page]
 
     Loader {
+        id: tryAgainLoader
+
         anchors.fill: parent
         z: 1
         active: page.tryAgainView !== null
         sourceComponent: TryAgainItem {
             tryAgain: page.tryAgainView
+            safeArea: page.safeArea
         }
     }
     Loader {
+        id: dialogLoader
+
         parent: page.coverArea
         anchors.fill: parent
         z: 1
+        LayoutMirroring.enabled: page.mirrored
+        LayoutMirroring.childrenInherit: true
         active: page.onTop && page.dialog !== null && page.dialog.onScreen
         sourceComponent: DialogItem {
             dialog: page.dialog
         }
     }
     Loader {
+        id: loadingLoader
+
         parent: page.coverArea
         anchors.fill: parent
         z: 2
+        LayoutMirroring.enabled: page.mirrored
+        LayoutMirroring.childrenInherit: true
         active: page.onTop && page.loadingView.onScreen
         sourceComponent: LoadingItem {
             loadingView: page.loadingView

@@ -34,6 +34,9 @@ void ModuleViewController::hideLoading() {
 }
 
 void ModuleViewController::setDialog(std::unique_ptr<Dialog> dialog) {
+    if (dialog_) {
+        dialog->replace(*dialog_);
+    }
     dialog_.reset(dialog.release());
     Q_EMIT dialogChanged();
 }

@@ -7,7 +7,8 @@
 
 namespace quillet {
 
-/// Base of views with colours and fonts: it signals when the theme or the size of texts has changed. Main thread only.
+/// Base of views with colours and fonts: it signals when the theme or the size of texts has changed. Main
+/// thread only.
 class ThemedView : public QObject {
     Q_OBJECT
     QML_ANONYMOUS

@@ -1,29 +1,35 @@
 import QtQuick
 import KelDS
 import Quillet
+import Quillet.Screens
 
 // The group of image and message stands at 40 % of the free height, above the button, and scrolls where it is too tall.
 Rectangle {
     id: root
 
     required property TryAgainView tryAgain
+    required property SafeArea safeArea
 
     color: root.tryAgain.backgroundColor
+    Accessible.role: Accessible.Grouping
+    Accessible.name: root.tryAgain.message
+    AccessibleState.announcement: root.tryAgain.message
     Keys.forwardTo: [page]
 
     ScrollableView {
         id: page
 
         anchors.fill: parent
-        anchors.bottomMargin: button.height + 2 * KelSpacing.semi
+        anchors.topMargin: root.safeArea.top
+        anchors.bottomMargin: button.height + 2 * KelSpacing.semi + root.safeArea.bottom
         contentHeight: Math.max(page.height, group.height + 2 * KelSpacing.small)
 
-        Column {
+        PageColumn {
             id: group
 
             y: Math.max(KelSpacing.small,
                         Math.round(Math.min(0.4 * (root.height - group.height), page.height - group.height)))
-            width: root.width
+            safeArea: root.safeArea
             spacing: KelSpacing.standard
 
             Image {
@@ -35,8 +41,8 @@ Rectangle {
                 source: root.tryAgain.icon
             }
             KelLabel {
-                x: KelSpacing.standard
-                width: parent.width - 2 * KelSpacing.standard
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: parent.width - 2 * KelSpacing.small
                 text: root.tryAgain.message
                 size: KelFonts.Headline5
                 color: root.tryAgain.labelColor
@@ -49,10 +55,10 @@ Rectangle {
     KelButton {
         id: button
 
-        x: KelSpacing.small
-        width: parent.width - 2 * KelSpacing.small
+        x: group.x + Math.round((group.width - width) / 2)
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: KelSpacing.semi
+        anchors.bottomMargin: KelSpacing.semi + root.safeArea.bottom
+        width: Math.min(KelSizes.dialog, group.width)
         text: root.tryAgain.submitButton.title
         identifier: root.tryAgain.submitButton.identifier
         outlined: root.tryAgain.submitButton.outlined

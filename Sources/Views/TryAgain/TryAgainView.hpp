@@ -38,7 +38,7 @@ class TryAgainView final : public quillet::TryAgainScreen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by a TryAgainFactory")
-    Q_PROPERTY(QUrl icon READ icon CONSTANT FINAL)
+    Q_PROPERTY(QUrl icon READ icon NOTIFY themeChanged FINAL)
     Q_PROPERTY(QString message READ message CONSTANT FINAL)
     Q_PROPERTY(quillet::Button submitButton READ submitButton CONSTANT FINAL)
     Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY themeChanged FINAL)
