@@ -1,6 +1,12 @@
+#include "KelDS/KelDS.hpp"
 #include "Quillet/Quillet.hpp"
 #include "Quillet/Testing.hpp"
 #include "Support/Stage.hpp"
+
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QMarginsF>
+#include <QQuickItem>
 
 #include <gmock/gmock.h>
 
@@ -14,6 +20,9 @@ namespace {
 struct DrawnText {
     QString text;
     QRectF place;
+    QFont font;
+    /// The width of the item, in which the text is set.
+    double room;
 
     friend void PrintTo(const DrawnText& drawn, std::ostream* stream) {
         const QRectF& at = drawn.place;
@@ -27,9 +36,12 @@ bool isIcon(const DrawnText& drawn) {
     return drawn.text.front().category() == QChar::Other_PrivateUse;
 }
 
-void collectTexts(const QQuickItem& item, std::vector<DrawnText>& texts) {
+void collectTexts(const QQuickItem& item, std::vector<DrawnText>& texts, QRectF seen) {
     if (!item.isVisible() || item.opacity() == 0) {
         return;
+    }
+    if (item.clip()) {
+        seen &= item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
     }
     const QVariant width = item.property("contentWidth");
     const QString text = item.property("text").toString();
@@ -40,51 +52,167 @@ void collectTexts(const QQuickItem& item, std::vector<DrawnText>& texts) {
         const double room = item.width() - drawn;
         const double x = alignment == Qt::AlignRight ? room : alignment == Qt::AlignHCenter ? room / 2 : 0;
         const double height = std::min(item.height(), item.property("contentHeight").toDouble());
-        texts.push_back({text, item.mapRectToScene({x, (item.height() - height) / 2, drawn, height})});
+        const QRectF place = item.mapRectToScene({x, (item.height() - height) / 2, drawn, height});
+        if (place.intersects(seen)) {
+            const QRectF rows(place.x(), seen.y(), place.width(), seen.height());
+            texts.push_back({text, place & rows, item.property("font").value<QFont>(), item.width()});
+        }
     }
     for (const QQuickItem* child : item.childItems()) {
-        collectTexts(*child, texts);
+        collectTexts(*child, texts, seen);
     }
 }
+
+void collectControls(QQuickItem& item, std::vector<QQuickItem*>& controls) {
+    if (item.isVisible() && item.isEnabled()) {
+        // What can be pressed has this property of AbstractButton's.
+        if (item.property("pressed").isValid() && item.property("down").isValid() &&
+            item.property("focusPolicy").toInt() != Qt::NoFocus) {
+            controls.push_back(&item);
+        }
+        for (QQuickItem* child : item.childItems()) {
+            collectControls(*child, controls);
+        }
+    }
+}
+
+struct Shape {
+    Shape(int width, int height, double scale = 1, QMarginsF edges = {},
+          Qt::LayoutDirection reading = Qt::LeftToRight)
+        : size(width, height), textScale(scale), insets(edges), direction(reading) {}
+
+    QSize size;
+    double textScale;
+    QMarginsF insets;
+    Qt::LayoutDirection direction;
+
+    friend void PrintTo(const Shape& shape, std::ostream* stream) {
+        *stream << shape.size.width() << " x " << shape.size.height() << ", text " << shape.textScale
+                << ", insets " << shape.insets.left() << ' ' << shape.insets.top() << ' '
+                << shape.insets.right() << ' ' << shape.insets.bottom()
+                << (shape.direction == Qt::RightToLeft ? ", mirrored" : "");
+    }
+};
+
+struct Layout : ::testing::TestWithParam<Shape> {
+    Layout() {
+        kel::KelAppearance::current().setTextScale(GetParam().textScale);
+        QGuiApplication::setLayoutDirection(GetParam().direction);
+        stage.window().resize(size);
+        setSafeAreaInsets(*stage.window().contentItem(), GetParam().insets);
+    }
+    ~Layout() override {
+        EXPECT_THAT(stage.complaints(), ::testing::IsEmpty());
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+        kel::KelAppearance::current().setTextScale(1);
+        ScriptedBackend::uninstall();
+    }
+
+    // What is on the screen, and all of it within the safe part of the window.
+    void check(const char* what) {
+        SCOPED_TRACE(what);
+        const QRectF safe = QRectF(QPointF(), QSizeF(size)).marginsRemoved(GetParam().insets);
+        std::vector<DrawnText> texts;
+        collectTexts(*stage.window().contentItem(), texts, QRectF(0, 0, size.width(), 1e6));
+        EXPECT_GE(texts.size(), 2u);
+        for (auto one = texts.begin(); one != texts.end(); ++one) {
+            EXPECT_GE(one->place.left(), safe.left()) << ::testing::PrintToString(*one);
+            EXPECT_LE(one->place.right(), safe.right() + 0.5) << ::testing::PrintToString(*one);
+            for (auto other = one + 1; other != texts.end(); ++other) {
+                // An icon's mark lies over the icon on purpose.
+                EXPECT_FALSE(one->place.intersects(other->place) && !(isIcon(*one) && isIcon(*other)))
+                    << ::testing::PrintToString(*one) << " and " << ::testing::PrintToString(*other);
+            }
+            for (const QString& word : one->text.split(u' ')) {
+                const double needed = QFontMetricsF(one->font).horizontalAdvance(word);
+                const bool fitsALine = needed <= safe.width() - 2 * 32;
+                EXPECT_TRUE(isIcon(*one) || word.contains(u'<') || needed <= one->room + 0.5 || !fitsALine)
+                    << word.toStdString() << " breaks in " << ::testing::PrintToString(*one);
+            }
+        }
+        std::vector<QQuickItem*> controls;
+        collectControls(*stage.window().contentItem(), controls);
+        EXPECT_THAT(controls, Not(::testing::IsEmpty()));
+        for (const QQuickItem* control : controls) {
+            const std::string name = control->property("text").toString().toStdString();
+            EXPECT_GE(control->width(), 44) << name;
+            EXPECT_GE(control->height(), 44) << name;
+            const QRectF place = control->mapRectToScene(QRectF(0, 0, control->width(), control->height()));
+            EXPECT_GE(place.left(), safe.left()) << name;
+            EXPECT_LE(place.right(), safe.right()) << name;
+        }
+    }
+
+    // Where the keys are is in view, so that a page's last button can be looked at.
+    void checkLastButton(const QString& button) {
+        QQuickItem* const item = stage.item(button);
+        item->forceActiveFocus(Qt::TabFocusReason);
+        const double edge = size.height() - GetParam().insets.bottom();
+        EXPECT_TRUE(turnUntil([&] {
+            const double end = item->mapToScene({0, item->height()}).y();
+            return end <= edge && end >= edge - 40;
+        })) << item->mapToScene({0, item->height()}).y();
+    }
+
+    [[nodiscard]] bool isSettled() const { return !stage.stack().property("busy").toBool(); }
+
+    const QSize size = GetParam().size;
+    std::shared_ptr<ScriptedBackend> backend = ScriptedBackend::install();
+    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(makeLog());
+    // Its stack reaches all edges.
+    Stage stage{R"(
+        import QtQuick
+        import QtQuick.Controls.Basic
+        ApplicationWindow {
+            width: 390; height: 844; visible: true
+            property alias stack: stack
+            property alias bar: bar
+            function clear() { stack.pop(null, StackView.Immediate) }
+            Item { id: bar; property int clicks: 0 }
+            StackView { id: stack; anchors.fill: parent; initialItem: Item {} }
+        })"};
+};
 
 } // namespace
 
-TEST(Layout, KeepsTextsApartAndInsideTheWindowAtAnyWidth) {
-    const auto backend = ScriptedBackend::install();
-    const auto host = std::make_shared<RecordingNavigation>(makeLog());
-    for (const int width : {320, 360, 390, 768, 1280}) {
-        SCOPED_TRACE(width);
-        Stage stage;
-        stage.window().setWidth(width);
-        const auto starter = Starter::create("token", "idp", {"cart-1", 41052, "CL"}, host);
-        ASSERT_TRUE(turnUntil([&] { return stage.stack().width() == width; }));
-        ASSERT_TRUE(present(starter->createRootViewController(), stage.stack()));
-        ASSERT_TRUE(turnUntil([&] { return stage.shows("Ver Pedidos"); }));
-        stage.click("Ver Pedidos");
-        const char* const screens[][2] = {
-            {"Enviar productos a mi carrito", "14/03/2026"},
-            {"Ir al carrito", "Algunos productos no fueron enviados al carrito. ¡Vea!"}};
-        for (const auto& [button, shown] : screens) {
-            ASSERT_TRUE(turnUntil([&] {
-                return stage.shows(shown) && !stage.shows("Ver Pedidos") &&
-                       !stage.stack().property("busy").toBool();
-            })) << shown;
-            std::vector<DrawnText> texts;
-            collectTexts(*stage.window().contentItem(), texts);
-            EXPECT_GT(texts.size(), 8u);
-            for (auto one = texts.begin(); one != texts.end(); ++one) {
-                EXPECT_GE(one->place.left(), 0) << ::testing::PrintToString(*one);
-                EXPECT_LE(one->place.right(), width) << ::testing::PrintToString(*one);
-                for (auto other = one + 1; other != texts.end(); ++other) {
-                    // An icon's mark lies over the icon on purpose.
-                    EXPECT_FALSE(one->place.intersects(other->place) && !(isIcon(*one) && isIcon(*other)))
-                        << ::testing::PrintToString(*one) << " and " << ::testing::PrintToString(*other);
-                }
-            }
-            stage.click(button);
-        }
+TEST_P(Layout, KeepsTextsApartWholeAndInTheSafePartOfTheWindow) {
+    backend->script(Call::associate, {Reply{.status = 500}, Reply::sample(Call::associate)});
+    const auto starter = Starter::create("token", "idp", {"cart-1", 41052, "CL"}, host);
+    const auto open = [&] { return present(starter->createRootViewController(), stage.stack()); };
+    ASSERT_TRUE(turnUntil([&] { return stage.stack().width() == size.width(); }));
+    ASSERT_TRUE(open());
+    const QString back = "Volver";
+    ASSERT_TRUE(turnUntil([&] { return stage.shows(back) && isSettled(); }));
+    check("try again");
+    stage.popAll();
+
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(turnUntil([&] { return stage.shows("Ver Pedidos") && isSettled(); }));
+    stage.click("Ver Pedidos");
+    ASSERT_TRUE(turnUntil([&] { return !stage.shows("Ver Pedidos"); }));
+    check("summary");
+    checkLastButton("Enviar productos a mi carrito");
+    stage.click("Enviar productos a mi carrito");
+    ASSERT_TRUE(turnUntil([&] {
+        return stage.shows("Algunos productos no fueron enviados al carrito. ¡Vea!") && isSettled();
+    }));
+    check("result");
+    stage.key(Qt::Key_End);
+    if (size.width() < 840) {
+        ASSERT_TRUE(turnUntil([&] { return stage.shows("Ir al carrito"); }));
+        checkLastButton("Ir al carrito");
     }
-    ScriptedBackend::uninstall();
+    check("the end of the result");
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Shapes, Layout,
+    ::testing::Values(Shape{320, 568}, Shape{360, 780}, Shape{390, 844}, Shape{768, 1024}, Shape{1280, 800},
+                      Shape{844, 390}, Shape{320, 568, 1.5}, Shape{320, 568, 2}, Shape{390, 844, 2},
+                      Shape{844, 390, 2}, Shape{1280, 800, 2}, Shape{390, 844, 1, {0, 47, 0, 34}},
+                      Shape{844, 390, 1, {47, 0, 47, 21}}, Shape{1280, 800, 1, {60, 0, 20, 20}},
+                      Shape{390, 844, 1, {}, Qt::RightToLeft},
+                      Shape{320, 568, 2, {0, 0, 30, 0}, Qt::RightToLeft},
+                      Shape{1280, 800, 1, {60, 0, 20, 20}, Qt::RightToLeft}));
 
 } // namespace quillet::testing

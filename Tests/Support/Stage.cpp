@@ -76,7 +76,11 @@ QQuickItem* find(QQuickItem& root, const QString& name) {
 } // namespace
 
 bool turnUntil(const std::function<bool()>& condition) {
-    const QDeadlineTimer deadline(std::chrono::seconds(30));
+    return turnUntilFor(std::chrono::seconds(30), condition);
+}
+
+bool turnUntilFor(std::chrono::milliseconds longest, const std::function<bool()>& condition) {
+    const QDeadlineTimer deadline(longest);
     QTimer glance;
     glance.start(10);
     while (!condition()) {

@@ -16,6 +16,9 @@ namespace quillet::testing {
 /// Runs the event loop until the condition holds; false if it does not within half a minute.
 [[nodiscard]] bool turnUntil(const std::function<bool()>& condition);
 
+/// The same within a given time.
+[[nodiscard]] bool turnUntilFor(std::chrono::milliseconds longest, const std::function<bool()>& condition);
+
 /// A host's window with a bar and a StackView below it, and the warnings of QML meanwhile.
 class Stage {
 public:

@@ -65,6 +65,18 @@ TEST_F(DialogTest, AnswersTwoQuickTouchesTwiceAndNeverBrightensAgain) {
     EXPECT_THAT(taken(log), ElementsAre("background", "button"));
 }
 
+TEST_F(DialogTest, ComesInFromWhereTheOneThatItReplacesHasFadedTo) {
+    Dialog next(DialogPresenter{}, animating, {});
+    EXPECT_EQ(next.firstAlpha(), 0);
+    dialog->touchButton();
+    animating->running[0].step(0.25);
+    next.replace(*dialog);
+    EXPECT_DOUBLE_EQ(next.firstAlpha(), 0.75);
+    animating->running[0].finish();
+    next.replace(*dialog);
+    EXPECT_EQ(next.firstAlpha(), 0);
+}
+
 TEST_F(DialogTest, RunsTheActionThoughTheDialogIsGoneByThen) {
     dialog->touchButton();
     dialog.reset();

@@ -3,6 +3,7 @@
 #include "Platform/Screens/NavigationController.hpp"
 #include "Quillet/Quillet.hpp"
 #include "Quillet/Testing/RecordingHost.hpp"
+#include "SaleSummary/Screen/SaleSummaryViewController.hpp"
 #include "Support/FakeNetworkPath.hpp"
 #include "Support/SilentPort.hpp"
 #include "Support/Stage.hpp"
@@ -202,6 +203,22 @@ TEST_F(PresentTest, AnswersEveryWayOfUsingADialogOnce) {
         EXPECT_EQ(stage->barClicks(), 0);
         stage->popAll();
     }
+}
+
+TEST_F(PresentTest, BringsADialogInFromWhereTheOneBeforeHasFadedTo) {
+    use(std::make_shared<FakeNetworkPath>(false));
+    const auto screen = std::dynamic_pointer_cast<SaleSummaryViewController>(open().lock());
+    ASSERT_TRUE(turnUntil([&] { return stage->shows("Actualizar") && settled(); }));
+    const auto opacity = [&] { return stage->item("dialogBackground")->opacity(); };
+    screen->showDialog(DialogPresenter{"first", {}, "yes"}, {});
+    ASSERT_TRUE(turnUntil([&] { return opacity() == 1; }));
+    stage->click("dialogCloseIcon");
+    ASSERT_TRUE(turnUntil([&] { return opacity() < 0.8; }));
+    const double faded = opacity();
+    screen->showDialog(DialogPresenter{"second", {}, "no"}, {});
+    EXPECT_NEAR(opacity(), faded, 0.15);
+    EXPECT_EQ(stage->focus()->property("text").toString(), "no");
+    EXPECT_TRUE(turnUntil([&] { return opacity() == 1; }));
 }
 
 TEST_F(PresentTest, RetriesByMouseTouchAndKey) {

@@ -117,7 +117,7 @@ KelCard {
             selectionColor: KelColors.withAlpha(KelColors.primary, KelOpacity.mediumLow)
             selectedTextColor: KelColors.highEmphasis
             font.family: mono.name
-            font.pixelSize: KelFonts.font(KelFonts.Caption, KelFonts.Regular).pixelSize
+            font.pixelSize: KelFonts.scaled(KelFonts.Caption, KelFonts.Regular, KelFonts.scale).pixelSize
             Accessible.name: head.text
 
             CodeHighlighter {

@@ -1,0 +1,108 @@
+#include "KelDS/KelDS.hpp"
+#include "Resources/ModuleBundle.hpp"
+#include "Support/Contrast.hpp"
+#include "Views/Tokens/HexColor.hpp"
+
+#include <QImageReader>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+namespace quillet::testing {
+
+namespace {
+
+constexpr double forText = 4.5;
+constexpr double forShapes = 3;
+
+struct Pair {
+    const char* what;
+    QColor ink;
+    QColor ground;
+    double least;
+};
+
+std::vector<Pair> pairsOf(const kel::KelPalette& theme) {
+    const QColor background = theme.background;
+    const QColor surface = theme.surface;
+    const auto veiled = [&](QColor veil) { return painted(veil, kel::KelOpacity::mediumHigh, background); };
+    std::vector<Pair> pairs{
+        {"text on a contained button", theme.onPrimary, theme.primary, forText},
+        {"text on a pressed button", theme.onPrimary,
+         painted(theme.onPrimary, kel::KelOpacity::low, theme.primary), forText},
+        {"a section sent, its outline", *hexColor("#669842", 1), background, forShapes},
+        {"a section not sent, its outline", *hexColor("#D55336", 1), background, forShapes},
+        {"the ring", *hexColor("#F4AB34", 1), veiled(theme.veil), forShapes},
+        {"the notice below the ring", Qt::white, veiled(theme.veil), forText},
+        {"a dialog's card or its edge",
+         contrast(surface, veiled(Qt::black)) > contrast(QColor(theme.edge), veiled(Qt::black))
+             ? surface
+             : QColor(theme.edge),
+         veiled(Qt::black), forShapes},
+    };
+    for (const QRgb tag : {theme.success, theme.warning, theme.alert, theme.link}) {
+        pairs.push_back({"text on a tag", theme.onTag, tag, forText});
+    }
+    for (const QColor& ground : {background, surface}) {
+        for (const QRgb ink : {theme.highEmphasis, theme.mediumEmphasis, theme.success, theme.alert,
+                               theme.warning, theme.link}) {
+            pairs.push_back({"text", ink, ground, forText});
+            pairs.push_back({"text on a tint of its colour", ink, painted(ink, theme.tint, ground), forText});
+        }
+        pairs.push_back({"an outlined button's edge, a tab's line", theme.primaryEdge, ground, forShapes});
+        pairs.push_back({"a scroll hint", theme.edge, ground, forShapes});
+        pairs.push_back({"the focus ring", theme.highEmphasis, ground, forShapes});
+        pairs.push_back({"a product's icon on its tile", theme.mediumEmphasis,
+                         painted(theme.mediumEmphasis, theme.tint, ground), forShapes});
+    }
+    return pairs;
+}
+
+} // namespace
+
+TEST(Palettes, StandOutFromTheirGrounds) {
+    const std::pair<const char*, const kel::KelPalette*> themes[] = {
+        {"light", &kel::lightPalette}, {"dark", &kel::darkPalette}, {"contrast", &kel::contrastPalette}};
+    for (const auto& [name, theme] : themes) {
+        for (const Pair& pair : pairsOf(*theme)) {
+            EXPECT_GE(contrast(pair.ink, pair.ground), pair.least)
+                << name << ": " << pair.what << ", " << pair.ink.name().toStdString() << " on "
+                << pair.ground.name().toStdString();
+        }
+    }
+    // Who asks for more contrast gets it.
+    const auto texts = [](const kel::KelPalette& theme) {
+        return contrast(QColor(theme.mediumEmphasis), QColor(theme.background));
+    };
+    EXPECT_GT(texts(kel::contrastPalette), 7);
+    EXPECT_GT(texts(kel::contrastPalette), texts(kel::darkPalette));
+}
+
+TEST(Illustrations, StandOutFromTheirGroundsInEachTheme) {
+    // A point of what is drawn, and one of what it is drawn on.
+    const struct {
+        const char* name;
+        QPoint ink, ground;
+        QColor (*behind)();
+    } drawings[] = {
+        {"cart_already_submitted", {32, 55}, {10, 40}, kel::KelColors::surface},
+        {"other_consultant", {33, 30}, {8, 40}, kel::KelColors::surface},
+        {"sad_face", {40, 57}, {24, 60}, kel::KelColors::background},
+        {"surprise_face", {40, 56}, {24, 60}, kel::KelColors::background},
+    };
+    for (const auto theme : {kel::KelTheme::light, kel::KelTheme::dark, kel::KelTheme::contrast}) {
+        kel::KelAppearance::current().setTheme(theme);
+        for (const auto& [name, ink, ground, behind] : drawings) {
+            QImageReader reader(':' + moduleImage(name).path());
+            reader.setScaledSize({80, 80});
+            QImage picture(80, 80, QImage::Format_RGB32);
+            picture.fill(behind());
+            QPainter(&picture).drawImage(0, 0, reader.read());
+            EXPECT_GE(contrast(picture.pixelColor(ink), picture.pixelColor(ground)), forShapes)
+                << name << " in theme " << int(theme);
+        }
+    }
+    kel::KelAppearance::current().setTheme(kel::KelTheme::light);
+}
+
+} // namespace quillet::testing
