@@ -22,19 +22,10 @@ public:
     }
 };
 
-/// Tells every safe area that somebody has set insets.
-class InsetsNotifier final : public QObject {
-    Q_OBJECT
-
-public:
-    static InsetsNotifier& shared() {
-        static InsetsNotifier notifier;
-        return notifier;
-    }
-
-Q_SIGNALS:
-    void insetsSet();
-};
+QList<SafeArea*>& safeAreas() {
+    static QList<SafeArea*> all;
+    return all;
+}
 
 QMarginsF windowInsets([[maybe_unused]] const QQuickItem& item) {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 9, 0)
@@ -60,14 +51,20 @@ QMarginsF marginsWithin(const QQuickItem& item, const QQuickItem& area, const QM
 } // namespace
 
 SafeArea::SafeArea(QObject* parent) : QObject(parent) {
-    connect(&InsetsNotifier::shared(), &InsetsNotifier::insetsSet, this, &SafeArea::measure);
+    safeAreas().append(this);
+}
+
+SafeArea::~SafeArea() {
+    safeAreas().removeOne(this);
 }
 
 void SafeArea::setInsets(QQuickItem& area, const QMarginsF& insets) {
     Insets* existing = Insets::of(area);
     Insets& own = existing ? *existing : *new Insets(area);
     own.margins = insets | QMarginsF();
-    Q_EMIT InsetsNotifier::shared().insetsSet();
+    for (SafeArea* const one : safeAreas()) {
+        one->measure();
+    }
 }
 
 void SafeArea::setItem(QQuickItem* item) {
@@ -127,5 +124,3 @@ void SafeArea::measure() {
 }
 
 } // namespace quillet::platform
-
-#include "SafeArea.moc"

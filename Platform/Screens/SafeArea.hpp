@@ -28,6 +28,7 @@ class SafeArea : public QObject {
 
 public:
     explicit SafeArea(QObject* parent = nullptr);
+    ~SafeArea() override;
 
     /// Sets the insets of an item; negative ones count as none.
     static void setInsets(QQuickItem& area, const QMarginsF& insets);

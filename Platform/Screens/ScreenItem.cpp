@@ -4,7 +4,9 @@
 
 namespace quillet::platform {
 
-ScreenItem::ScreenItem(QQuickItem* parent) : QQuickItem(parent) {}
+ScreenItem::ScreenItem(QQuickItem* parent) : QQuickItem(parent) {
+    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &ScreenItem::mirroredChanged);
+}
 
 ScreenItem::~ScreenItem() {
     viewDidLeave();

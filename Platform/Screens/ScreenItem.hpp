@@ -2,6 +2,7 @@
 
 #include "Platform/Screens/QuickViewController.hpp"
 
+#include <QGuiApplication>
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
@@ -17,6 +18,8 @@ class ScreenItem : public QQuickItem {
     /// The controller that this item draws; set once, when the item is made.
     Q_PROPERTY(quillet::platform::QuickViewController* viewController READ viewController WRITE
                    setViewController NOTIFY viewControllerChanged FINAL)
+    /// Whether the application's layout runs from right to left.
+    Q_PROPERTY(bool mirrored READ isMirrored NOTIFY mirroredChanged FINAL)
     /// The item that overlays of this screen cover.
     Q_PROPERTY(QQuickItem* coverArea READ coverArea NOTIFY viewControllerChanged FINAL)
 
@@ -26,6 +29,7 @@ public:
 
     [[nodiscard]] QuickViewController* viewController() const { return controller_.get(); }
     void setViewController(QuickViewController* controller);
+    [[nodiscard]] static bool isMirrored() { return QGuiApplication::isRightToLeft(); }
     [[nodiscard]] QQuickItem* coverArea() const;
 
     Q_INVOKABLE void viewWillAppear();
@@ -36,6 +40,7 @@ public:
 
 Q_SIGNALS:
     void viewControllerChanged();
+    void mirroredChanged();
 
 protected:
     void componentComplete() override;

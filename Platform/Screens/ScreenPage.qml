@@ -10,7 +10,6 @@ ScreenItem {
     readonly property SafeArea safeArea: SafeArea {
         item: page.StackView.view
     }
-    readonly property bool mirrored: Qt.application.layoutDirection === Qt.RightToLeft
     // Whether the page is the one that is shown, or about to be.
     readonly property bool onTop: StackView.status === StackView.Active || StackView.status === StackView.Activating
 

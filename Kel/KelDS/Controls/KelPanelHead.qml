@@ -24,7 +24,7 @@ KelPressable {
             cornerRadius: KelBorderRadius.large
         }
     }
-    contentItem: Item {
+    contentItem: Item { // qmllint disable deferred-property-id
         implicitHeight: title.implicitHeight + 2 * KelSpacing.tiny
 
         KelLabel {

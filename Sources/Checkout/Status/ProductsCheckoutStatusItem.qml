@@ -15,8 +15,6 @@ Item {
     required property SafeArea safeArea
     // Read here, because types are not known inside the components below.
     readonly property ShippingStatusProductsView products: root.status.products
-    readonly property rememberLabel rememberLabel: root.status.rememberLabel
-    readonly property button goToCartButton: root.status.goToCartButton
     readonly property bool isWide: root.width - root.safeArea.left - root.safeArea.right >= KelSizes.wide
 
     // How many products there is room for below a row. None is lower than its tile with the spacing around it.
@@ -34,12 +32,16 @@ Item {
     // The Tab key goes through heads and button in the order in which they are seen. The list does not keep that order
     // among its items, and heads that are out of view may not have been made.
     function focusButton() {
-        (root.isWide ? side.item : list.footerItem).footer.focusButton()
+        const footer = root.isWide ? (side.item as ResultSide).footer : (list.footerItem as ResultEnd).footer
+        footer.focusButton()
+    }
+    function rowAt(index: int): ProductsRow {
+        return list.itemAtIndex(index) as ProductsRow
     }
     function focusHead(index: int): bool {
         if (index >= 0) {
             list.positionViewAtIndex(index, ListView.Contain)
-            list.itemAtIndex(index).focusHead()
+            root.rowAt(index).focusHead()
         }
         return index >= 0
     }
@@ -128,11 +130,7 @@ Item {
         // middle of it.
         header: list.width <= 0 ? null : root.isWide ? gap : above
         footer: root.isWide ? gap : below
-        // At once, so that no frame shows the list elsewhere, and again when its rows have their heights.
-        onHeaderItemChanged: {
-            list.positionViewAtBeginning()
-            Qt.callLater(list.positionViewAtBeginning)
-        }
+        onHeaderItemChanged: list.positionViewAtBeginning()
     }
     Item {
         id: end
@@ -157,28 +155,15 @@ Item {
     Component {
         id: below
 
-        Item {
-            id: bottom
-
-            readonly property alias footer: footer
-
+        ResultEnd {
             width: ListView.view.width
-            height: KelSpacing.small + footer.height
-
-            Footer {
-                id: footer
-
-                // Where the content is shorter than the screen the footer moves down to its bottom edge.
-                y: KelSpacing.small + Math.max(0, list.height - (bottom.y - list.originY) - bottom.height)
-                width: parent.width
-                safeArea: root.safeArea
-                rememberLabel: root.rememberLabel
-                button: root.goToCartButton
-                handsTabsOn: true
-                onTapped: root.tapGoToCart()
-                onTabbed: forward => root.tabFromButton(forward)
-                onButtonFocused: list.positionViewAtEnd()
-            }
+            status: root.status
+            safeArea: root.safeArea
+            room: list.height
+            above: y - list.originY
+            onTapped: root.tapGoToCart()
+            onTabbed: forward => root.tabFromButton(forward)
+            onButtonFocused: list.positionViewAtEnd()
         }
     }
     Component {

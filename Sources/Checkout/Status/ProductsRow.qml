@@ -35,7 +35,7 @@ Item {
     signal tabbed(forward: bool)
 
     function focusHead() {
-        content.item.forceActiveFocus(Qt.TabFocusReason)
+        (content.item as Item).forceActiveFocus(Qt.TabFocusReason)
     }
 
     function reportHeight() {

@@ -1,5 +1,4 @@
 import QtQuick
-import KelDS
 import Quillet
 import Quillet.Screens
 
