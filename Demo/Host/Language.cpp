@@ -17,11 +17,15 @@ QString languageRule() {
     return QStringLiteral("es, pt, en, xa or xb");
 }
 
+bool runsFromRightToLeft(const QString& code) {
+    return code == QLatin1String("xb");
+}
+
 void useLanguage(const QString& code) {
     // It has no table for a real language, which so stays what it is.
     usePseudoTexts();
     kel::setLanguage(code);
-    QGuiApplication::setLayoutDirection(code == QLatin1String("xb") ? Qt::RightToLeft : Qt::LeftToRight);
+    QGuiApplication::setLayoutDirection(runsFromRightToLeft(code) ? Qt::RightToLeft : Qt::LeftToRight);
 }
 
 } // namespace demo

@@ -78,14 +78,21 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
                                      QStringLiteral("The gateway to start."), QStringLiteral("FILE"));
     const QCommandLineOption language(QStringLiteral("language"), languageRule() + QStringLiteral(" (es)."),
                                       QStringLiteral("CODE"), QStringLiteral("es"));
-    const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Use the dark theme."));
+    const QCommandLineOption theme(QStringLiteral("theme"), themeRule() + QStringLiteral(" (light)."),
+                                   QStringLiteral("NAME"));
+    const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Short for --theme dark."));
+    const QCommandLineOption textScale(QStringLiteral("text-scale"),
+                                       QStringLiteral("Size of all texts: ") + textScaleRule(),
+                                       QStringLiteral("N"));
+    const QCommandLineOption rtl(QStringLiteral("rtl"),
+                                 QStringLiteral("Lay everything out from right to left."));
     const QCommandLineOption reducedMotion(QStringLiteral("reduced-motion"),
                                            QStringLiteral("Let nothing move but fade."));
     const QCommandLineOption size(QStringLiteral("size"),
                                   QStringLiteral("Size of the phone-sized area: ") + phoneSizeRule(),
                                   QStringLiteral("WxH"));
     parser.addOptions({help, tour, play, out, controls, gateway, ca, port, reset, data, program, language,
-                       dark, reducedMotion, size});
+                       theme, dark, textScale, rtl, reducedMotion, size});
 
     if (!parser.parse(arguments)) {
         return std::unexpected(parser.errorText());
@@ -103,14 +110,41 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
     options.gatewayProgram = parser.value(program);
     options.reset = parser.isSet(reset);
     options.language = parser.value(language);
-    options.dark = parser.isSet(dark);
-    options.reducedMotion = parser.isSet(reducedMotion);
+    options.appearance.reducedMotion = parser.isSet(reducedMotion);
+    if (parser.isSet(rtl) || runsFromRightToLeft(options.language)) {
+        options.appearance.direction = Qt::RightToLeft;
+    }
+    if (parser.isSet(dark) && parser.isSet(theme)) {
+        return std::unexpected(QStringLiteral("--dark and --theme do not go together"));
+    }
+    if (parser.isSet(dark) || parser.isSet(theme)) {
+        const QString name = parser.isSet(dark) ? QStringLiteral("dark") : parser.value(theme);
+        const auto chosen = parseThemeName(name);
+        if (!chosen) {
+            return std::unexpected(QStringLiteral("--theme is %1, not %2").arg(themeRule(), name));
+        }
+        options.appearance.theme = *chosen;
+    }
+    if (parser.isSet(textScale)) {
+        const auto percent = parseTextPercentage(parser.value(textScale));
+        if (!percent) {
+            return std::unexpected(
+                QStringLiteral("--text-scale is %1, not %2").arg(textScaleRule(), parser.value(textScale)));
+        }
+        options.appearance.textScale = *percent;
+    }
     if (!isLanguage(options.language)) {
         return std::unexpected(
             QStringLiteral("--language is %1, not %2").arg(languageRule(), options.language));
     }
     if (parser.isSet(tour) + parser.isSet(play) + parser.isSet(controls) > 1) {
         return std::unexpected(QStringLiteral("--tour, --play and --controls do not go together"));
+    }
+    for (const QCommandLineOption& option : {size, textScale, rtl}) {
+        if (parser.isSet(option) && parser.isSet(controls)) {
+            return std::unexpected(
+                QStringLiteral("--%1 does not go with --controls").arg(option.names().constFirst()));
+        }
     }
     if (parser.isSet(port)) {
         const auto number = portNumber(parser.value(port));
@@ -124,9 +158,6 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
         if (!measured) {
             return std::unexpected(
                 QStringLiteral("--size is %1, not %2").arg(phoneSizeRule(), parser.value(size)));
-        }
-        if (parser.isSet(controls)) {
-            return std::unexpected(QStringLiteral("--size does not go with --controls"));
         }
         options.size = *measured;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Appearance.hpp"
 #include "PhoneSize.hpp"
 
 #include <QString>
@@ -30,8 +31,8 @@ struct Options {
     quint16 port = 0;
     bool reset = false;
     QString language;
-    bool dark = false;
-    bool reducedMotion = false;
+    /// At the start, and at the start of each play.
+    Appearance appearance;
     /// Of the phone-sized area, at the start and at the start of each play.
     QSize size = usualPhoneSize;
 };

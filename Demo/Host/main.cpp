@@ -1,8 +1,8 @@
 #include "ControlsSheet.hpp"
 #include "HostApplication.hpp"
-#include "KelDS/KelAppearance.hpp"
 #include "Language.hpp"
 #include "Options.hpp"
+#include "Play/LanguagePlay.hpp"
 #include "Play/PlayRunner.hpp"
 #include "Play/WarningCounter.hpp"
 #include "Sandbox/NetworkSwitch.hpp"
@@ -48,32 +48,46 @@ std::expected<std::vector<demo::PlayScript>, QString> readPlays(const demo::Opti
         if (!play) {
             return std::unexpected(play.error());
         }
+        play->source = path;
         plays.push_back(std::move(*play));
     }
     return plays;
 }
 
-int perform(const std::vector<demo::PlayScript>& plays, demo::PlayRunner& runner, const QString& outFolder) {
+/// Runs the play here and prints how it went.
+QJsonObject performHere(const demo::PlayScript& play, demo::PlayRunner& runner) {
+    const int warned = demo::WarningCounter::count();
+    const QJsonObject report = runner.run(play);
+    const bool met = report[QStringLiteral("ok")].toBool();
+    std::printf("%s  %s\n", met ? "ok    " : "FAILED", qUtf8Printable(play.name));
+    if (!met) {
+        const QJsonObject step = report[QStringLiteral("steps")].toArray().last().toObject();
+        std::printf("        %s\n        %s\n", qUtf8Printable(step[QStringLiteral("step")].toString()),
+                    qUtf8Printable(step[QStringLiteral("missing")].toString()));
+    }
+    if (demo::WarningCounter::count() > warned) {
+        std::printf("        warnings, on standard error: %d\n", demo::WarningCounter::count() - warned);
+    }
+    std::fflush(stdout);
+    return report;
+}
+
+int perform(const std::vector<demo::PlayScript>& plays, demo::PlayRunner& runner,
+            const demo::Options& options) {
     QJsonArray reports;
     bool ok = true;
     for (const demo::PlayScript& play : plays) {
-        const int warned = demo::WarningCounter::count();
-        const QJsonObject report = runner.run(play);
-        const bool met = report[QStringLiteral("ok")].toBool();
-        ok = ok && met;
-        std::printf("%s  %s\n", met ? "ok    " : "FAILED", qUtf8Printable(play.name));
-        if (!met) {
-            const QJsonObject step = report[QStringLiteral("steps")].toArray().last().toObject();
-            std::printf("        %s\n        %s\n", qUtf8Printable(step[QStringLiteral("step")].toString()),
-                        qUtf8Printable(step[QStringLiteral("missing")].toString()));
+        const bool elsewhere = play.hasLanguage && options.mode == demo::Options::Mode::tour;
+        const QJsonObject report =
+            elsewhere ? demo::runLanguagePlay(play, options) : performHere(play, runner);
+        if (!report.contains(QStringLiteral("steps"))) {
+            std::printf("FAILED  %s\n        its own process came to no end\n", qUtf8Printable(play.name));
+            std::fflush(stdout);
         }
-        if (demo::WarningCounter::count() > warned) {
-            std::printf("        warnings, on standard error: %d\n", demo::WarningCounter::count() - warned);
-        }
-        std::fflush(stdout);
+        ok = ok && report[QStringLiteral("ok")].toBool();
         reports.append(report);
     }
-    QFile file(outFolder + QStringLiteral("/tour.json"));
+    QFile file(options.outFolder + QStringLiteral("/tour.json"));
     const QByteArray json = QJsonDocument(QJsonObject{{QStringLiteral("plays"), reports}}).toJson();
     if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size()) {
         return complain(QStringLiteral("cannot write ") + file.fileName(), failed);
@@ -128,8 +142,8 @@ int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& p
     if (inWindow) {
         return QGuiApplication::exec();
     }
-    demo::PlayRunner runner(*host, *journal, *network, options.outFolder);
-    const int result = perform(plays, runner, options.outFolder);
+    demo::PlayRunner runner(*host, *journal, *network, options.appearance, options.outFolder);
+    const int result = perform(plays, runner, options);
     if (!options.gatewayHost) {
         const QString log = options.outFolder + QStringLiteral("/gateway.log");
         QFile::remove(log);
@@ -171,8 +185,7 @@ int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("quillet-host"));
     demo::useLanguage(options->language);
-    kel::KelAppearance::current().setTheme(options->dark ? kel::KelTheme::dark : kel::KelTheme::light);
-    kel::KelAppearance::current().setReducedMotion(options->reducedMotion);
+    demo::apply(options->appearance);
 
     const demo::WarningCounter warnings;
     const int status = onSheet ? drawSheet(options->controlsFile) : runHost(*options, plays);

@@ -41,6 +41,13 @@ TEST(Options, RefuseEachWrongCombinationInOneLine) {
         {{"--size", "-390x844"}, "--size is WxH"},
         {{"--size", "390x844\n"}, "--size is WxH"},
         {{"--controls", "c", "--size", "320x568"}, "--size does not go with --controls"},
+        {{"--controls", "c", "--text-scale", "200"}, "--text-scale does not go with --controls"},
+        {{"--controls", "c", "--rtl"}, "--rtl does not go with --controls"},
+        {{"--theme", "sepia"}, "--theme is light, dark or contrast, not sepia"},
+        {{"--theme", "contrast", "--dark"}, "--dark and --theme do not go together"},
+        {{"--text-scale", "99"}, "--text-scale is a whole number of percent, from 100 to 200, not 99"},
+        {{"--text-scale", "2"}, "--text-scale is a whole number"},
+        {{"--text-scale", "4294967396"}, "--text-scale is a whole number"},
         {{"stray"}, "not understood: stray"},
     };
     for (const auto& [arguments, complaint] : cases) {
@@ -71,6 +78,37 @@ TEST(Options, TakeAServerByNameOrAddress) {
     EXPECT_EQ(parseOptions({"quillet-host", "--tour", "d", "--size", "320x1280"})->size, QSize(320, 1280));
     EXPECT_EQ(parseOptions({"quillet-host", "--tour", "d"})->outFolder, "d");
     EXPECT_EQ(parseOptions({"quillet-host", "--controls", "c", "--dark"})->controlsFile, "c");
+}
+
+TEST(Options, TakeAnAppearanceAndNameItAgain) {
+    const struct {
+        QStringList arguments;
+        kel::KelTheme theme = kel::KelTheme::light;
+        int textScale = 100;
+        bool reducedMotion = false;
+        Qt::LayoutDirection direction = Qt::LayoutDirectionAuto;
+    } cases[] = {
+        {.arguments = {}},
+        {.arguments = {"--theme", "light"}},
+        {.arguments = {"--theme", "dark"}, .theme = kel::KelTheme::dark},
+        {.arguments = {"--dark"}, .theme = kel::KelTheme::dark},
+        {.arguments = {"--controls", "c", "--theme", "contrast"}, .theme = kel::KelTheme::contrast},
+        {.arguments = {"--text-scale", "200"}, .textScale = 200},
+        {.arguments = {"--rtl", "--reduced-motion"}, .reducedMotion = true, .direction = Qt::RightToLeft},
+    };
+    for (const auto& expected : cases) {
+        SCOPED_TRACE(expected.arguments.join(' ').toStdString());
+        const auto typed = parseOptions(QStringList{"quillet-host"} + expected.arguments);
+        ASSERT_TRUE(typed) << typed.error().toStdString();
+        const auto again = parseOptions(QStringList{"quillet-host"} + optionsFor(typed->appearance));
+        ASSERT_TRUE(again) << again.error().toStdString();
+        for (const Appearance& appearance : {typed->appearance, again->appearance}) {
+            EXPECT_EQ(appearance.theme, expected.theme);
+            EXPECT_EQ(appearance.textScale, expected.textScale);
+            EXPECT_EQ(appearance.reducedMotion, expected.reducedMotion);
+            EXPECT_EQ(appearance.direction, expected.direction);
+        }
+    }
 }
 
 } // namespace demo::testing

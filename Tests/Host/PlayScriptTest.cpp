@@ -1,5 +1,7 @@
 #include "Play/PlayScript.hpp"
 
+#include <QKeySequence>
+
 #include <gtest/gtest.h>
 
 namespace demo::testing {
@@ -36,6 +38,33 @@ QString told(const Step& step) {
         QString operator()(const steps::Network& s) const { return s.on ? "network on" : "network off"; }
         QString operator()(const steps::Size& s) const {
             return QStringLiteral("size %1 %2").arg(s.size.width()).arg(s.size.height());
+        }
+        QString operator()(const steps::Theme& s) const {
+            return s.theme == kel::KelTheme::light  ? "theme light"
+                   : s.theme == kel::KelTheme::dark ? "theme dark"
+                                                    : "theme contrast";
+        }
+        QString operator()(const steps::TextScale& s) const {
+            return QStringLiteral("text-scale %1").arg(s.percent);
+        }
+        QString operator()(const steps::Motion& s) const {
+            return s.reduced ? "motion reduced" : "motion full";
+        }
+        QString operator()(const steps::Direction& s) const {
+            return s.direction == Qt::RightToLeft ? "direction rtl" : "direction ltr";
+        }
+        QString operator()(const steps::Insets& s) const {
+            return QStringLiteral("insets left %1 top %2 right %3 bottom %4")
+                .arg(s.margins.left())
+                .arg(s.margins.top())
+                .arg(s.margins.right())
+                .arg(s.margins.bottom());
+        }
+        QString operator()(const steps::Press& s) const {
+            return "press " + QKeySequence(s.key).toString(QKeySequence::PortableText);
+        }
+        QString operator()(const steps::Focused& s) const {
+            return QStringLiteral("focused %1 %2").arg(s.name).arg(s.within.count());
         }
     };
     return std::visit(Teller(), step);
@@ -75,6 +104,30 @@ TEST(PlayScript, ReadsEachKindOfStep) {
         {"network off", "network off"},
         {"size 320x568", "size 320 568"},
         {"size 1280x1280", "size 1280 1280"},
+        {"theme light", "theme light"},
+        {"theme dark", "theme dark"},
+        {"theme contrast", "theme contrast"},
+        {"text-scale 100", "text-scale 100"},
+        {"text-scale 200", "text-scale 200"},
+        {"motion reduced", "motion reduced"},
+        {"motion full", "motion full"},
+        {"direction rtl", "direction rtl"},
+        {"direction ltr", "direction ltr"},
+        {"insets 44 0 34  200", "insets left 200 top 44 right 0 bottom 34"},
+        {"press Tab", "press Tab"},
+        {"press Backtab", "press Backtab"},
+        {"press Enter", "press Enter"},
+        {"press Return", "press Return"},
+        {"press Space", "press Space"},
+        {"press Escape", "press Esc"},
+        {"press Up", "press Up"},
+        {"press Down", "press Down"},
+        {"press PageUp", "press PgUp"},
+        {"press PageDown", "press PgDown"},
+        {"press Home", "press Home"},
+        {"press End", "press End"},
+        {R"(focused "Ver Pedidos")", "focused Ver Pedidos 10000"},
+        {"focused x within=0", "focused x 0"},
     };
     for (const auto& [line, expected] : lines) {
         SCOPED_TRACE(line.toStdString());
@@ -92,10 +145,10 @@ TEST(PlayScript, NamesTheLineAndWhatIsWrongWithIt) {
         {"tap Ver Pedidos", "tap takes one text"},
         {"tap x by=key by=touch", "tap takes one text"},
         {R"(tap "Ver Pedidos)", "a quotation mark is left open"},
-        {"expect a b", "expect takes a text"},
+        {"expect a b", "this step takes a text, and within=SECONDS"},
         {"expect a within=soon", "within takes seconds"},
         {"expect a within=nan", "within takes seconds"},
-        {"expect a within=1 within=2", "expect takes a text"},
+        {"expect a within=1 within=2", "this step takes a text, and within=SECONDS"},
         {"title a b", "this step takes one text"},
         {"back now", "this step takes nothing"},
         {"background by=key", "background takes nothing but by=touch"},
@@ -107,6 +160,21 @@ TEST(PlayScript, NamesTheLineAndWhatIsWrongWithIt) {
         {"size 320 568", "size takes WxH"},
         {"size 1281x800", "size takes WxH"},
         {"size 320x568px", "size takes WxH"},
+        {"theme", "theme takes light, dark or contrast"},
+        {"theme Dark", "theme takes light"},
+        {"text-scale 99", "text-scale takes a whole number of percent, from 100 to 200"},
+        {"text-scale 201", "text-scale takes a whole number"},
+        {"text-scale 150%", "text-scale takes a whole number"},
+        {"text-scale 1.5", "text-scale takes a whole number"},
+        {"motion slow", "motion takes reduced or full"},
+        {"direction up", "direction takes ltr or rtl"},
+        {"insets 44 0 34", "insets takes top, right, bottom and left, each from 0 to 200"},
+        {"insets 0 0 0 201", "insets takes top"},
+        {"insets 0 0 -1 0", "insets takes top"},
+        {"insets 0 0 0.5 0", "insets takes top"},
+        {"press tab", "press takes Tab, Backtab, Enter"},
+        {"press Tab Tab", "press takes Tab"},
+        {"focused", "this step takes a text"},
         {"handmade 422", "handmade takes "},
         {"language fi", "language takes "},
         {"open cart=a consultant=1 country=CL colour=red", "open takes cart=UUID"},
@@ -122,6 +190,8 @@ TEST(PlayScript, NamesTheLineAndWhatIsWrongWithIt) {
         EXPECT_TRUE(play.error().startsWith("p, line 2: " + complaint)) << play.error().toStdString();
         EXPECT_FALSE(play.error().contains('\n'));
     }
+    EXPECT_TRUE(parsePlay("p", "close\nlanguage pt")->hasLanguage);
+    EXPECT_FALSE(parsePlay("p", "close\n# language pt")->hasLanguage);
     EXPECT_EQ(parsePlay("p", "# nothing but a comment\n").error(), "p has no steps");
 }
 

@@ -132,6 +132,30 @@ TEST_F(Program, FailsAtTheFirstStepThatIsNotMet) {
     EXPECT_EQ(told["steps"][3]["ok"], false);
 }
 
+TEST_F(Program, GoesByKeyOnlyWhereTheKeysLead) {
+    const QByteArray opened = "open cart=7f3c9a10-52e1-4d0b-9c77-1f0a6b2e84d3 consultant=41052 country=CL\n"
+                              "expect \"Ver Pedidos\"\n";
+    const std::pair<QByteArray, QString> cases[] = {
+        {"focused \"Ver Pedidos\"\npress Tab\nfocused \"Cerrar\"\npress Backtab\nfocused \"Ver Pedidos\"\n"
+         "tap dialogCloseIcon by=key\nabsent \"Ver Pedidos\"\n",
+         ""},
+        // No key leads to a text, nor out of an open dialog.
+        {"tap \"Puntos en curso: 1240\" by=key\n",
+         "Tab comes round without reaching \"Puntos en curso: 1240\"; it "
+         "reaches \"Ver Pedidos\", \"Cerrar\""},
+        {"press Escape\nabsent \"Ver Pedidos\"\ntap \"Total de productos: 3\" by=key\n",
+         "Tab comes round without reaching \"Total de productos: 3\""},
+        {"press Tab\ntap \"Ver Pedidos\"\nabsent \"Ver Pedidos\"\nfocused \"Ver Pedidos\" within=0\n",
+         "the focus is on "},
+    };
+    for (const auto& [steps, reason] : cases) {
+        SCOPED_TRACE(steps.toStdString());
+        EXPECT_EQ(play(opened + steps), reason.isEmpty() ? 0 : 1) << complaint.toStdString();
+        const QString missing = report()["steps"].toArray().last()["missing"].toString();
+        EXPECT_EQ(missing.left(reason.size()).toStdString(), reason.toStdString());
+    }
+}
+
 TEST_F(Program, EndsWithOneLineWhereItCannotStart) {
     const int taken = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in address{};

@@ -26,9 +26,51 @@ constexpr auto phone = R"(
         Item { id: phone; anchors.fill: parent; %1 }
     })";
 
+struct ScreenReading : ::testing::Test {
+    /// Reads a phone with this content from now on.
+    void show(const char* content) {
+        QQmlComponent component(&engine);
+        component.setData(QString::fromUtf8(phone).arg(QString::fromUtf8(content)).toUtf8(), QUrl());
+        window.reset(component.create());
+        ASSERT_TRUE(window) << component.errorString().toStdString();
+        item = window->property("phone").value<QQuickItem*>();
+    }
+
+    QQmlEngine engine;
+    std::unique_ptr<QObject> window;
+    QQuickItem* item = nullptr;
+};
+
 } // namespace
 
-TEST(ScreenReader, ReadsWhatAPersonSeesOfTheModule) {
+TEST_F(ScreenReading, TellsWhatIsWhollyShown) {
+    const struct {
+        const char* phone;
+        bool shown;
+    } cases[] = {
+        {R"(Words { objectName: "it" })", true},
+        {R"(Words { objectName: "it"; y: 824.5 })", true},
+        {R"(Words { objectName: "it"; y: 826 })", false},
+        {R"(Words { objectName: "it"; x: -2 })", false},
+        {R"(Words { objectName: "it" } Cover {})", false},
+        {R"(Words { objectName: "it"; y: 300 } Cover {})", true},
+        {R"(Item { width: 90; height: 90; clip: true; Words { objectName: "it"; y: 69.5 } })", true},
+        {R"(Item { width: 90; height: 90; clip: true; Words { objectName: "it"; y: 72 } })", false},
+        {R"(Item { width: 90; height: 90; clip: true; Words { objectName: "it"; y: -5; height: 99 } })",
+         true},
+        {R"(Item { width: 90; height: 90; clip: true; Words { objectName: "it"; y: 5; height: 99 } })",
+         false},
+        {R"(Item { width: 90; height: 90; clip: true; Words { objectName: "it"; y: 95 } })", false},
+    };
+    for (const auto& [content, shown] : cases) {
+        SCOPED_TRACE(content);
+        show(content);
+        const ScreenReader reader(*item);
+        EXPECT_EQ(reader.isWhollyShown(*item->findChild<QQuickItem*>("it")), shown);
+    }
+}
+
+TEST_F(ScreenReading, ReadsWhatAPersonSeesOfTheModule) {
     const struct {
         const char* phone;
         QStringList texts;
@@ -52,12 +94,8 @@ TEST(ScreenReader, ReadsWhatAPersonSeesOfTheModule) {
     };
     for (const auto& [content, texts] : cases) {
         SCOPED_TRACE(content);
-        QQmlEngine engine;
-        QQmlComponent component(&engine);
-        component.setData(QString::fromUtf8(phone).arg(QString::fromUtf8(content)).toUtf8(), QUrl());
-        const std::unique_ptr<QObject> window(component.create());
-        ASSERT_TRUE(window) << component.errorString().toStdString();
-        const ScreenReader reader(*window->property("phone").value<QQuickItem*>());
+        show(content);
+        const ScreenReader reader(*item);
         EXPECT_EQ(reader.texts().join(", ").toStdString(), texts.join(", ").toStdString());
     }
 }

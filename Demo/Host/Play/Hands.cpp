@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QQuickItem>
 #include <QQuickWindow>
 #include <QtGui/qtestsupport_gui.h>
 
@@ -18,18 +17,12 @@ void Hands::tap(QPointF point, Device device) {
     device == Device::touch ? touch(point) : click(point);
 }
 
-bool Hands::enter(QQuickItem& item) {
-    item.forceActiveFocus(Qt::TabFocusReason);
-    if (!item.hasActiveFocus()) {
-        return false;
-    }
-    press(Qt::Key_Return);
-    return true;
-}
-
 void Hands::press(Qt::Key key) {
+    // Keyboards have no key of its own for going back.
+    const Qt::KeyboardModifiers modifiers =
+        key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::KeyboardModifiers();
     for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, {});
+        QKeyEvent event(type, key, modifiers);
         QCoreApplication::sendEvent(&window_, &event);
     }
 }

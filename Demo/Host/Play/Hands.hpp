@@ -4,7 +4,6 @@
 #include <QPointingDevice>
 #include <Qt>
 
-class QQuickItem;
 class QQuickWindow;
 
 namespace demo {
@@ -19,8 +18,6 @@ public:
 
     /// Presses and releases at this point of the window, with the mouse or a finger.
     void tap(QPointF point, Device device);
-    /// Brings the focus to the item as the Tab key does and presses Return; false if the item takes no focus.
-    bool enter(QQuickItem& item);
     /// Presses a key wherever the focus is.
     void press(Qt::Key key);
 

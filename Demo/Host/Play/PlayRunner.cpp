@@ -1,12 +1,11 @@
 #include "Play/PlayRunner.hpp"
 
+#include "KelDS/KelAppearance.hpp"
 #include "Language.hpp"
 #include "Play/Scroller.hpp"
 
-#include <QElapsedTimer>
-#include <QEventLoop>
+#include <QGuiApplication>
 #include <QJsonArray>
-#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -20,12 +19,6 @@ constexpr std::chrono::milliseconds scrollGlance{1};
 /// How long a picture waits until nothing moves.
 constexpr std::chrono::milliseconds comingToRest{600};
 
-void letTimePass(std::chrono::milliseconds time) {
-    QEventLoop loop;
-    QTimer::singleShot(time, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
 QPointF middle(const QQuickItem& item) {
     return item.mapToScene(QPointF(item.width() / 2, item.height() / 2));
 }
@@ -35,25 +28,25 @@ QPointF upperEdge(const QQuickItem& item) {
     return item.mapToScene(QPointF(item.width() / 2, 4));
 }
 
-bool isCalled(const ScreenElement& element, const QString& name) {
-    return element.text == name || element.item->objectName() == name;
-}
-
 } // namespace
 
-PlayRunner::PlayRunner(HostApplication& host, Journal& journal, NetworkSwitch& network, QString shots)
+PlayRunner::PlayRunner(HostApplication& host, Journal& journal, NetworkSwitch& network,
+                       const Appearance& appearance, QString shots)
     : host_(host),
       journal_(journal),
       network_(network),
       shots_(std::move(shots)),
+      appearance_(appearance),
       size_(host.area().size()),
-      reader_(*host.phone()),
-      hands_(*host.window()) {}
+      stage_(host),
+      reader_(stage_.reader()),
+      hands_(*host.window()),
+      keyboard_(hands_, stage_) {}
 
 QJsonObject PlayRunner::run(const PlayScript& play) {
     journal_.clear();
     network_.setOn(true);
-    host_.area().resize(size_);
+    restore();
     QJsonArray reports;
     bool ok = true;
     for (const PlayLine& line : play.lines) {
@@ -62,7 +55,7 @@ QJsonObject PlayRunner::run(const PlayScript& play) {
         QJsonArray texts = QJsonArray::fromStringList(reader_.texts());
         QJsonObject report{{QStringLiteral("step"), line.text},
                            {QStringLiteral("ok"), ok},
-                           {QStringLiteral("title"), title()},
+                           {QStringLiteral("title"), stage_.title()},
                            {QStringLiteral("texts"), texts}};
         if (const auto* shot = std::get_if<steps::Shot>(&line.step); shot && ok) {
             report[QStringLiteral("shot")] = shot->name + QStringLiteral(".png");
@@ -76,7 +69,7 @@ QJsonObject PlayRunner::run(const PlayScript& play) {
         }
     }
     // The play includes what its last step started, such as the action of a dialog that is still fading.
-    wait(patience, [this] { return settled(); });
+    Stage::wait(patience, [this] { return stage_.settled(); });
     QJsonObject result{{QStringLiteral("name"), play.name},
                        {QStringLiteral("ok"), ok},
                        {QStringLiteral("steps"), reports},
@@ -89,7 +82,7 @@ QJsonObject PlayRunner::run(const PlayScript& play) {
         result[QStringLiteral("handmade")] = true;
     }
     host_.close();
-    wait(patience, [this] { return settled(); });
+    Stage::wait(patience, [this] { return stage_.settled(); });
     return result;
 }
 
@@ -118,12 +111,16 @@ QString PlayRunner::perform(const steps::Language& step) {
 
 QString PlayRunner::perform(const steps::Close&) {
     host_.close();
-    return wait(patience, [this] { return settled(); }) ? QString()
-                                                        : QStringLiteral("the module did not close");
+    return Stage::wait(patience, [this] { return stage_.settled(); })
+               ? QString()
+               : QStringLiteral("the module did not close");
 }
 
 QString PlayRunner::perform(const steps::Tap& step) {
-    const bool tapped = wait(
+    if (step.by == Device::key) {
+        return keyboard_.enter(step.name);
+    }
+    const bool tapped = Stage::wait(
         patience,
         [&] {
             if (tapHere(step)) {
@@ -137,21 +134,21 @@ QString PlayRunner::perform(const steps::Tap& step) {
 }
 
 QString PlayRunner::perform(const steps::Expect& step) {
-    return wait(step.within, [&] { return settled() && reader_.shows(step.text); })
+    return Stage::wait(step.within, [&] { return stage_.settled() && reader_.shows(step.text); })
                ? QString()
                : QStringLiteral("not on the screen: \"%1\"").arg(step.text);
 }
 
 QString PlayRunner::perform(const steps::Absent& step) {
-    return wait(patience, [&] { return settled() && !reader_.shows(step.text); })
+    return Stage::wait(patience, [&] { return stage_.settled() && !reader_.shows(step.text); })
                ? QString()
                : QStringLiteral("still on the screen: \"%1\"").arg(step.text);
 }
 
 QString PlayRunner::perform(const steps::Title& step) {
-    return wait(patience, [&] { return settled() && title() == step.text; })
+    return Stage::wait(patience, [&] { return stage_.settled() && stage_.title() == step.text; })
                ? QString()
-               : QStringLiteral("the title is \"%1\"").arg(title());
+               : QStringLiteral("the title is \"%1\"").arg(stage_.title());
 }
 
 QString PlayRunner::perform(const steps::Background& step) {
@@ -166,18 +163,18 @@ QString PlayRunner::perform(const steps::Scroll& step) {
     // Rows made on the way change the estimated end, so the end is reached once it stays the same. A page
     // that is wholly in view does not scroll.
     int stays = 0;
-    const bool arrived = wait(patience, [&] {
+    const bool arrived = Stage::wait(patience, [&] {
         QQuickItem* page = reader_.scrollable();
-        stays = settled() && (!page || Scroller(*page).toEdge(step.toEnd)) ? stays + 1 : 0;
+        stays = stage_.settled() && (!page || Scroller(*page).toEdge(step.toEnd)) ? stays + 1 : 0;
         return stays > 2;
     });
     return arrived ? QString() : QStringLiteral("the screen does not come to rest");
 }
 
 QString PlayRunner::perform(const steps::Back&) {
-    const bool went = wait(patience, [this] {
+    const bool went = Stage::wait(patience, [this] {
         const auto* back = host_.phone()->findChild<QQuickItem*>(QStringLiteral("hostBack"));
-        if (!back || !settled() || !reader_.reaches(*back, middle(*back))) {
+        if (!back || !stage_.settled() || !reader_.reaches(*back, middle(*back))) {
             return false;
         }
         hands_.tap(middle(*back), Device::mouse);
@@ -188,10 +185,10 @@ QString PlayRunner::perform(const steps::Back&) {
 
 QString PlayRunner::perform(const steps::Shot& step) {
     const QString file = shots_ + u'/' + step.name + QStringLiteral(".png");
-    wait(patience, [this] { return settled(); });
+    Stage::wait(patience, [this] { return stage_.settled(); });
     // Something may still move: for a while, like an opening section, or without end, like the ring.
     QImage picture;
-    wait(comingToRest, [&] {
+    Stage::wait(comingToRest, [&] {
         const QImage before = std::exchange(picture, host_.window()->grabWindow());
         return picture == before;
     });
@@ -206,26 +203,61 @@ QString PlayRunner::perform(const steps::Network& step) {
 QString PlayRunner::perform(const steps::Size& step) {
     host_.area().resize(step.size);
     const bool resized =
-        wait(patience, [&] { return settled() && host_.phone()->size() == QSizeF(step.size); });
+        Stage::wait(patience, [&] { return stage_.settled() && host_.phone()->size() == QSizeF(step.size); });
     return resized ? QString() : QStringLiteral("the screen does not take this size");
 }
 
-bool PlayRunner::wait(std::chrono::milliseconds longest, const std::function<bool()>& done,
-                      std::chrono::milliseconds glance) {
-    QElapsedTimer timer;
-    timer.start();
-    while (!done()) {
-        if (std::chrono::milliseconds(timer.elapsed()) > longest) {
-            return false;
-        }
-        letTimePass(glance);
+QString PlayRunner::perform(const steps::Theme& step) {
+    kel::KelAppearance::current().setTheme(step.theme);
+    return {};
+}
+
+QString PlayRunner::perform(const steps::TextScale& step) {
+    kel::KelAppearance::current().setTextScale(step.percent / 100.0);
+    return {};
+}
+
+QString PlayRunner::perform(const steps::Motion& step) {
+    kel::KelAppearance::current().setReducedMotion(step.reduced);
+    return {};
+}
+
+QString PlayRunner::perform(const steps::Direction& step) {
+    QGuiApplication::setLayoutDirection(step.direction);
+    return {};
+}
+
+QString PlayRunner::perform(const steps::Insets& step) {
+    quillet::setSafeAreaInsets(*host_.phone(), step.margins);
+    return {};
+}
+
+QString PlayRunner::perform(const steps::Press& step) {
+    if (!Stage::wait(patience, [this] { return stage_.settled(); })) {
+        return QStringLiteral("the screen does not come to rest");
     }
-    return true;
+    hands_.press(step.key);
+    return {};
+}
+
+QString PlayRunner::perform(const steps::Focused& step) {
+    QString fault;
+    const bool there = Stage::wait(step.within, [&] {
+        fault = keyboard_.notAt(step.name);
+        return stage_.settled() && fault.isEmpty();
+    });
+    return there || !fault.isEmpty() ? fault : QStringLiteral("the screen does not come to rest");
+}
+
+void PlayRunner::restore() {
+    apply(appearance_);
+    host_.area().resize(size_);
+    quillet::setSafeAreaInsets(*host_.phone(), {});
 }
 
 QString PlayRunner::answerDialog(const QString& part, QPointF (*where)(const QQuickItem&), Device by) {
-    const bool answered = wait(patience, [&] {
-        const QQuickItem* item = settled() ? reader_.named(part) : nullptr;
+    const bool answered = Stage::wait(patience, [&] {
+        const QQuickItem* item = stage_.settled() ? reader_.named(part) : nullptr;
         if (!item || !reader_.reaches(*item, where(*item))) {
             return false;
         }
@@ -236,14 +268,11 @@ QString PlayRunner::answerDialog(const QString& part, QPointF (*where)(const QQu
 }
 
 bool PlayRunner::tapHere(const steps::Tap& step) {
-    if (!settled()) {
+    if (!stage_.settled()) {
         return false;
     }
     for (const ScreenElement& element : reader_.elements()) {
-        if (isCalled(element, step.name) && element.visible && element.enabled) {
-            if (step.by == Device::key) {
-                return hands_.enter(*element.item);
-            }
+        if (element.isCalled(step.name) && element.visible && element.enabled) {
             hands_.tap(element.center, step.by);
             return true;
         }
@@ -252,27 +281,16 @@ bool PlayRunner::tapHere(const steps::Tap& step) {
 }
 
 void PlayRunner::scrollTowards(const QString& name) {
-    QQuickItem* page = settled() ? reader_.scrollable() : nullptr;
+    QQuickItem* page = stage_.settled() ? reader_.scrollable() : nullptr;
     if (!page) {
         return;
     }
     for (const ScreenElement& element : reader_.elements()) {
-        if (isCalled(element, name)) {
+        if (element.isCalled(name)) {
             return Scroller(*page).toMiddle(element.center.y());
         }
     }
     Scroller(*page).onwards();
-}
-
-QString PlayRunner::title() const {
-    const auto* bar = host_.phone()->findChild<QQuickItem*>(QStringLiteral("hostBar"));
-    return bar ? bar->property("title").toString() : QString();
-}
-
-bool PlayRunner::settled() const {
-    const auto* stack = host_.window()->property("stack").value<QQuickItem*>();
-    const auto* dialog = reader_.named(QStringLiteral("dialogBackground"));
-    return stack && !stack->property("busy").toBool() && !(dialog && dialog->opacity() < 1);
 }
 
 } // namespace demo

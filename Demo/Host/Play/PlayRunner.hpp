@@ -2,15 +2,13 @@
 
 #include "HostApplication.hpp"
 #include "Play/Hands.hpp"
+#include "Play/Keyboard.hpp"
 #include "Play/PlayScript.hpp"
-#include "Play/ScreenReader.hpp"
+#include "Play/Stage.hpp"
 #include "Sandbox/NetworkSwitch.hpp"
 
 #include <QJsonObject>
 #include <QString>
-
-#include <functional>
-#include <memory>
 
 namespace demo {
 
@@ -18,8 +16,9 @@ namespace demo {
 /// module.
 class PlayRunner {
 public:
-    /// `shots` is the folder for the pictures.
-    PlayRunner(HostApplication& host, Journal& journal, NetworkSwitch& network, QString shots);
+    /// `shots` is the folder for the pictures; the appearance is the one that each play begins with.
+    PlayRunner(HostApplication& host, Journal& journal, NetworkSwitch& network, const Appearance& appearance,
+               QString shots);
 
     /// Runs a play in a nested event loop, until its end or the first step that fails, and returns its part
     /// of the report, with "ok". Screens that the play opened are removed at its end.
@@ -43,27 +42,32 @@ private:
     [[nodiscard]] QString perform(const steps::Shot& step);
     [[nodiscard]] QString perform(const steps::Network& step);
     [[nodiscard]] QString perform(const steps::Size& step);
+    [[nodiscard]] QString perform(const steps::Theme& step);
+    [[nodiscard]] QString perform(const steps::TextScale& step);
+    [[nodiscard]] QString perform(const steps::Motion& step);
+    [[nodiscard]] QString perform(const steps::Direction& step);
+    [[nodiscard]] QString perform(const steps::Insets& step);
+    [[nodiscard]] QString perform(const steps::Press& step);
+    [[nodiscard]] QString perform(const steps::Focused& step);
 
-    /// Waits until `done`, for at most `longest`, checking every `glance`. Returns whether `done` became
-    /// true.
-    bool wait(std::chrono::milliseconds longest, const std::function<bool()>& done,
-              std::chrono::milliseconds glance = std::chrono::milliseconds(20));
+    /// As the process was started, and as each play begins.
+    void restore();
     /// Taps a part of the dialog, or presses Escape for the key. Returns why it fails, as above.
     [[nodiscard]] QString answerDialog(const QString& part, QPointF (*where)(const QQuickItem&), Device by);
     bool tapHere(const steps::Tap& step);
     void scrollTowards(const QString& name);
-    [[nodiscard]] QString title() const;
-    /// No page and no dialog is being animated in or out.
-    [[nodiscard]] bool settled() const;
 
     HostApplication& host_;
     Journal& journal_;
     NetworkSwitch& network_;
     QString shots_;
+    Appearance appearance_;
     /// Of the phone-sized area at the start of each play.
     QSize size_;
-    ScreenReader reader_;
+    Stage stage_;
+    const ScreenReader& reader_;
     Hands hands_;
+    Keyboard keyboard_;
     bool hasOpened_ = false;
 };
 

@@ -2,11 +2,13 @@
 
 #include "Language.hpp"
 #include "PhoneSize.hpp"
+#include "Play/Words.hpp"
 
 #include <QHash>
 #include <QRegularExpression>
-#include <QStringList>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <functional>
 #include <optional>
@@ -15,51 +17,9 @@ namespace demo {
 
 namespace {
 
-using Words = QStringList;
 using Parsed = std::expected<Step, QString>;
 
-/// Splits at blanks outside double quotes; nothing if a quote is not closed.
-std::optional<Words> split(const QString& line) {
-    Words words;
-    QString word;
-    bool quoted = false;
-    bool started = false;
-    for (qsizetype i = 0; i < line.size(); ++i) {
-        const QChar c = line[i];
-        if (c == u'"') {
-            quoted = !quoted;
-            started = true;
-        } else if (quoted && c == u'\\' && i + 1 < line.size()) {
-            word += line[++i];
-        } else if (!quoted && c.isSpace()) {
-            if (started) {
-                words << word;
-            }
-            word.clear();
-            started = false;
-        } else {
-            word += c;
-            started = true;
-        }
-    }
-    if (started) {
-        words << word;
-    }
-    return quoted ? std::nullopt : std::optional(words);
-}
-
-/// The words "key=value" of a step; nothing if one is malformed, unknown or repeated.
-std::optional<QHash<QString, QString>> settings(const Words& words, const QStringList& known) {
-    QHash<QString, QString> values;
-    for (const QString& word : words) {
-        const QString key = word.section(u'=', 0, 0);
-        if (!word.contains(u'=') || !known.contains(key) || values.contains(key)) {
-            return std::nullopt;
-        }
-        values[key] = word.section(u'=', 1);
-    }
-    return values;
-}
+constexpr int mostInset = 200;
 
 Parsed parseOpen(const Words& words) {
     const auto values =
@@ -96,10 +56,12 @@ Parsed parseOpen(const Words& words) {
     return open;
 }
 
-Parsed parseExpect(const Words& words) {
+/// A step that waits for a text.
+template <typename WaitingStep>
+Parsed parseWaiting(const Words& words) {
     const auto values = settings(words.mid(1), {QStringLiteral("within")});
     if (words.isEmpty() || !values) {
-        return std::unexpected(QStringLiteral("expect takes a text, and within=SECONDS if wanted"));
+        return std::unexpected(QStringLiteral("this step takes a text, and within=SECONDS if wanted"));
     }
     auto within = patience;
     if (values->contains(QStringLiteral("within"))) {
@@ -110,7 +72,7 @@ Parsed parseExpect(const Words& words) {
         }
         within = std::chrono::milliseconds(std::llround(seconds * 1000));
     }
-    return steps::Expect{words.first(), within};
+    return WaitingStep{words.first(), within};
 }
 
 template <typename TextStep>
@@ -166,11 +128,6 @@ Parsed parseShot(const Words& words) {
                : std::unexpected(QStringLiteral("shot takes a name of letters, digits, points and dashes"));
 }
 
-/// One word of a fixed set.
-std::optional<QString> choice(const Words& words, const QStringList& known) {
-    return words.size() == 1 && known.contains(words.first()) ? std::optional(words.first()) : std::nullopt;
-}
-
 Parsed parseHandmade(const Words& words) {
     const auto code = choice(words, {QStringLiteral("ERROR_CART_OTHER_CONSULTANT"),
                                      QStringLiteral("ERROR_CART_ALREADY_SUBMITTED")});
@@ -198,9 +155,65 @@ Parsed parseScroll(const Words& words) {
 }
 
 Parsed parseSize(const Words& words) {
-    const auto size = words.size() == 1 ? parsePhoneSize(words.first()) : std::nullopt;
+    const auto size = onlyWord(words).and_then(parsePhoneSize);
     return size ? Parsed(steps::Size{*size})
                 : std::unexpected(QStringLiteral("size takes ") + phoneSizeRule());
+}
+
+Parsed parseTheme(const Words& words) {
+    const auto theme = onlyWord(words).and_then(parseThemeName);
+    return theme ? Parsed(steps::Theme{*theme})
+                 : std::unexpected(QStringLiteral("theme takes ") + themeRule());
+}
+
+Parsed parseTextScale(const Words& words) {
+    const auto percent = onlyWord(words).and_then(parseTextPercentage);
+    return percent ? Parsed(steps::TextScale{*percent})
+                   : std::unexpected(QStringLiteral("text-scale takes ") + textScaleRule());
+}
+
+Parsed parseMotion(const Words& words) {
+    const auto motion = choice(words, {QStringLiteral("reduced"), QStringLiteral("full")});
+    return motion ? Parsed(steps::Motion{*motion == QLatin1String("reduced")})
+                  : std::unexpected(QStringLiteral("motion takes reduced or full"));
+}
+
+Parsed parseDirection(const Words& words) {
+    const auto direction = choice(words, {QStringLiteral("ltr"), QStringLiteral("rtl")});
+    return direction ? Parsed(steps::Direction{*direction == QLatin1String("rtl") ? Qt::RightToLeft
+                                                                                  : Qt::LeftToRight})
+                     : std::unexpected(QStringLiteral("direction takes ltr or rtl"));
+}
+
+Parsed parseInsets(const Words& words) {
+    static const QRegularExpression form(
+        QStringLiteral("\\A([0-9]{1,3}) ([0-9]{1,3}) ([0-9]{1,3}) ([0-9]{1,3})\\z"));
+    const auto match = form.match(words.join(u' '));
+    std::array<int, 4> edges{};
+    for (int i = 0; i < 4; ++i) {
+        edges[static_cast<std::size_t>(i)] = match.captured(i + 1).toInt();
+    }
+    if (!match.hasMatch() || std::ranges::max(edges) > mostInset) {
+        return std::unexpected(
+            QStringLiteral("insets takes top, right, bottom and left, each from 0 to %1").arg(mostInset));
+    }
+    const auto [top, right, bottom, left] = edges;
+    return steps::Insets{QMargins(left, top, right, bottom)};
+}
+
+Parsed parsePress(const Words& words) {
+    static const QHash<QString, Qt::Key> keys{
+        {QStringLiteral("Tab"), Qt::Key_Tab},       {QStringLiteral("Backtab"), Qt::Key_Backtab},
+        {QStringLiteral("Enter"), Qt::Key_Enter},   {QStringLiteral("Return"), Qt::Key_Return},
+        {QStringLiteral("Space"), Qt::Key_Space},   {QStringLiteral("Escape"), Qt::Key_Escape},
+        {QStringLiteral("Up"), Qt::Key_Up},         {QStringLiteral("Down"), Qt::Key_Down},
+        {QStringLiteral("PageUp"), Qt::Key_PageUp}, {QStringLiteral("PageDown"), Qt::Key_PageDown},
+        {QStringLiteral("Home"), Qt::Key_Home},     {QStringLiteral("End"), Qt::Key_End}};
+    const auto name = choice(words, keys.keys());
+    return name
+               ? Parsed(steps::Press{keys[*name]})
+               : std::unexpected(QStringLiteral("press takes Tab, Backtab, Enter, Return, Space, Escape, Up, "
+                                                "Down, PageUp, PageDown, Home or End"));
 }
 
 Parsed parseStep(const QString& line) {
@@ -210,7 +223,7 @@ Parsed parseStep(const QString& line) {
         {QStringLiteral("language"), parseLanguage},
         {QStringLiteral("close"), parseBare<steps::Close>},
         {QStringLiteral("tap"), parseTap},
-        {QStringLiteral("expect"), parseExpect},
+        {QStringLiteral("expect"), parseWaiting<steps::Expect>},
         {QStringLiteral("absent"), parseText<steps::Absent>},
         {QStringLiteral("title"), parseText<steps::Title>},
         {QStringLiteral("background"), parseBackground},
@@ -220,6 +233,13 @@ Parsed parseStep(const QString& line) {
         {QStringLiteral("shot"), parseShot},
         {QStringLiteral("network"), parseNetwork},
         {QStringLiteral("size"), parseSize},
+        {QStringLiteral("theme"), parseTheme},
+        {QStringLiteral("text-scale"), parseTextScale},
+        {QStringLiteral("motion"), parseMotion},
+        {QStringLiteral("direction"), parseDirection},
+        {QStringLiteral("insets"), parseInsets},
+        {QStringLiteral("press"), parsePress},
+        {QStringLiteral("focused"), parseWaiting<steps::Focused>},
     };
     const auto words = split(line);
     if (!words) {
@@ -234,7 +254,8 @@ Parsed parseStep(const QString& line) {
 } // namespace
 
 std::expected<PlayScript, QString> parsePlay(const QString& name, const QString& text) {
-    PlayScript play{name, {}};
+    PlayScript play;
+    play.name = name;
     const QStringList lines = text.split(u'\n');
     for (qsizetype i = 0; i < lines.size(); ++i) {
         const QString line = lines[i].trimmed();
@@ -245,6 +266,7 @@ std::expected<PlayScript, QString> parsePlay(const QString& name, const QString&
         if (!step) {
             return std::unexpected(QStringLiteral("%1, line %2: %3").arg(name).arg(i + 1).arg(step.error()));
         }
+        play.hasLanguage = play.hasLanguage || std::holds_alternative<steps::Language>(*step);
         play.lines.push_back({line, std::move(*step)});
     }
     if (play.lines.empty()) {

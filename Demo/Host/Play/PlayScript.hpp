@@ -1,8 +1,10 @@
 #pragma once
 
+#include "Appearance.hpp"
 #include "HostApplication.hpp"
 #include "Play/Hands.hpp"
 
+#include <QMargins>
 #include <QSize>
 #include <QString>
 
@@ -64,12 +66,39 @@ struct Network {
 struct Size {
     QSize size;
 };
+struct Theme {
+    kel::KelTheme theme;
+};
+struct TextScale {
+    int percent;
+};
+struct Motion {
+    bool reduced;
+};
+struct Direction {
+    Qt::LayoutDirection direction;
+};
+/// What a device takes of the edges of the phone-sized area.
+struct Insets {
+    QMargins margins;
+};
+/// Wherever the focus is.
+struct Press {
+    Qt::Key key;
+};
+/// By shown text, accessible name, or identifier.
+struct Focused {
+    QString name;
+    std::chrono::milliseconds within;
+};
 
 } // namespace steps
 
-using Step = std::variant<steps::Open, steps::Handmade, steps::Language, steps::Close, steps::Tap,
-                          steps::Expect, steps::Absent, steps::Title, steps::Background, steps::CloseIcon,
-                          steps::Scroll, steps::Back, steps::Shot, steps::Network, steps::Size>;
+using Step =
+    std::variant<steps::Open, steps::Handmade, steps::Language, steps::Close, steps::Tap, steps::Expect,
+                 steps::Absent, steps::Title, steps::Background, steps::CloseIcon, steps::Scroll, steps::Back,
+                 steps::Shot, steps::Network, steps::Size, steps::Theme, steps::TextScale, steps::Motion,
+                 steps::Direction, steps::Insets, steps::Press, steps::Focused>;
 
 /// A step and its source line.
 struct PlayLine {
@@ -81,6 +110,10 @@ struct PlayLine {
 struct PlayScript {
     QString name;
     std::vector<PlayLine> lines;
+    /// The file that it was read from.
+    QString source;
+    /// Whether one of its steps chooses the language.
+    bool hasLanguage = false;
 };
 
 /// How long a step waits for its condition by default.

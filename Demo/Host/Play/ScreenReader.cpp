@@ -46,15 +46,16 @@ QRectF sceneRect(const QQuickItem& item) {
     return item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
 }
 
-/// Clips to the window and to every clipping ancestor.
-bool inside(const QQuickItem& item, QPointF point) {
+/// What the window and every clipping ancestor leave of it for the item to be seen in.
+QRectF view(const QQuickItem& item) {
+    const QQuickWindow* window = item.window();
+    QRectF rect = window ? QRectF(0, 0, window->width(), window->height()) : QRectF();
     for (const QQuickItem* i = item.parentItem(); i; i = i->parentItem()) {
-        if (i->clip() && !sceneRect(*i).contains(point)) {
-            return false;
+        if (i->clip()) {
+            rect &= sceneRect(*i);
         }
     }
-    const QQuickWindow* window = item.window();
-    return window && QRectF(0, 0, window->width(), window->height()).contains(point);
+    return rect;
 }
 
 bool isWithin(const QQuickItem* item, const QQuickItem& ancestor) {
@@ -102,6 +103,10 @@ QString accessibleName(QQuickItem& item) {
 }
 
 } // namespace
+
+bool ScreenElement::isCalled(const QString& name) const {
+    return text == name || item->objectName() == name;
+}
 
 void ScreenReader::collect(QQuickItem& item, bool host, QList<QQuickItem*>& items) const {
     // Inside the stack the module's items are pages with a view controller; beside the stack they are its
@@ -159,12 +164,35 @@ bool ScreenReader::shows(const QString& text) const {
     return texts().contains(text);
 }
 
+bool ScreenReader::knows(const QString& name) const {
+    return std::ranges::any_of(elements(), [&](const ScreenElement& e) { return e.isCalled(name); });
+}
+
 bool ScreenReader::reaches(const QQuickItem& item, QPointF point) const {
-    if (!drawn(item) || !inside(item, point)) {
+    if (!drawn(item) || !view(item).contains(point)) {
         return false;
     }
     const QQuickItem* top = topmost(*item.window()->contentItem(), item, point);
     return top && isWithin(top, item);
+}
+
+bool ScreenReader::isWhollyShown(const QQuickItem& item) const {
+    const QRectF all = sceneRect(item);
+    const QRectF room = view(item);
+    const QRectF shown = all & room;
+    // Pages scroll to whole pixels, which an item need not stand on.
+    constexpr double rounding = 1;
+    return shown.width() > std::min(all.width(), room.width()) - rounding &&
+           shown.height() > std::min(all.height(), room.height()) - rounding && reaches(item, shown.center());
+}
+
+std::optional<ScreenElement> ScreenReader::focus() const {
+    QQuickItem* item = phone_.window()->activeFocusItem();
+    if (!item) {
+        return std::nullopt;
+    }
+    const QPointF center = sceneRect(*item).center();
+    return ScreenElement{item, accessibleName(*item), center, reaches(*item, center), item->isEnabled()};
 }
 
 QQuickItem* ScreenReader::named(const QString& objectName) const {
