@@ -14,5 +14,5 @@ Rectangle {
     // Keeps the indicator visible for very long pages.
     height: Math.max(KelSizes.standard, hint.page.visibleArea.heightRatio * hint.page.height)
     radius: KelBorderRadius.small
-    color: KelColors.lowEmphasis
+    color: KelColors.edge
 }
