@@ -10,7 +10,8 @@ INSERT INTO consultants (id, country, cycle) VALUES
     (41055, 'CL', 202605), (41056, 'CL', 202605), (41057, 'CL', 202605), (41058, 'CL', 202605),
     (41059, 'CL', 202605), (41060, 'CL', 202605), (41061, 'CL', 202605), (41062, 'CL', 202605),
     (41063, 'CL', 202605), (41064, 'CL', 202605), (41065, 'CL', 202605), (41066, 'CL', 202605),
-    (41067, 'PE', NULL),   (41068, 'CL', 202605);
+    (41067, 'PE', NULL),   (41068, 'CL', 202605), (41069, 'CL', 202605), (41070, 'CL', 202605),
+    (41071, 'CL', 202605);
 
 INSERT INTO catalogue (code, description, points, points_units, price, profit, kit, stock) VALUES
     (70412, 'Crema de manos Brisa de almendra 75 ml',        12, 1,  899000,  269700, 0, 500),
@@ -51,7 +52,11 @@ INSERT INTO carts (uuid, number, consultant, status, created, magazine_cycle) VA
     ('41065a00-52e1-4d0b-9c77-1f0a6b2e8465', 300065, NULL,  'OPEN',      '2026-03-14T13:05:00.000+0000', 202605),
     ('41066a00-52e1-4d0b-9c77-1f0a6b2e8466', 300066, NULL,  'OPEN',      '2026-03-14T13:10:00.000+0000', 202605),
     ('41067a00-52e1-4d0b-9c77-1f0a6b2e8467', 300067, NULL,  'OPEN',      '2026-03-14T13:15:00.000+0000', 202605),
-    ('41068a00-52e1-4d0b-9c77-1f0a6b2e8468', 300068, NULL,  'OPEN',      '2026-03-14T13:20:00.000+0000', 202605);
+    ('41068a00-52e1-4d0b-9c77-1f0a6b2e8468', 300068, NULL,  'OPEN',      '2026-03-14T13:20:00.000+0000', 202605),
+    -- The outcome of 41052 again, for plays that are about something else.
+    ('41069a00-52e1-4d0b-9c77-1f0a6b2e8469', 300069, NULL,  'OPEN',      '2026-03-14T13:25:00.000+0000', 202605),
+    ('41070a00-52e1-4d0b-9c77-1f0a6b2e8470', 300070, NULL,  'OPEN',      '2026-03-14T13:30:00.000+0000', 202605),
+    ('41071a00-52e1-4d0b-9c77-1f0a6b2e8471', 300071, NULL,  'OPEN',      '2026-03-14T13:35:00.000+0000', 202605);
 
 CREATE TEMP TABLE ordered (cart INTEGER, position INTEGER, benefit INTEGER, product INTEGER, amount INTEGER);
 INSERT INTO ordered VALUES
@@ -63,7 +68,10 @@ INSERT INTO ordered VALUES
     (300053, 1, 0, 90318, 3), (300053, 2, 0, 61204, 12),
     (300067, 1, 0, 10005, 1),
     (300068, 1, 0, 70412, 1), (300068, 2, 0, 90318, 4), (300068, 3, 0, 61204, 9), (300068, 4, 0, 88210, 2),
-    (300068, 5, 1, 10005, 2);
+    (300068, 5, 1, 10005, 2),
+    (300069, 1, 0, 81190, 1), (300069, 2, 0, 90318, 3), (300069, 3, 0, 61204, 9),
+    (300070, 1, 0, 81190, 1), (300070, 2, 0, 90318, 3), (300070, 3, 0, 61204, 9),
+    (300071, 1, 0, 81190, 1), (300071, 2, 0, 90318, 3), (300071, 3, 0, 61204, 9);
 -- Everybody else ordered the same two products.
 INSERT INTO ordered
     SELECT number, 1, 0, 70412, 2 FROM carts WHERE number NOT IN (SELECT cart FROM ordered);

@@ -2,7 +2,9 @@
 // qmllint disable unqualified
 
 import QtQuick
+import QtQuick.Controls.Basic
 import KelDS
+import Quillet.Screens
 
 // Incoming orders, as they came over WhatsApp.
 ListView {
@@ -12,8 +14,12 @@ ListView {
     readonly property string title: "Pedidos recibidos"
 
     topMargin: KelSpacing.small
-    bottomMargin: KelSpacing.small
+    bottomMargin: KelSpacing.small + safe.bottom
     spacing: 12
+    // Keeps all orders there, as Tab finds no others.
+    cacheBuffer: 100 * KelSizes.large
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     model: home.host.orders
     delegate: KelPressable {
         id: order
@@ -21,11 +27,13 @@ ListView {
         required property var modelData
         required property int index
 
-        x: KelSpacing.small
-        width: ListView.view.width - 2 * KelSpacing.small
+        objectName: "hostOrder"
+        x: safe.left + KelSpacing.small
+        width: ListView.view.width - safe.left - safe.right - 2 * KelSpacing.small
         implicitHeight: implicitContentHeight
         Accessible.name: order.modelData.customer + ". " + order.modelData.title
         onActivated: home.host.openOrder(order.index)
+        onVisualFocusChanged: if (visualFocus) home.positionViewAtIndex(order.index, ListView.Contain)
 
         contentItem: KelCard {
             border.width: order.visualFocus ? 2 : 1
@@ -77,5 +85,12 @@ ListView {
                 }
             }
         }
+    }
+
+    // The place of the stack is the page's own, even while the page moves.
+    SafeArea {
+        id: safe
+
+        item: home.StackView.view
     }
 }

@@ -14,6 +14,9 @@ ApplicationWindow {
     readonly property alias stack: stack
     readonly property alias phone: phone
 
+    // The side that pages come from, as a factor; with reduced motion they come from nowhere.
+    readonly property int side: KelMotion.reduced ? 0 : Application.layoutDirection === Qt.RightToLeft ? -1 : 1
+
     title: "Quillet"
     color: KelColors.background
 
@@ -45,11 +48,12 @@ ApplicationWindow {
             anchors.bottom: parent.bottom
             width: parent.width
             clip: true
-            // A page slides in over the one below it, which moves a little; with reduced motion it fades in.
+            // A page slides in over the one below it, which moves a little; with reduced motion
+            // the one fades out and the other in.
             pushEnter: Transition {
                 NumberAnimation {
                     property: "x"
-                    from: KelMotion.reduced ? 0 : stack.width
+                    from: window.side * stack.width
                     to: 0
                     duration: KelMotion.page
                     easing.type: Easing.OutCubic
@@ -65,25 +69,37 @@ ApplicationWindow {
                 NumberAnimation {
                     property: "x"
                     from: 0
-                    to: KelMotion.reduced ? 0 : -KelSizes.large
+                    to: -window.side * KelSizes.large
                     duration: KelMotion.page
                     easing.type: Easing.OutCubic
+                }
+                NumberAnimation {
+                    property: "opacity"
+                    from: 1
+                    to: KelMotion.reduced ? 0 : 1
+                    duration: KelMotion.page
                 }
             }
             popEnter: Transition {
                 NumberAnimation {
                     property: "x"
-                    from: KelMotion.reduced ? 0 : -KelSizes.large
+                    from: -window.side * KelSizes.large
                     to: 0
                     duration: KelMotion.page
                     easing.type: Easing.OutCubic
+                }
+                NumberAnimation {
+                    property: "opacity"
+                    from: KelMotion.reduced ? 0 : 1
+                    to: 1
+                    duration: KelMotion.page
                 }
             }
             popExit: Transition {
                 NumberAnimation {
                     property: "x"
                     from: 0
-                    to: KelMotion.reduced ? 0 : stack.width
+                    to: window.side * stack.width
                     duration: KelMotion.page
                     easing.type: Easing.OutCubic
                 }
