@@ -191,6 +191,8 @@ TEST_P(Layout, KeepsTextsApartWholeAndInTheSafePartOfTheWindow) {
     stage.click("Ver Pedidos");
     ASSERT_TRUE(turnUntil([&] { return !stage.shows("Ver Pedidos"); }));
     check("summary");
+    EXPECT_EQ(stage.item("14/03/2026")->property("font").value<QFont>().pixelSize(),
+              16 * GetParam().textScale);
     checkLastButton("Enviar productos a mi carrito");
     stage.click("Enviar productos a mi carrito");
     ASSERT_TRUE(turnUntil([&] {
