@@ -62,6 +62,15 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
     const QCommandLineOption controls(
         QStringLiteral("controls"), QStringLiteral("Draw the design system on one sheet, without a display."),
         QStringLiteral("FILE"));
+    const QCommandLineOption gallery(
+        QStringLiteral("gallery"),
+        QStringLiteral("Draw every screen in every theme, language, text size and size, without a display."),
+        QStringLiteral("DIR"));
+    const QCommandLineOption quick(QStringLiteral("quick"),
+                                   QStringLiteral("Draw a small part of the gallery only."));
+    QCommandLineOption galleryLanguage(QStringLiteral("gallery-language"), QString(), QStringLiteral("CODE"));
+    // For the processes that a gallery is drawn by.
+    galleryLanguage.setFlags(QCommandLineOption::HiddenFromHelp);
     const QCommandLineOption gateway(QStringLiteral("gateway"),
                                      QStringLiteral("Play against this server instead of the project's own."),
                                      QStringLiteral("HOST:PORT"));
@@ -91,8 +100,9 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
     const QCommandLineOption size(QStringLiteral("size"),
                                   QStringLiteral("Size of the phone-sized area: ") + phoneSizeRule(),
                                   QStringLiteral("WxH"));
-    parser.addOptions({help, tour, play, out, controls, gateway, ca, port, reset, data, program, language,
-                       theme, dark, textScale, rtl, reducedMotion, size});
+    parser.addOptions({help,    tour,      play, out,           controls, gallery, quick,    galleryLanguage,
+                       gateway, ca,        port, reset,         data,     program, language, theme,
+                       dark,    textScale, rtl,  reducedMotion, size});
 
     if (!parser.parse(arguments)) {
         return std::unexpected(parser.errorText());
@@ -137,8 +147,17 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
         return std::unexpected(
             QStringLiteral("--language is %1, not %2").arg(languageRule(), options.language));
     }
-    if (parser.isSet(tour) + parser.isSet(play) + parser.isSet(controls) > 1) {
-        return std::unexpected(QStringLiteral("--tour, --play and --controls do not go together"));
+    if (parser.isSet(tour) + parser.isSet(play) + parser.isSet(controls) + parser.isSet(gallery) > 1) {
+        return std::unexpected(QStringLiteral("--tour, --play, --controls and --gallery do not go together"));
+    }
+    if ((parser.isSet(quick) || parser.isSet(galleryLanguage)) && !parser.isSet(gallery)) {
+        return std::unexpected(QStringLiteral("--quick goes with --gallery"));
+    }
+    for (const QCommandLineOption* one : {&language, &dark, &size}) {
+        if (parser.isSet(gallery) && parser.isSet(*one)) {
+            return std::unexpected(
+                QStringLiteral("--%1 does not go with --gallery").arg(one->names().constFirst()));
+        }
     }
     for (const QCommandLineOption& option : {size, textScale, rtl}) {
         if (parser.isSet(option) && parser.isSet(controls)) {
@@ -173,6 +192,15 @@ std::expected<Options, QString> parseOptions(const QStringList& arguments) {
     if (parser.isSet(controls)) {
         options.mode = Options::Mode::controls;
         options.controlsFile = parser.value(controls);
+    }
+    if (parser.isSet(gallery)) {
+        options.mode = Options::Mode::gallery;
+        options.outFolder = parser.value(gallery);
+        options.quick = parser.isSet(quick);
+        options.galleryLanguage = parser.value(galleryLanguage);
+    }
+    if (options.mode == Options::Mode::gallery && options.outFolder.isEmpty()) {
+        return std::unexpected(QStringLiteral("--gallery needs a folder"));
     }
     if (options.mode == Options::Mode::play && options.outFolder.isEmpty()) {
         return std::unexpected(QStringLiteral("--play needs --out DIR"));

@@ -13,14 +13,18 @@ namespace demo {
 
 /// The parsed command line.
 struct Options {
-    enum class Mode { window, tour, play, controls };
+    enum class Mode { window, tour, play, controls, gallery };
 
     Mode mode = Mode::window;
-    /// Folder for the pictures and the report of a tour or a play.
+    /// Folder for the pictures and the report of a tour or a play, or for a gallery.
     QString outFolder;
     QString playFile;
     /// File for the sheet of controls.
     QString controlsFile;
+    /// Whether the gallery is to be drawn in its quick form.
+    bool quick = false;
+    /// The language whose part of the gallery this process draws; empty for the one that starts the others.
+    QString galleryLanguage;
     /// HOST:PORT of a server to use instead of the local gateway.
     std::optional<QString> gatewayHost;
     quint16 gatewayPort = 0;

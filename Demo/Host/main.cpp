@@ -1,4 +1,5 @@
 #include "ControlsSheet.hpp"
+#include "Gallery/Gallery.hpp"
 #include "HostApplication.hpp"
 #include "Language.hpp"
 #include "Options.hpp"
@@ -100,6 +101,23 @@ int drawSheet(const QString& file) {
     return drawn ? 0 : complain(drawn.error(), failed);
 }
 
+int drawGallery(const demo::Options& options) {
+    const auto drawn = options.galleryLanguage.isEmpty()
+                           ? demo::drawGallery(options.outFolder, options.quick)
+                           : demo::drawGalleryIn(options.galleryLanguage, options.outFolder, options.quick);
+    return drawn ? 0 : complain(drawn.error(), failed);
+}
+
+/// What is drawn or played without a display has a phone's pixel density. A gallery has one pixel to each
+/// point and one renderer everywhere, so that it stays small and is the same on every machine.
+void setUpPictures(bool isGallery) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_SCALE_FACTOR", isGallery ? "1" : "2");
+    if (isGallery) {
+        qputenv("QT_QUICK_BACKEND", "software");
+    }
+}
+
 /// Sets up the gateway and the host and runs what was asked for. It cleans up before it returns.
 int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& plays) {
     const bool inWindow = options.mode == demo::Options::Mode::window;
@@ -152,6 +170,20 @@ int runHost(const demo::Options& options, const std::vector<demo::PlayScript>& p
     return result;
 }
 
+int run(const demo::Options& options, const std::vector<demo::PlayScript>& plays) {
+    switch (options.mode) {
+    case demo::Options::Mode::controls:
+        return drawSheet(options.controlsFile);
+    case demo::Options::Mode::gallery:
+        return drawGallery(options);
+    case demo::Options::Mode::window:
+    case demo::Options::Mode::tour:
+    case demo::Options::Mode::play:
+        break;
+    }
+    return runHost(options, plays);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -164,22 +196,21 @@ int main(int argc, char** argv) {
         return options.error().isEmpty() ? 0 : complain(options.error(), usage);
     }
     const bool inWindow = options->mode == demo::Options::Mode::window;
-    const bool onSheet = options->mode == demo::Options::Mode::controls;
+    const bool isPlay =
+        options->mode == demo::Options::Mode::tour || options->mode == demo::Options::Mode::play;
     std::vector<demo::PlayScript> plays;
-    if (!inWindow && !onSheet) {
+    if (isPlay) {
         auto read = readPlays(*options);
         if (!read) {
             return complain(read.error(), usage);
         }
         plays = std::move(*read);
-        if (!QDir().mkpath(options->outFolder)) {
-            return complain(QStringLiteral("cannot make the folder ") + options->outFolder, failed);
-        }
+    }
+    if (!options->outFolder.isEmpty() && !QDir().mkpath(options->outFolder)) {
+        return complain(QStringLiteral("cannot make the folder ") + options->outFolder, failed);
     }
     if (!inWindow) {
-        // These modes need no display; their pictures have a phone's pixel density.
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        qputenv("QT_SCALE_FACTOR", "2");
+        setUpPictures(options->mode == demo::Options::Mode::gallery);
     }
 
     const QGuiApplication application(argc, argv);
@@ -188,7 +219,7 @@ int main(int argc, char** argv) {
     demo::apply(options->appearance);
 
     const demo::WarningCounter warnings;
-    const int status = onSheet ? drawSheet(options->controlsFile) : runHost(*options, plays);
+    const int status = run(*options, plays);
     if (inWindow || demo::WarningCounter::count() == 0) {
         return status;
     }

@@ -23,7 +23,12 @@ TEST(Options, RefuseEachWrongCombinationInOneLine) {
     const std::pair<QStringList, QString> cases[] = {
         {{"--play", "a.play"}, "--play needs --out DIR"},
         {{"--tour", ""}, "--tour needs a folder"},
-        {{"--tour", "d", "--play", "a"}, "--tour, --play and --controls do not go together"},
+        {{"--tour", "d", "--play", "a"}, "--tour, --play, --controls and --gallery do not go together"},
+        {{"--tour", "d", "--gallery", "g"}, "--tour, --play, --controls and --gallery do not go together"},
+        {{"--gallery", ""}, "--gallery needs a folder"},
+        {{"--gallery", "g", "--language", "es"}, "--language does not go with --gallery"},
+        {{"--gallery", "g", "--size", "320x568"}, "--size does not go with --gallery"},
+        {{"--tour", "d", "--quick"}, "--quick goes with --gallery"},
         {{"--controls", ""}, "--controls needs a file"},
         {{"--out", "d"}, "--out goes with --play"},
         {{"--play", "a", "--out", "d", "--gateway", "h:1"}, "--gateway and --ca go together"},
@@ -78,6 +83,7 @@ TEST(Options, TakeAServerByNameOrAddress) {
     EXPECT_EQ(parseOptions({"quillet-host", "--tour", "d", "--size", "320x1280"})->size, QSize(320, 1280));
     EXPECT_EQ(parseOptions({"quillet-host", "--tour", "d"})->outFolder, "d");
     EXPECT_EQ(parseOptions({"quillet-host", "--controls", "c", "--dark"})->controlsFile, "c");
+    EXPECT_EQ(parseOptions({"quillet-host", "--gallery", "g", "--quick"})->outFolder, "g");
 }
 
 TEST(Options, TakeAnAppearanceAndNameItAgain) {

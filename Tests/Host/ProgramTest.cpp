@@ -1,10 +1,10 @@
+#include "HostProgram.hpp"
+
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ namespace demo::testing {
 
 namespace {
 
-struct Program : ::testing::Test {
+struct Program : ::testing::Test, HostProgram {
     /// Runs the host on a play with this text and returns its exit status.
     int play(const QByteArray& steps, const QStringList& more = {}) {
         QFile file(folder.filePath("p.play"));
@@ -26,27 +26,11 @@ struct Program : ::testing::Test {
         return run(QStringList{"--play", file.fileName(), "--out", folder.filePath("out")} + more);
     }
 
-    int run(const QStringList& arguments) {
-        QProcess host;
-        // Qt warns where this variable is unset, which it is not in a desktop session.
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("XDG_RUNTIME_DIR", runtime.path());
-        host.setProcessEnvironment(environment);
-        host.start(QUILLET_HOST_PROGRAM, arguments);
-        EXPECT_TRUE(host.waitForFinished(50'000));
-        complaint = QString::fromUtf8(host.readAllStandardError());
-        return host.exitStatus() == QProcess::NormalExit ? host.exitCode() : -1;
-    }
-
     QJsonObject report() {
         QFile file(folder.filePath("out/tour.json"));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return QJsonDocument::fromJson(file.readAll())["plays"][0].toObject();
     }
-
-    QTemporaryDir folder;
-    QTemporaryDir runtime;
-    QString complaint;
 };
 
 constexpr auto noneAdded = R"(# The outcome that takes the fewest taps.
