@@ -102,11 +102,11 @@ TEST_F(GalleryProgram, FailsWhereItCannotWrite) {
     // Each stands where the program wants to put something of its own.
     QFile file(folder.filePath("file"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(QDir(folder.path()).mkpath("out/loading.light.pt.100.320x568.png"));
+    ASSERT_TRUE(QDir(folder.path()).mkpath("out/loading.light.xb.100.320x568.png"));
     ASSERT_TRUE(QDir(folder.path()).mkpath("in/index.html"));
     const std::pair<QString, QStringList> cases[] = {
         {"file", {"cannot make the folder " + folder.filePath("file")}},
-        {"out", {"cannot write " + folder.filePath("out/loading.light.pt.100.320x568.png"), "has gaps"}},
+        {"out", {"cannot write " + folder.filePath("out/loading.light.xb.100.320x568.png"), "has gaps"}},
         {"in", {"cannot write " + folder.filePath("in/index.html")}},
     };
     for (const auto& [name, complaints] : cases) {

@@ -46,7 +46,7 @@ bool press(QQuickItem* button) {
 QQuickItem* openSection(const ScreenReader& reader) {
     for (const ScreenElement& element : reader.elements()) {
         const auto state = QAccessible::queryAccessibleInterface(element.item)->state();
-        if (state.checkable && state.checked) {
+        if (state.expanded) {
             return element.item;
         }
     }

@@ -64,6 +64,9 @@ Cover {
 
         readonly property real room: parent.height - safe.top - safe.bottom - 2 * KelSpacing.small
         readonly property real breadth: parent.width - safe.left - safe.right
+        // The usual distance from the sides, or less where a word would break.
+        readonly property real side: Words.fit(item.dialog.title + " " + item.dialog.message, item.dialog.messageFont,
+                                               card.width - 2 * KelSpacing.semi) ? KelSpacing.semi : KelSpacing.small
         readonly property real around: page.y + button.height + 2 * KelSpacing.semi
 
         x: Math.round(safe.left + (card.breadth - width) / 2)
@@ -84,9 +87,9 @@ Cover {
         ScrollableView {
             id: page
 
-            x: KelSpacing.semi
+            x: card.side
             y: KelSizes.medium
-            width: parent.width - 2 * KelSpacing.semi
+            width: parent.width - 2 * card.side
             height: card.height - card.around
             contentHeight: content.height
 
