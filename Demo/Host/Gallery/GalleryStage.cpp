@@ -119,8 +119,10 @@ std::expected<QImage, QString> GalleryStage::picture(const GalleryTheme& theme,
     });
     QImage picture;
     const auto rests = [&] {
+        // Asked first: taking a picture moves the animations on.
+        const bool isAtRest = Stage(*host_).settled() && isScrolled();
         const QImage before = std::exchange(picture, grab());
-        return Stage(*host_).settled() && isScrolled() && picture == before;
+        return isAtRest && picture == before;
     };
     if (!Stage::wait(patience, rests, glance)) {
         return std::unexpected(QStringLiteral("the screen does not come to rest"));
