@@ -1,5 +1,5 @@
 #include "Gallery/GalleryStage.hpp"
-#include "Play/Waiting.hpp"
+#include "Play/Stage.hpp"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ TEST(Ring, MovesWhileItWaits) {
     ASSERT_TRUE(stage.open(*loading, usualPhoneSize));
     const auto ring = [&] { return stage.grab().copy(phoneMiddle); };
     const QImage before = ring();
-    EXPECT_TRUE(waitUntil(std::chrono::seconds(3), [&] { return ring() != before; }));
+    EXPECT_TRUE(Stage::wait(std::chrono::seconds(3), [&] { return ring() != before; }));
 }
 
 } // namespace demo::testing
