@@ -80,7 +80,8 @@ int perform(const std::vector<demo::PlayScript>& plays, demo::PlayRunner& runner
     for (const demo::PlayScript& play : plays) {
         const bool elsewhere = play.hasLanguage && options.mode == demo::Options::Mode::tour;
         const QJsonObject report =
-            elsewhere ? demo::runLanguagePlay(play, options) : performHere(play, runner);
+            elsewhere ? demo::runLanguagePlay(QCoreApplication::applicationFilePath(), play, options)
+                      : performHere(play, runner);
         if (!report.contains(QStringLiteral("steps"))) {
             std::printf("FAILED  %s\n        its own process came to no end\n", qUtf8Printable(play.name));
             std::fflush(stdout);

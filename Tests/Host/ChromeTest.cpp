@@ -21,7 +21,7 @@ constexpr auto orders = R"([{"customer": "Florencia Vergara Contreras", "title":
 
 /// The host with pages of its own, and no gateway.
 struct Chrome : ::testing::Test {
-    Chrome() { EXPECT_TRUE(host->load(host) && hasSize(area.size())); }
+    Chrome() { EXPECT_TRUE(host->load(host)); }
     ~Chrome() override {
         apply({});
         EXPECT_EQ(WarningCounter::count(), 0);
@@ -45,12 +45,9 @@ struct Chrome : ::testing::Test {
     }
     QQuickItem& stack() const { return *host->window()->property("stack").value<QQuickItem*>(); }
     QQuickItem& page() const { return *stack().property("currentItem").value<QQuickItem*>(); }
-    /// The window system agrees to a size later.
-    bool hasSize(QSize size) const {
-        return QTest::qWaitFor([&] { return host->phone()->size() == QSizeF(size); });
-    }
     bool settle() const {
-        return QTest::qWaitFor([&] { return !stack().property("busy").toBool(); });
+        return QTest::qWaitFor(
+            [&] { return !stack().property("busy").toBool() && host->phone()->size() == area.size(); });
     }
     /// Every text in the phone-sized area that does not fit into it, or into its own box.
     QStringList cutTexts() const {
@@ -166,7 +163,6 @@ TEST_F(Chrome, CutsNoTextAtTwiceTheSize) {
     for (const QSize size : {QSize(320, 568), QSize(844, 390)}) {
         SCOPED_TRACE(size.width());
         area.resize(size);
-        ASSERT_TRUE(hasSize(size));
         apply({.textScale = 200, .direction = Qt::LeftToRight});
         host->close();
         ASSERT_TRUE(settle());
@@ -175,6 +171,9 @@ TEST_F(Chrome, CutsNoTextAtTwiceTheSize) {
         ASSERT_TRUE(settle());
         EXPECT_EQ(cutTexts().join(", ").toStdString(), "");
         EXPECT_GE(place("hostBar").height(), item("hostTitle").implicitHeight());
+        // The page need not scroll any more, and Qt warns where it then gives up the keys.
+        page().forceActiveFocus(Qt::TabFocusReason);
+        apply({.direction = Qt::LeftToRight});
     }
 }
 
@@ -199,7 +198,7 @@ TEST_F(Chrome, BeginsEachPlayAsTheProcessBegan) {
     EXPECT_FALSE(current.hasReducedMotion());
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
     EXPECT_EQ(place("hostOrder").left(), 16);
-    EXPECT_TRUE(hasSize({320, 568}));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return host->phone()->size() == QSizeF(320, 568); }));
 }
 
 } // namespace demo::testing

@@ -1,6 +1,5 @@
 #include "Play/LanguagePlay.hpp"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -47,13 +46,13 @@ void moveShots(QJsonObject& report, const QString& folder) {
 
 } // namespace
 
-QJsonObject runLanguagePlay(const PlayScript& play, const Options& tour) {
+QJsonObject runLanguagePlay(const QString& program, const PlayScript& play, const Options& tour) {
     const QString folder = tour.outFolder + u'/' + play.name;
     const QString reportFile = folder + QStringLiteral("/tour.json");
     QFile::remove(reportFile);
     QProcess host;
     host.setProcessChannelMode(QProcess::ForwardedChannels);
-    host.start(QCoreApplication::applicationFilePath(), argumentsFor(play, tour, folder));
+    host.start(program, argumentsFor(play, tour, folder));
     const bool met =
         host.waitForFinished(longest) && host.exitStatus() == QProcess::NormalExit && host.exitCode() == 0;
     QJsonObject report = takeReport(reportFile);

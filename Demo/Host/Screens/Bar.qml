@@ -20,12 +20,16 @@ Rectangle {
     implicitHeight: safe.top + content.height
     color: KelColors.surface
 
+    // Not the bar itself, whose height follows from what is measured.
+    Item {
+        id: edge
+
+        width: parent.width
+    }
     SafeArea {
         id: safe
 
-        item: bar
-        // The stack is below.
-        inner: Qt.BottomEdge
+        item: edge
     }
     Item {
         id: content

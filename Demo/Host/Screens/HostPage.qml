@@ -18,7 +18,7 @@ Flickable {
 
     contentHeight: Math.max(page.room, column.height + 2 * KelSpacing.small) + safe.bottom
     boundsBehavior: Flickable.StopAtBounds
-    activeFocusOnTab: page.contentHeight > page.height
+    activeFocusOnTab: true
     Keys.onUpPressed: page.scrollBy(-KelSizes.large)
     Keys.onDownPressed: page.scrollBy(KelSizes.large)
 
