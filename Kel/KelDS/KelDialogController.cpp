@@ -20,7 +20,7 @@ namespace {
 Q_LOGGING_CATEGORY(lcDialog, "kel.dialog")
 
 namespace keys {
-#define KEL_TEXT(name, key) constexpr auto name = key;
+#define KEL_TEXT(name, key) constexpr auto name = (key);
 #include "KelDS/KelTextKeys.def"
 } // namespace keys
 

@@ -15,7 +15,7 @@ public:
     QMarginsF margins;
 
     static Insets* of(const QQuickItem& area) {
-        const auto children = area.children();
+        const auto& children = area.children();
         const auto found =
             std::ranges::find_if(children, [](QObject* child) { return dynamic_cast<Insets*>(child); });
         return found == children.end() ? nullptr : dynamic_cast<Insets*>(*found);
