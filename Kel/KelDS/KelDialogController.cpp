@@ -20,6 +20,7 @@ namespace {
 Q_LOGGING_CATEGORY(lcDialog, "kel.dialog")
 
 namespace keys {
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a name that is declared takes none.
 #define KEL_TEXT(name, key) constexpr auto name = (key);
 #include "KelDS/KelTextKeys.def"
 } // namespace keys
