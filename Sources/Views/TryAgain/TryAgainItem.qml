@@ -34,8 +34,9 @@ Rectangle {
 
             Image {
                 anchors.horizontalCenter: parent.horizontalCenter
-                width: root.tryAgain.iconSize
-                height: root.tryAgain.iconSize
+                // Low screens keep the message in view.
+                width: Math.round(Math.min(root.tryAgain.iconSize, Math.max(KelSizes.large, page.height / 2)))
+                height: width
                 sourceSize.width: width
                 sourceSize.height: height
                 source: root.tryAgain.icon
