@@ -1,5 +1,6 @@
 #include "Checkout/Inputs/ResultFactories.hpp"
 #include "KelCommon/KelAnalyticsManager.hpp"
+#include "KelDS/KelDS.hpp"
 #include "Platform/Screens/NavigationController.hpp"
 #include "Quillet/Testing/RecordingHost.hpp"
 #include "Support/Stage.hpp"
@@ -150,8 +151,16 @@ TEST_F(ResultScreen, BeginsAtItsTopFromTheFirstFrameOn) {
             return offsets.size() > seen + 2;
         }));
     }
-    QObject::disconnect(look);
     EXPECT_THAT(offsets, AllOf(Not(IsEmpty()), Each(::testing::Lt(4))));
+    for (const double scale : {2.0, 1.0}) {
+        kel::KelAppearance::current().setTextScale(scale);
+        const auto seen = offsets.size();
+        ASSERT_TRUE(turnUntil([&] {
+            stage.window().update();
+            return offsets.size() > seen + 30 && offsets.back() < 4;
+        })) << offsets.back();
+    }
+    QObject::disconnect(look);
 }
 
 TEST_F(ResultScreen, KeepsItsPlaceWhileSectionsOpenAndCloseAndTheWindowChanges) {

@@ -72,7 +72,18 @@ Item {
         edge.nextItemInFocusChain(forward).forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
     }
 
+    readonly property real textScale: KelFonts.scale
+
+    // A header that grows under a list at its beginning pushes it away from there. How far is known with the next frames.
+    onTextScaleChanged: if (list.contentY < list.originY + KelSizes.micro) backToBeginning.restart()
     Keys.forwardTo: [keys]
+
+    Timer {
+        id: backToBeginning
+
+        interval: KelMotion.press
+        onTriggered: list.positionViewAtBeginning()
+    }
 
     // Where the keys come into the page.
     Item {

@@ -89,6 +89,7 @@ struct KelOpacity {
 struct KelMotion : QObject {
     KEL_SINGLETON
     KEL_NUMBER(dialogIn, 0)
+    KEL_NUMBER(press, 0)
     static constexpr int panel = 0;
     Q_PROPERTY(bool reduced MEMBER reduced CONSTANT)
     static constexpr bool reduced = true;
