@@ -2,12 +2,13 @@
 # by their folder's name: those of the module below Sources, those of the platform below the project's own folder. Which
 # folder may include which is checked by scripts/lint-includes.
 
+include(CheckLinkerFlag)
+
 # For our own targets that use what is not public: the headers, and the libraries that these include.
 add_library(QuilletInternals INTERFACE)
 target_include_directories(QuilletInternals INTERFACE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/Sources")
 
 # quillet_library(TARGET MACRO): a library that hides what its headers do not mark. MACRO tells the headers who is built.
-include(CheckLinkerFlag)
 function(quillet_library target macro)
     set_target_properties(${target} PROPERTIES
         CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
