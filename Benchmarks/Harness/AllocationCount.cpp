@@ -1,4 +1,4 @@
-#include "AllocationCount.hpp"
+#include "Harness/AllocationCount.hpp"
 
 #include <cstdlib>
 #include <new>

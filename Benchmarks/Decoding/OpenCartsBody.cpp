@@ -1,4 +1,4 @@
-#include "OpenCartsBody.hpp"
+#include "Decoding/OpenCartsBody.hpp"
 
 #include <array>
 #include <cstdint>
@@ -24,6 +24,8 @@ constexpr std::array<std::string_view, 12> names = {"Labial mate tono 12",
 
 class Writer {
 public:
+    explicit Writer(std::uint32_t seed) : random_(seed) {}
+
     std::string cart(std::size_t number, std::size_t lines) {
         const std::size_t benefits = 1 + pick(3);
         std::string text = R"({"cartNumber":)" + std::to_string(4000000 + number);
@@ -80,8 +82,8 @@ private:
 
 } // namespace
 
-std::string openCartsBody(std::size_t carts, std::size_t linesPerCart) {
-    Writer writer;
+std::string openCartsBody(std::uint32_t seed, std::size_t carts, std::size_t linesPerCart) {
+    Writer writer(seed);
     std::string body =
         R"({"consultant":{"id":8812345,"cycle":{"code":202405,"startDate":)"
         R"("2024-03-01T00:00:00.000-0300","endDate":"2024-03-21T23:59:59.999-0300"}},"carts":[)";

@@ -1,4 +1,4 @@
-#include "ResultStage.hpp"
+#include "Screens/ResultStage.hpp"
 
 #include "Checkout/Inputs/ResultFactories.hpp"
 #include "Platform/Screens/NavigationController.hpp"

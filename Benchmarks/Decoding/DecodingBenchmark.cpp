@@ -1,4 +1,4 @@
-#include "AllocationCount.hpp"
+#include "Harness/AllocationCount.hpp"
 #include "OpenCartsBody.hpp"
 #include "Quillet/Orders.hpp"
 

@@ -1,5 +1,5 @@
-#include "AllocationCount.hpp"
-#include "ResultStage.hpp"
+#include "Harness/AllocationCount.hpp"
+#include "Screens/ResultStage.hpp"
 
 #include "KelCommon/KelLocalized.hpp"
 
