@@ -1,3 +1,4 @@
+#include "Decoding/DecodingRows.hpp"
 #include "Harness/Groups.hpp"
 #include "Network/TokenRows.hpp"
 
@@ -6,6 +7,9 @@ namespace {
 using quillet::benchmarks::Group;
 
 constexpr Group groups[] = {
+    {"decoding", "decoding open carts, beside other parsers", true, quillet::benchmarks::decodingRows},
+    {"memory", "memory that a decoding takes", true, quillet::benchmarks::decodingMemoryRows},
+    {"growth", "decoding of large and of hostile bodies", true, quillet::benchmarks::decodingGrowthRows},
     {"token", "signing a token", true, quillet::benchmarks::tokenRows},
 };
 

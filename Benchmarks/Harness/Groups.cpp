@@ -66,11 +66,17 @@ std::vector<Row> rowsOf(const Group& group, const Options& options) {
     return rows;
 }
 
-std::vector<Row> allRows(std::span<const Group> groups, const Options& options) {
+/// The rows of all groups that could be measured; `failed` says whether one could not.
+std::vector<Row> allRows(std::span<const Group> groups, const Options& options, bool& failed) {
     std::vector<Row> rows;
     for (const Group& group : groups) {
         if (options.groups.empty() || std::ranges::find(options.groups, group.name) != options.groups.end()) {
-            std::ranges::move(rowsOf(group, options), std::back_inserter(rows));
+            try {
+                std::ranges::move(rowsOf(group, options), std::back_inserter(rows));
+            } catch (const std::runtime_error& error) {
+                std::fprintf(stderr, "%s\n", error.what());
+                failed = true;
+            }
         }
     }
     std::ranges::stable_sort(rows, {}, [](const Row& row) { return row.name.substr(0, 2); });
@@ -98,12 +104,13 @@ int runGroups(std::span<const Group> groups, int argumentCount, char** arguments
             writeRows(path, group.run(options));
             return 0;
         }
-        const auto rows = allRows(groups, options);
+        bool failed = false;
+        const auto rows = allRows(groups, options, failed);
         printRows(rows);
         if (options.json) {
             writeRows(*options.json, rows);
         }
-        return 0;
+        return failed ? 1 : 0;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;

@@ -9,8 +9,8 @@
 
 namespace quillet::benchmarks {
 
-/// Rows that are measured together. Each group runs in a process of its own, so that none finds the heap, the caches or
-/// the threads that another left behind.
+/// Rows that are measured together. Each group runs in a process of its own, so that none finds the heap, the
+/// caches or the threads that another left behind.
 struct Group {
     std::string_view name;
     /// What its rows are about, for `--help`.
@@ -20,8 +20,8 @@ struct Group {
     std::vector<Row> (*run)(const Options&) = nullptr;
 };
 
-/// Runs what the arguments ask for, each group in a process of its own, and prints the table. The exit status is 0 also where
-/// a goal is not met, and 1 where something could not be measured.
+/// Runs what the arguments ask for, each group in a process of its own, and prints the table. The exit status
+/// is 0 also where a goal is not met, and 1 where something could not be measured.
 [[nodiscard]] int runGroups(std::span<const Group> groups, int argumentCount, char** arguments);
 
 } // namespace quillet::benchmarks

@@ -24,8 +24,8 @@ struct Options {
     }
 };
 
-/// Reads [--quick] [--seed N] [--json FILE] [GROUP ...]. Throws std::invalid_argument, whose text says what is
-/// wrong, for anything else.
+/// Reads [--quick] [--seed N] [--json FILE] [GROUP ...]. Throws std::invalid_argument, whose text says what
+/// is wrong, for anything else.
 [[nodiscard]] Options optionsFrom(const std::vector<std::string>& arguments);
 
 } // namespace quillet::benchmarks

@@ -28,18 +28,21 @@ struct Rounds {
     Samples yardstick;
 };
 
-/// Does its work once and returns the time that counts, in any unit. It prepares and cleans up outside that time.
+/// Does its work once and returns the time that counts, in any unit. It prepares and cleans up outside that
+/// time.
 using Measured = std::function<double()>;
 
-/// Measures both in the order ours, theirs, theirs, ours, so that a machine that slows down in a round slows down
-/// both alike. A round's figure is the mean of its two. One round more, before the first, warms up.
+/// Measures both in the order ours, theirs, theirs, ours, so that a machine that slows down in a round slows
+/// down both alike. A round's figure is the mean of its two. One round more, before the first, warms up.
 [[nodiscard]] Rounds inTurns(std::size_t rounds, const Measured& ours, const Measured& theirs);
 
-/// The time that `work` takes, in milliseconds. What it returns is kept from the optimiser, and destroyed later.
+/// The time that `work` takes, in milliseconds. What it returns is kept from the optimiser, and destroyed
+/// later.
 template <typename Work>
 [[nodiscard]] double milliseconds(Work&& work);
 
-/// Keeps the calling thread, and those that it starts from now on, on one core. False where the system refuses.
+/// Keeps the calling thread, and those that it starts from now on, on one core. False where the system
+/// refuses.
 bool pinToOneCore();
 
 } // namespace quillet::benchmarks

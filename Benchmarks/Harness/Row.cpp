@@ -39,7 +39,8 @@ std::optional<double> optional(const nlohmann::json& figure) {
 } // namespace
 
 Row ratioRow(std::string name, std::string unit, const Rounds& rounds, Goal goal) {
-    Row row = ratioRow(std::move(name), std::move(unit), rounds.ours.median(), rounds.yardstick.median(), goal);
+    Row row =
+        ratioRow(std::move(name), std::move(unit), rounds.ours.median(), rounds.yardstick.median(), goal);
     const double lowest = ratioOf(rounds.ours.least(), rounds.yardstick.least(), goal);
     row.met = row.met && goal.metBy(lowest);
     row.remark = "of the minima " + number(lowest);
@@ -85,8 +86,9 @@ std::vector<Row> readRows(const std::string& path) {
     for (const auto& row : document.at("rows")) {
         const double bound = row.at("goal");
         rows.push_back({row.at("name"), row.at("unit"), row.at("value"), optional(row.at("yardstick")),
-                        optional(row.at("ratio")), row.at("kind") == "at most" ? atMost(bound) : atLeast(bound),
-                        row.at("met"), row.at("remark")});
+                        optional(row.at("ratio")),
+                        row.at("kind") == "at most" ? atMost(bound) : atLeast(bound), row.at("met"),
+                        row.at("remark")});
     }
     return rows;
 }
@@ -101,10 +103,10 @@ void printRows(const std::vector<Row>& rows) {
                 "goal", "met");
     for (const Row& row : rows) {
         const std::string goal = kindOf(row.goal) + ' ' + number(row.goal.bound);
-        std::printf("%-*s %11s %11s %-9s %7s  %-14s %s%s%s\n", name, row.name.c_str(), number(row.value).c_str(),
-                    row.yardstick ? number(*row.yardstick).c_str() : "", row.unit.c_str(),
-                    row.ratio ? number(*row.ratio).c_str() : "", goal.c_str(), row.met ? "yes" : "NO",
-                    row.remark.empty() ? "" : "   ", row.remark.c_str());
+        std::printf("%-*s %11s %11s %-9s %7s  %-14s %s%s%s\n", name, row.name.c_str(),
+                    number(row.value).c_str(), row.yardstick ? number(*row.yardstick).c_str() : "",
+                    row.unit.c_str(), row.ratio ? number(*row.ratio).c_str() : "", goal.c_str(),
+                    row.met ? "yes" : "NO", row.remark.empty() ? "" : "   ", row.remark.c_str());
     }
 }
 

@@ -43,20 +43,21 @@ struct Row {
 };
 
 /// Compares times that were measured in turns. For an `atMost` the ratio is ours to theirs, for an `atLeast`
-/// theirs to ours ("8 times faster"). Both the ratio of the medians and that of the minima have to meet the goal.
+/// theirs to ours ("8 times faster"). Both the ratio of the medians and that of the minima have to meet the
+/// goal.
 [[nodiscard]] Row ratioRow(std::string name, std::string unit, const Rounds& rounds, Goal goal);
 
 /// Compares two figures that need no rounds, such as sizes.
 [[nodiscard]] Row ratioRow(std::string name, std::string unit, double value, double yardstick, Goal goal);
 
-/// Holds a figure against a goal of the same unit. Where there is a figure to read it beside (the same on an idle
-/// machine, for example), that is the yardstick.
+/// Holds a figure against a goal of the same unit. Where there is a figure to read it beside (the same on an
+/// idle machine, for example), that is the yardstick.
 [[nodiscard]] Row plainRow(std::string name, std::string unit, double value, Goal goal,
                            std::optional<double> yardstick = {});
 
-/// `{"rows":[{"name", "value", "yardstick", "ratio", "goal", "met", "kind", "unit", "remark"}]}`; yardstick and ratio are
-/// null where there is none, kind is "at most" or "at least". Throws std::runtime_error if the file cannot be
-/// written or read.
+/// `{"rows":[{"name", "value", "yardstick", "ratio", "goal", "met", "kind", "unit", "remark"}]}`; yardstick
+/// and ratio are null where there is none, kind is "at most" or "at least". Throws std::runtime_error if the
+/// file cannot be written or read.
 void writeRows(const std::string& path, const std::vector<Row>& rows);
 [[nodiscard]] std::vector<Row> readRows(const std::string& path);
 

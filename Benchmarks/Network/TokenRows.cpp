@@ -72,7 +72,8 @@ std::vector<Row> tokenRows(const Options& options) {
     }
     const auto rounds = inTurns(
         options.times(31, 2), [&] { return microseconds(ours); }, [&] { return microseconds(bare); });
-    return {ratioRow("08 sign a token of a 1 KB access token / OpenSSL's HMAC and base64", "us", rounds, atMost(1.5))};
+    return {ratioRow("08 sign a token of a 1 KB access token / OpenSSL's HMAC and base64", "us", rounds,
+                     atMost(1.5))};
 }
 
 } // namespace quillet::benchmarks
