@@ -7,6 +7,16 @@
 
 namespace quillet::platform::json {
 
+bool Cursor::moveWindow(const char* start) {
+    if (!index_.moveTo(start)) {
+        return invalidate();
+    }
+    begin_ = index_.begin();
+    next_ = index_.offsets();
+    refillAt_ = index_.refillAt();
+    return true;
+}
+
 bool Cursor::skipString() {
     if (peek() != '"') {
         return invalidate();
@@ -26,11 +36,19 @@ bool Cursor::skipScalar() {
     case 'n':
         return passLiteral("null");
     }
-    const auto number = scanNumber(rest());
-    return number ? passScalar(number->end) : invalidate();
+    ShortNumber number;
+    if (readShort(number)) {
+        return passToken();
+    }
+    const auto longer = scanNumber(rest());
+    return longer ? passScalar(longer->end) : invalidate();
 }
 
 bool Cursor::skip() {
+    return peek() == '{' || peek() == '[' ? skipNested() : skipScalar();
+}
+
+bool Cursor::skipNested() {
     // Iterative, with one bit for each level of nesting, so that no body can exhaust the stack.
     std::bitset<maximumDepth + 1> objects;
     const int outside = depth_;

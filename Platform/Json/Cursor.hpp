@@ -1,10 +1,12 @@
 #pragma once
 
+#include "Platform/Json/DigitBlock.hpp"
+#include "Platform/Json/StructuralIndex.hpp"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -17,17 +19,18 @@ public:
     /// The deepest nesting of arrays and objects that a body may have.
     static constexpr int maximumDepth = 512;
 
-    /// `body` and `offsets`, its structural index, must outlive the cursor.
-    Cursor(const std::string& body, std::span<const std::uint32_t> offsets)
-        : body_(body.data()), end_(body.data() + body.size()), next_(offsets.data()) {}
+    /// `body` and its `index` must outlive the cursor, which moves the index's window.
+    Cursor(const std::string& body, StructuralIndex& index) : index_(index), end_(body.data() + body.size()) {
+        moveWindow(body.data());
+    }
 
     [[nodiscard]] bool invalid() const { return invalid_; }
     [[nodiscard]] bool atEnd() const { return token() == end_; }
 
     /// The first byte of the next token; NUL at the end.
-    [[nodiscard]] char peek() const { return body_[*next_]; }
-    [[nodiscard]] const char* token() const { return body_ + *next_; }
-    [[nodiscard]] const char* followingToken() const { return body_ + next_[1]; }
+    [[nodiscard]] char peek() const { return begin_[*next_]; }
+    [[nodiscard]] const char* token() const { return begin_ + *next_; }
+    [[nodiscard]] const char* followingToken() const { return begin_ + next_[1]; }
     [[nodiscard]] bool hasRest(std::ptrdiff_t length) const { return end_ - token() >= length; }
     [[nodiscard]] std::string_view rest() const { return {token(), end_}; }
 
@@ -53,6 +56,11 @@ public:
         return true;
     }
 
+    /// Reads the token if it is a number of a few characters, without moving past it.
+    [[nodiscard]] bool readShort(ShortNumber& number) const {
+        return hasRest(DigitBlock::size) && number.readBlock(token(), followingToken());
+    }
+
     /// Whether a number or literal may end here.
     [[nodiscard]] bool endsScalar(const char* end) const {
         switch (*end) {
@@ -74,7 +82,7 @@ public:
     /// its escapes.
     std::string_view passString() {
         const char* const first = token() + 1;
-        const char* last = body_ + *++next_ - 1;
+        const char* last = begin_ + *++next_ - 1;
         // Only white space can stand between a string's end and the next token.
         while (*last != '"') {
             --last;
@@ -98,8 +106,8 @@ public:
 
     /// Call them after `open` and after each element or member. They return whether another one follows, and
     /// move past the comma or the closing `bracket`.
-    bool first(char bracket) { return !takeClosing(bracket); }
-    bool next(char bracket) { return take(',') || (!takeClosing(bracket) && invalidate()); }
+    bool first(char bracket) { return look() && !takeClosing(bracket); }
+    bool next(char bracket) { return look() && (take(',') || (!takeClosing(bracket) && invalidate())); }
 
     /// Moves past a key and its colon if the key is spelled exactly as `quoted`, quotation marks included.
     template <std::size_t size>
@@ -131,12 +139,19 @@ private:
         return false;
     }
 
+    /// Makes sure that a member with its key, colon and the beginning of its value can be read.
+    bool look() { return next_ < refillAt_ || moveWindow(token()); }
+    bool moveWindow(const char* start);
+
+    bool skipNested();
     bool skipString();
     bool skipScalar();
 
-    const char* body_;
+    StructuralIndex& index_;
+    const char* begin_ = nullptr;
     const char* end_;
-    const std::uint32_t* next_;
+    const std::uint32_t* next_ = nullptr;
+    const std::uint32_t* refillAt_ = nullptr;
     int depth_ = 0;
     bool invalid_ = false;
     std::string scratch_;

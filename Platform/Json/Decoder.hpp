@@ -16,16 +16,14 @@ namespace quillet::platform::json {
 ///
 /// If there are several errors, invalid JSON is reported first; else, in each record, the error of the first
 /// field in its table, and in each list that of the first element. If an object has a key twice, the first
-/// value counts.
+/// value counts. `window` is how many bytes are looked at ahead; the result does not depend on it.
 template <typename T>
-[[nodiscard]] std::expected<T, DecodingError> decode(const std::string& body) {
-    const auto index = StructuralIndex::of(body);
-    if (!index) {
-        return std::unexpected(DecodingError{});
-    }
-    RecordReader reader(body, index->offsets());
+[[nodiscard]] std::expected<T, DecodingError> decode(const std::string& body,
+                                                     std::size_t window = StructuralIndex::usualWindow) {
+    StructuralIndex index(body, window);
+    RecordReader reader(body, index);
     std::expected<T, DecodingError> result;
-    const bool read = reader.read(*result);
+    const bool read = reader.canRead() && reader.read(*result);
     if (!reader.passedAll()) {
         result = std::unexpected(DecodingError{});
     } else if (!read) {

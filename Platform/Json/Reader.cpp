@@ -35,6 +35,10 @@ bool Reader::readText(std::string_view& text, std::string_view expected) {
 
 template <typename T>
 bool Reader::readNumber(T& value, std::optional<T> (*convert)(const NumberToken&)) {
+    ShortNumber longer;
+    if (longer.readBlocks(cursor_.token(), cursor_.followingToken()) && take(longer, value)) {
+        return cursor_.passToken();
+    }
     if (cursor_.peek() != '-' && !isDigit(cursor_.peek())) {
         return passUnexpected(expectedOf<T>());
     }

@@ -7,7 +7,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -19,8 +18,10 @@ namespace quillet::platform::json {
 /// JSON, and then nothing more can be read.
 class Reader {
 public:
-    Reader(const std::string& body, std::span<const std::uint32_t> offsets) : cursor_(body, offsets) {}
+    Reader(const std::string& body, StructuralIndex& index) : cursor_(body, index) {}
 
+    /// Whether there is anything to read: a body that is not JSON may have no token at all.
+    [[nodiscard]] bool canRead() const { return !cursor_.invalid(); }
     /// Whether the whole body was read and is JSON.
     [[nodiscard]] bool passedAll() const { return !cursor_.invalid() && cursor_.atEnd(); }
     [[nodiscard]] DecodingError takeError() { return std::move(error_); }
@@ -29,13 +30,15 @@ protected:
     ~Reader() = default;
 
     bool read(std::uint64_t& value) {
-        const bool plain = readPlainUnsigned(cursor_.token(), cursor_.followingToken(), value);
-        return plain ? cursor_.passToken() : readNumber(value, toUnsigned);
+        ShortNumber number;
+        return cursor_.readShort(number) && take(number, value) ? cursor_.passToken()
+                                                                : readNumber(value, toUnsigned);
     }
     bool read(std::int64_t& value) { return readNumber(value, toSigned); }
     bool read(Decimal& value) {
-        const bool plain = readPlainDecimal(cursor_.token(), cursor_.followingToken(), value);
-        return plain ? cursor_.passToken() : readNumber(value, toDecimal);
+        ShortNumber number;
+        return cursor_.readShort(number) && take(number, value) ? cursor_.passToken()
+                                                                : readNumber(value, toDecimal);
     }
     bool read(bool& value) {
         value = cursor_.peek() == 't';
@@ -77,6 +80,17 @@ protected:
 private:
     /// A string's text, valid until the next string is read.
     bool readText(std::string_view& text, std::string_view expected);
+
+    static bool take(ShortNumber number, std::uint64_t& value) {
+        value = number.digits;
+        return number.fractionDigits == 0;
+    }
+    static bool take(ShortNumber number, Decimal& value) {
+        value = Decimal(static_cast<std::int64_t>(number.digits), -number.fractionDigits);
+        return true;
+    }
+    /// Negative numbers are too rare to be read fast.
+    static bool take(ShortNumber, std::int64_t&) { return false; }
 
     template <typename T>
     bool readNumber(T& value, std::optional<T> (*convert)(const NumberToken&));
