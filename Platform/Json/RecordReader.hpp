@@ -44,7 +44,7 @@ public:
         for (; more; more = cursor_.next(']')) {
             if (!good) {
                 cursor_.skip();
-            } else if (!read(list.emplace_back())) {
+            } else if (!read(list.emplace_back(blank<T>))) {
                 good = false;
                 prefixError(list.size() - 1);
             }
@@ -179,6 +179,11 @@ private:
         std::copy(key.begin(), key.end(), quoted.begin() + 1);
         return quoted;
     }();
+
+    /// New elements are copies of it: GCC clears a record that it value-initialises by an instruction that
+    /// takes longer than this copy.
+    template <typename T>
+    static inline const T blank{};
 
     static constexpr std::uint64_t bit(std::size_t index) { return std::uint64_t{1} << index; }
 
