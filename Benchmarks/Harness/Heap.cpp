@@ -57,9 +57,12 @@ std::size_t liveBytes() {
 }
 
 void keepHeap() {
-    constexpr int kept = 1 << 30;
-    mallopt(M_TRIM_THRESHOLD, kept);
-    mallopt(M_MMAP_THRESHOLD, kept);
+    constexpr int trimThreshold = 1 << 30;
+    // No larger one is taken.
+    constexpr int mapThreshold = 32 << 20;
+    if (mallopt(M_TRIM_THRESHOLD, trimThreshold) != 1 || mallopt(M_MMAP_THRESHOLD, mapThreshold) != 1) {
+        throw std::runtime_error("The allocator does not keep freed memory.");
+    }
 }
 
 void settleHeap() {
