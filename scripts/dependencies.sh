@@ -8,7 +8,7 @@ quillet_packages=(
     # tools
     g++ cmake ninja-build ccache pkg-config
     # Backend
-    ca-certificates libcurl4-openssl-dev libssl-dev libsimdjson-dev zlib1g-dev nlohmann-json3-dev
+    ca-certificates libcurl4-openssl-dev libssl-dev libsimdjson-dev zlib1g-dev
     # screens
     qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     libgl1-mesa-dev 'qt6-svg-plugins|libqt6svg6'
@@ -16,7 +16,7 @@ quillet_packages=(
     qml6-module-qtquick-window qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
     fonts-inter fonts-material-design-icons-iconfont 'fonts-dejavu-mono|fonts-dejavu-core'
     # gateway
-    libboost-dev libsqlite3-dev
+    nlohmann-json3-dev libboost-dev libsqlite3-dev
     # tests and benchmarks
     libgtest-dev libgmock-dev libbenchmark-dev iproute2 libatspi2.0-dev at-spi2-core dbus-daemon xvfb)
 

@@ -2,8 +2,8 @@
 
 #include "Platform/Json/Utf8.hpp"
 
-#include <nlohmann/json.hpp>
-
+#include <algorithm>
+#include <array>
 #include <concepts>
 #include <string_view>
 #include <utility>
@@ -16,18 +16,42 @@ namespace {
 using Written = std::expected<void, EncodingError>;
 Written write(std::string& json, const JSONValue& value, const std::string& path);
 
+// Whether a byte is written in another way than as it is.
+constexpr auto isEscaped = [] {
+    std::array<bool, 256> table{};
+    std::fill_n(table.begin(), 0x20, true);
+    table['"'] = table['\\'] = table['/'] = true;
+    return table;
+}();
+
+void writeEscaped(std::string& json, unsigned char c) {
+    constexpr std::string_view named = "\"\\/\b\f\n\r\t";
+    constexpr std::string_view names = "\"\\/bfnrt";
+    json += '\\';
+    if (const auto which = named.find(static_cast<char>(c)); which != std::string_view::npos) {
+        json += names[which];
+    } else {
+        json += "u00";
+        json += "01"[c >> 4];
+        json += "0123456789abcdef"[c & 0xf];
+    }
+}
+
 Written write(std::string& json, const std::string& text, const std::string& path) {
     if (!isUtf8(text)) {
         return std::unexpected(EncodingError{path});
     }
-    // nlohmann::json only writes the texts here. Destroying a tree of its values allocates memory, and a
-    // failure there terminates the program.
-    for (const char c : nlohmann::json(text).dump()) {
-        if (c == '/') {
-            json += '\\';
+    json += '"';
+    for (auto rest = text.begin();; ++rest) {
+        const auto next = std::find_if(rest, text.end(), [](unsigned char c) { return isEscaped[c]; });
+        json.append(rest, next);
+        if (next == text.end()) {
+            break;
         }
-        json += c;
+        writeEscaped(json, static_cast<unsigned char>(*next));
+        rest = next;
     }
+    json += '"';
     return {};
 }
 

@@ -46,13 +46,14 @@ TEST(URLRequestWrapper, RefusesAHeaderThatWouldSplitTheRequest) {
 TEST(URLRequestWrapper, WritesABodyAsCompactJsonWithEscapedSlashes) {
     const auto request = URLRequestFactory().create({});
     const platform::JSONValue::Object parameters = {
-        {"z/", "a/b\"\\\n\x01 ñ🛒\0"s},
+        {"z/", "a/b\"\\\b\f\n\r\t\x01\x1f\x7f ñ🛒\0"s},
         {"a", platform::JSONValue::Object{{"id", std::numeric_limits<std::uint64_t>::max()}, {"low", -1}}},
         {"none", platform::JSONValue::Object{}}};
     EXPECT_TRUE(request->addToHttpBody(parameters));
-    EXPECT_EQ(
-        request->urlRequest().httpBody,
-        R"({"z\/":"a\/b\"\\\n\u0001 ñ🛒\u0000","a":{"id":18446744073709551615,"low":-1},"none":{}})");
+    EXPECT_EQ(request->urlRequest().httpBody,
+              R"({"z\/":"a\/b\"\\\b\f\n\r\t\u0001\u001f)"
+              "\x7f"
+              R"( ñ🛒\u0000","a":{"id":18446744073709551615,"low":-1},"none":{}})");
 }
 
 TEST(URLRequestWrapper, KeepsItsBodyWhenAnotherCannotBeEncoded) {

@@ -12,20 +12,21 @@ std::string description(const JWTError& error) {
 }
 
 std::expected<std::string, JWTError> JWTCreator::createJSONWebToken() const {
-    const auto headerSegment = base64String(header);
-    if (!headerSegment) {
-        return std::unexpected(headerSegment.error());
+    auto token = base64String(header);
+    if (!token) {
+        return std::unexpected(std::move(token).error());
     }
     const auto payloadSegment = base64String(payload);
     if (!payloadSegment) {
         return std::unexpected(payloadSegment.error());
     }
-    const std::string content = *headerSegment + "." + *payloadSegment;
-    const auto signature = scribe->signatureBase64String(content, secretKey);
+    token->append(".").append(*payloadSegment);
+    const auto signature = scribe->signatureBase64String(*token, secretKey);
     if (!signature) {
         return std::unexpected(signature.error());
     }
-    return content + "." + *signature;
+    token->append(".").append(*signature);
+    return *std::move(token);
 }
 
 std::expected<Authorization, JWTError> authorize(const std::string& accessToken, std::string provider,
