@@ -1,6 +1,7 @@
 #include "Decoding/DecodingRows.hpp"
 #include "Harness/Groups.hpp"
 #include "Network/TokenRows.hpp"
+#include "Screens/ScrollRows.hpp"
 
 namespace {
 
@@ -11,6 +12,7 @@ constexpr Group groups[] = {
     {"memory", "memory that a decoding takes", true, quillet::benchmarks::decodingMemoryRows},
     {"growth", "decoding of large and of hostile bodies", true, quillet::benchmarks::decodingGrowthRows},
     {"token", "signing a token", true, quillet::benchmarks::tokenRows},
+    {"scroll", "scrolling a long result", true, quillet::benchmarks::scrollRows},
 };
 
 } // namespace

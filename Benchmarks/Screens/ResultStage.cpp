@@ -1,13 +1,12 @@
 #include "Screens/ResultStage.hpp"
 
 #include "Checkout/Inputs/ResultFactories.hpp"
+#include "Harness/Heap.hpp"
 #include "Platform/Screens/NavigationController.hpp"
 #include "Views/QuilletViews.hpp"
 
 #include <QEventLoop>
 #include <QQmlComponent>
-
-#include <malloc.h>
 
 #include <algorithm>
 #include <stdexcept>
@@ -144,11 +143,6 @@ std::vector<QQuickItem*> ResultStage::rows() const {
         }
     }
     return rows;
-}
-
-std::size_t liveBytes() {
-    const auto heap = mallinfo2();
-    return heap.uordblks + heap.hblkhd;
 }
 
 } // namespace quillet::benchmarks

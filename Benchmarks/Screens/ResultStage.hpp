@@ -67,8 +67,4 @@ private:
     std::weak_ptr<ProductsCheckoutStatusViewController> screen_;
 };
 
-/// Bytes in use in the malloc heap. Qt's containers bypass operator new, so counting that is not enough.
-/// JavaScript's heap is not included.
-[[nodiscard]] std::size_t liveBytes();
-
 } // namespace quillet::benchmarks
