@@ -34,6 +34,8 @@ Options optionsFrom(const std::vector<std::string>& arguments) {
             options.seed = seedFrom(value());
         } else if (argument == "--json") {
             options.json = value();
+        } else if (argument == "--curves") {
+            options.curves = value();
         } else if (argument.starts_with("-")) {
             throw std::invalid_argument("There is no option " + argument + ".");
         } else {

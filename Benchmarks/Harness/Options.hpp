@@ -17,6 +17,8 @@ struct Options {
     std::vector<std::string> groups;
     /// Where the rows go as JSON, beside the table on standard output.
     std::optional<std::string> json;
+    /// The folder that the curves go to, instead of measuring rows.
+    std::optional<std::string> curves;
 
     /// `full` in a whole run, `quickly` in a quick one.
     [[nodiscard]] std::size_t times(std::size_t full, std::size_t quickly) const {
@@ -24,7 +26,7 @@ struct Options {
     }
 };
 
-/// Reads [--quick] [--seed N] [--json FILE] [GROUP ...]. Throws std::invalid_argument, whose text says what
+/// Reads [--quick] [--seed N] [--json FILE] [--curves FOLDER] [GROUP ...]. Throws std::invalid_argument, whose text says what
 /// is wrong, for anything else.
 [[nodiscard]] Options optionsFrom(const std::vector<std::string>& arguments);
 

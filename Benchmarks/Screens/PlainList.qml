@@ -90,15 +90,17 @@ ListView {
                             color: "#1f1b14"
                         }
                     }
-                    Column {
+                    Item {
                         id: texts
 
                         x: 100
                         y: 17
                         width: pointsText.x - 112
-                        spacing: 4
+                        height: codeText.y + codeText.height + (row.hasReason ? 20 : 0)
 
                         Text {
+                            id: nameText
+
                             width: parent.width
                             text: row.description
                             font.family: "Inter"
@@ -108,6 +110,9 @@ ListView {
                             wrapMode: Text.Wrap
                         }
                         Text {
+                            id: codeText
+
+                            y: nameText.height + 4
                             width: parent.width
                             text: row.code
                             font.family: "Inter"
@@ -115,21 +120,16 @@ ListView {
                             color: "#6b655c"
                             wrapMode: Text.Wrap
                         }
-                        Item {
-                            width: 1
-                            height: 16
+                        Rectangle {
+                            y: codeText.y + codeText.height + 10
+                            width: 32
+                            height: 8
+                            radius: 4
+                            color: "#b93a1c"
                             visible: row.hasReason
 
-                            Rectangle {
-                                y: 6
-                                width: 32
-                                height: 8
-                                radius: 4
-                                color: "#b93a1c"
-
-                                Text {
-                                    visible: false
-                                }
+                            Text {
+                                visible: false
                             }
                         }
                     }

@@ -11,10 +11,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <ctime>
 #include <functional>
 #include <map>
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace quillet::benchmarks {
 
@@ -73,6 +76,7 @@ public:
         }
         return (cpuMilliseconds() - start) / static_cast<double>(steps);
     }
+    [[nodiscard]] QQuickWindow& window() const { return *list_.window(); }
     /// The shown row in the middle of the list.
     [[nodiscard]] QQuickItem& middleRow() const {
         QQuickItem* found = nullptr;
@@ -165,10 +169,19 @@ std::array<Shape, 2> shapes(Scrolled& scrolled, int products) {
 
 /// What a way from the list's beginning to its end took.
 struct Way {
+    /// In percent.
     double slowFrames = 0;
     double allocationsPerRow = 0;
+    /// Those of them that the renderer made while it painted; another renderer makes others.
+    double paintingPerRow = 0;
 };
 Way endToEnd(Scrolled& scrolled, std::size_t mostSteps) {
+    std::uint64_t painting = 0;
+    const QObject watch;
+    QObject::connect(&scrolled.window(), &QQuickWindow::beforeRendering, &watch,
+                     [&] { painting -= allocationCount(); });
+    QObject::connect(&scrolled.window(), &QQuickWindow::afterRendering, &watch,
+                     [&] { painting += allocationCount(); });
     const int first = scrolled.middleIndex();
     std::size_t frames = 0;
     std::size_t slow = 0;
@@ -181,9 +194,9 @@ Way endToEnd(Scrolled& scrolled, std::size_t mostSteps) {
         ++frames;
     }
     const std::uint64_t allocations = allocationCount() - before;
-    const int rows = scrolled.middleIndex() - first;
+    const auto rows = static_cast<double>(scrolled.middleIndex() - first);
     return {100.0 * static_cast<double>(slow) / static_cast<double>(frames),
-            static_cast<double>(allocations) / static_cast<double>(rows)};
+            static_cast<double>(allocations) / rows, static_cast<double>(painting) / rows};
 }
 
 } // namespace
@@ -226,15 +239,19 @@ std::vector<Row> scrollRows(const Options& options) {
     const auto rounds = inTurns(
         options.times(15, 1), [&] { return perFrame(ours); }, [&] { return perFrame(theirs); });
 
-    Row allocations =
-        plainRow("14 scroll 10,000 rows, allocations a row", "", ourWay.allocationsPerRow, atMost(300));
-    allocations.remark = "a plain row " + std::to_string(std::lround(theirWay.allocationsPerRow));
+    const auto allocations = [&](std::string name, const auto& perRow) {
+        Row row = plainRow("14 scroll 10,000 rows, " + std::move(name), "", perRow(ourWay), atMost(300));
+        row.remark = "a plain row " + std::to_string(std::lround(perRow(theirWay)));
+        return row;
+    };
     return {
         ratioRow("14 scroll 10,000 rows, CPU per frame / plain ListView whose row has as many items", "ms",
                  rounds, atMost(1.2)),
         plainRow("14 scroll 10,000 rows, frames over 16 ms", "%", ourWay.slowFrames, atMost(1),
                  theirWay.slowFrames),
-        allocations,
+        allocations("allocations a row", [](const Way& way) { return way.allocationsPerRow; }),
+        allocations("allocations a row without the renderer's",
+                    [](const Way& way) { return way.allocationsPerRow - way.paintingPerRow; }),
     };
 }
 

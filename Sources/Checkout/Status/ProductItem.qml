@@ -65,20 +65,22 @@ Item {
             color: KelColors.inkOnPrimary
         }
     }
-    Column {
+    // A Column in a row that the list uses again may stay as it was laid out for the product before.
+    Item {
         id: texts
+
+        readonly property real gap: KelSpacing.micro
 
         anchors.left: item.crowded ? badge.left : badge.right
         anchors.leftMargin: item.crowded ? 0 : 12
-        y: item.crowded ? pointsLabel.y + pointsLabel.height + KelSpacing.micro : tile.y
+        y: item.crowded ? pointsLabel.y + pointsLabel.height + texts.gap : tile.y
         width: item.crowded ? item.widestText : item.roomForTexts
-        spacing: KelSpacing.micro
+        height: code.y + code.height + (item.product.hasReason ? texts.gap + tag.height + KelSpacing.tiny : 0)
 
         KelLabel {
             id: name
 
             width: parent.width
-            visible: item.product.description !== ""
             text: item.product.description
             Accessible.ignored: true
             size: KelFonts.Subtitle2
@@ -86,6 +88,9 @@ Item {
             wrapMode: Text.Wrap
         }
         KelLabel {
+            id: code
+
+            y: item.product.description === "" ? 0 : name.height + texts.gap
             width: parent.width
             text: item.product.code
             Accessible.ignored: true
@@ -93,17 +98,12 @@ Item {
             color: KelColors.mediumEmphasis
             wrapMode: Text.Wrap
         }
-        Item {
-            width: 1
-            height: tag.height + KelSpacing.tiny
+        KelTag {
+            id: tag
+
+            y: code.y + code.height + texts.gap + 6
             visible: item.product.hasReason
-
-            KelTag {
-                id: tag
-
-                y: 6
-                text: item.product.reasonTag
-            }
+            text: item.product.reasonTag
         }
     }
     KelLabel {

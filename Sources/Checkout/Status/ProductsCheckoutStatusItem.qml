@@ -126,6 +126,7 @@ Item {
         keyNavigationEnabled: false
         // Rows that are being made ahead of time must not be taken away meanwhile, as closing a section does.
         cacheBuffer: 0
+        reuseItems: true
         model: root.products
         delegate: ProductsRow {
             id: row
@@ -136,6 +137,10 @@ Item {
             onHeadTapped: root.toggle(row, row.index)
             onHeadFocused: list.positionViewAtIndex(row.index, ListView.Contain)
             onTabbed: forward => root.tabFromHead(row.index, forward)
+            // The list does not draw a row that it keeps for later use, but leaves it where it was, also for assistive
+            // programs.
+            ListView.onPooled: row.visible = false
+            ListView.onReused: row.visible = true
         }
         // A header that is made before its width is known grows when it is laid out, and the list would begin in the
         // middle of it.
