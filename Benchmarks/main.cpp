@@ -1,10 +1,13 @@
+#include "Decoding/DecodingCurves.hpp"
 #include "Decoding/DecodingRows.hpp"
 #include "Harness/Groups.hpp"
 #include "Network/TokenRows.hpp"
+#include "Screens/ResultCurve.hpp"
 #include "Screens/ScrollRows.hpp"
 
 namespace {
 
+using quillet::benchmarks::Curve;
 using quillet::benchmarks::Group;
 
 constexpr Group groups[] = {
@@ -15,8 +18,14 @@ constexpr Group groups[] = {
     {"scroll", "scrolling a long result", true, quillet::benchmarks::scrollRows},
 };
 
+constexpr Curve curves[] = {
+    {"decoding-time", true, quillet::benchmarks::decodingTimeCurve},
+    {"decoding-memory", true, quillet::benchmarks::decodingMemoryCurve},
+    {"result-opened", true, quillet::benchmarks::resultOpenedCurve},
+};
+
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    return quillet::benchmarks::runGroups(groups, argumentCount, arguments);
+    return quillet::benchmarks::runGroups(groups, curves, argumentCount, arguments);
 }

@@ -7,8 +7,10 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <filesystem>
+#include <fstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -17,33 +19,50 @@ namespace quillet::benchmarks {
 
 namespace {
 
-/// Names the group that the process itself is to run, and where its rows go; only `runGroups` sets it.
-constexpr const char* childMark = "QUILLET_BENCHMARK_ROWS";
+/// Marks a process that runs one group or curve, and says where the result goes; only `runGroups` sets it.
+constexpr const char* childMark = "QUILLET_BENCHMARK_RESULT";
 
-void printHelp(std::span<const Group> groups) {
-    std::printf("usage: bench [--quick] [--seed N] [--json FILE] [GROUP ...]\ngroups:\n");
+void printHelp(std::span<const Group> groups, std::span<const Curve> curves) {
+    std::printf("usage: bench [--quick] [--seed N] [--json FILE] [GROUP ...]\n"
+                "       bench [--quick] [--seed N] --curves FOLDER [CURVE ...]\ngroups:\n");
     for (const Group& group : groups) {
         std::printf("  %-10s %s\n", std::string(group.name).c_str(), std::string(group.about).c_str());
     }
+    std::printf("curves:\n");
+    for (const Curve& curve : curves) {
+        std::printf("  %s\n", std::string(curve.name).c_str());
+    }
 }
 
-const Group& groupNamed(std::span<const Group> groups, const std::string& name) {
-    const auto found = std::ranges::find(groups, name, &Group::name);
-    if (found == groups.end()) {
-        throw std::invalid_argument("There is no group " + name + ".");
+template <typename Thing>
+const Thing& named(std::span<const Thing> things, const std::string& name) {
+    const auto found = std::ranges::find(things, name, &Thing::name);
+    if (found == things.end()) {
+        throw std::invalid_argument("There is nothing named " + name + " to measure.");
     }
     return *found;
 }
 
-/// Runs one group in a process of its own and returns its rows.
-std::vector<Row> rowsOf(const Group& group, const Options& options) {
-    const auto folder = std::filesystem::temp_directory_path();
-    const std::string path = folder / ("quillet-rows-" + std::to_string(getpid()));
+/// Those that were asked for by name, or all.
+template <typename Thing>
+std::vector<Thing> chosen(std::span<const Thing> things, const std::vector<std::string>& names) {
+    std::vector<Thing> chosen;
+    for (const std::string& name : names) {
+        chosen.push_back(named(things, name));
+    }
+    return names.empty() ? std::vector(things.begin(), things.end()) : chosen;
+}
+
+/// Runs one group or curve in a process of its own, which writes the result to `path`.
+void measure(std::string_view name, const Options& options, const std::string& path) {
     std::filesystem::remove(path);
     std::vector<std::string> command = {"benchmark", "--seed", std::to_string(options.seed),
-                                        std::string(group.name)};
+                                        std::string(name)};
     if (options.quick) {
         command.emplace_back("--quick");
+    }
+    if (options.curves) {
+        command.insert(command.end(), {"--curves", *options.curves});
     }
     std::vector<char*> arguments;
     for (std::string& argument : command) {
@@ -59,25 +78,47 @@ std::vector<Row> rowsOf(const Group& group, const Options& options) {
     }
     int status = 0;
     if (child < 0 || waitpid(child, &status, 0) != child || status != 0) {
-        throw std::runtime_error("The group " + std::string(group.name) + " could not be measured.");
+        throw std::runtime_error(std::string(name) + " could not be measured.");
     }
-    auto rows = readRows(path);
-    std::filesystem::remove(path);
-    return rows;
+}
+
+/// What a process that `measure` started does.
+void runHere(std::span<const Group> groups, std::span<const Curve> curves, const Options& options,
+             const std::string& path) {
+    const auto pin = [](bool onOneCore) {
+        if (onOneCore && !pinToOneCore()) {
+            std::fprintf(stderr, "The process cannot be kept on one core.\n");
+        }
+    };
+    if (options.curves) {
+        const Curve& curve = named(curves, options.groups.at(0));
+        pin(curve.onOneCore);
+        std::ofstream file(path);
+        file << curve.run(options);
+        if (!file.flush()) {
+            throw std::runtime_error("The file " + path + " cannot be written.");
+        }
+    } else {
+        const Group& group = named(groups, options.groups.at(0));
+        pin(group.onOneCore);
+        writeRows(path, group.run(options));
+    }
 }
 
 /// The rows of all groups that could be measured; `failed` says whether one could not.
 std::vector<Row> allRows(std::span<const Group> groups, const Options& options, bool& failed) {
+    const std::string path =
+        std::filesystem::temp_directory_path() / ("quillet-rows-" + std::to_string(getpid()));
     std::vector<Row> rows;
-    for (const Group& group : groups) {
-        if (options.groups.empty() || std::ranges::find(options.groups, group.name) != options.groups.end()) {
-            try {
-                std::ranges::move(rowsOf(group, options), std::back_inserter(rows));
-            } catch (const std::runtime_error& error) {
-                std::fprintf(stderr, "%s\n", error.what());
-                failed = true;
-            }
+    for (const Group& group : chosen(groups, options.groups)) {
+        try {
+            measure(group.name, options, path);
+            std::ranges::move(readRows(path), std::back_inserter(rows));
+        } catch (const std::runtime_error& error) {
+            std::fprintf(stderr, "%s\n", error.what());
+            failed = true;
         }
+        std::filesystem::remove(path);
     }
     std::ranges::stable_sort(rows, {}, [](const Row& row) { return row.name.substr(0, 2); });
     return rows;
@@ -85,23 +126,24 @@ std::vector<Row> allRows(std::span<const Group> groups, const Options& options, 
 
 } // namespace
 
-int runGroups(std::span<const Group> groups, int argumentCount, char** arguments) {
+int runGroups(std::span<const Group> groups, std::span<const Curve> curves, int argumentCount,
+              char** arguments) {
     try {
         const std::vector<std::string> words(arguments + 1, arguments + argumentCount);
         if (std::ranges::find(words, "--help") != words.end()) {
-            printHelp(groups);
+            printHelp(groups, curves);
             return 0;
         }
         const Options options = optionsFrom(words);
-        for (const std::string& name : options.groups) {
-            (void)groupNamed(groups, name);
-        }
         if (const char* const path = std::getenv(childMark)) {
-            const Group& group = groupNamed(groups, options.groups.at(0));
-            if (group.onOneCore && !pinToOneCore()) {
-                std::fprintf(stderr, "The process cannot be kept on one core.\n");
+            runHere(groups, curves, options, path);
+            return 0;
+        }
+        if (options.curves) {
+            std::filesystem::create_directories(*options.curves);
+            for (const Curve& curve : chosen(curves, options.groups)) {
+                measure(curve.name, options, *options.curves + "/" + std::string(curve.name) + ".tsv");
             }
-            writeRows(path, group.run(options));
             return 0;
         }
         bool failed = false;

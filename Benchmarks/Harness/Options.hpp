@@ -13,11 +13,11 @@ struct Options {
     bool quick = false;
     /// Inputs are made from it: the same seed makes the same inputs on every machine.
     std::uint32_t seed = 1;
-    /// Names of the groups to run; all if empty.
+    /// Names of the groups or curves to run; all if empty.
     std::vector<std::string> groups;
     /// Where the rows go as JSON, beside the table on standard output.
     std::optional<std::string> json;
-    /// The folder that the curves go to, instead of measuring rows.
+    /// The folder that curves are written to, one file each. With it no rows are measured.
     std::optional<std::string> curves;
 
     /// `full` in a whole run, `quickly` in a quick one.
@@ -26,8 +26,8 @@ struct Options {
     }
 };
 
-/// Reads [--quick] [--seed N] [--json FILE] [--curves FOLDER] [GROUP ...]. Throws std::invalid_argument, whose text says what
-/// is wrong, for anything else.
+/// Reads [--quick] [--seed N] [--json FILE] [--curves FOLDER] [NAME ...]. Throws std::invalid_argument, whose
+/// text says what is wrong, for anything else.
 [[nodiscard]] Options optionsFrom(const std::vector<std::string>& arguments);
 
 } // namespace quillet::benchmarks
