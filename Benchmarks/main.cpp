@@ -3,6 +3,7 @@
 #include "Harness/Groups.hpp"
 #include "Network/TokenRows.hpp"
 #include "Screens/ResultCurve.hpp"
+#include "Screens/ResultRows.hpp"
 #include "Screens/ScrollRows.hpp"
 
 namespace {
@@ -15,6 +16,7 @@ constexpr Group groups[] = {
     {"memory", "memory that a decoding takes", true, quillet::benchmarks::decodingMemoryRows},
     {"growth", "decoding of large and of hostile bodies", true, quillet::benchmarks::decodingGrowthRows},
     {"token", "signing a token", true, quillet::benchmarks::tokenRows},
+    {"result", "opening a long result and its sections", true, quillet::benchmarks::resultRows},
     {"scroll", "scrolling a long result", true, quillet::benchmarks::scrollRows},
 };
 

@@ -18,7 +18,7 @@ quillet_packages=(
     # gateway
     nlohmann-json3-dev libboost-dev libsqlite3-dev
     # tests and benchmarks
-    libgtest-dev libgmock-dev libbenchmark-dev iproute2 libatspi2.0-dev at-spi2-core dbus-daemon xvfb)
+    libgtest-dev libgmock-dev iproute2 libatspi2.0-dev at-spi2-core dbus-daemon xvfb)
 
 install_dependencies() {
     install_packages "${quillet_packages[@]}"

@@ -17,14 +17,6 @@ double ratioOf(double value, double yardstick, Goal goal) {
     return goal.kind == Goal::Kind::atMost ? value / yardstick : yardstick / value;
 }
 
-std::string number(double figure) {
-    std::array<char, 32> text{};
-    const double size = std::abs(figure);
-    const int digits = size >= 1000 ? 0 : size >= 100 ? 1 : size >= 1 ? 2 : 3;
-    std::snprintf(text.data(), text.size(), "%.*f", digits, figure);
-    return text.data();
-}
-
 std::string kindOf(Goal goal) {
     return goal.kind == Goal::Kind::atMost ? "at most" : "at least";
 }
@@ -38,12 +30,20 @@ std::optional<double> optional(const nlohmann::json& figure) {
 
 } // namespace
 
+std::string shortFigure(double figure) {
+    std::array<char, 32> text{};
+    const double size = std::abs(figure);
+    const int digits = size >= 1000 ? 0 : size >= 100 ? 1 : size >= 1 ? 2 : 3;
+    std::snprintf(text.data(), text.size(), "%.*f", digits, figure);
+    return text.data();
+}
+
 Row ratioRow(std::string name, std::string unit, const Rounds& rounds, Goal goal) {
     Row row =
         ratioRow(std::move(name), std::move(unit), rounds.ours.median(), rounds.yardstick.median(), goal);
     const double lowest = ratioOf(rounds.ours.least(), rounds.yardstick.least(), goal);
     row.met = row.met && goal.metBy(lowest);
-    row.remark = "of the minima " + number(lowest);
+    row.remark = "of the minima " + shortFigure(lowest);
     return row;
 }
 
@@ -102,10 +102,10 @@ void printRows(const std::vector<Row>& rows) {
     std::printf("%-*s %11s %11s %-9s %7s  %-14s %s\n", name, "name", "value", "yardstick", "unit", "ratio",
                 "goal", "met");
     for (const Row& row : rows) {
-        const std::string goal = kindOf(row.goal) + ' ' + number(row.goal.bound);
+        const std::string goal = kindOf(row.goal) + ' ' + shortFigure(row.goal.bound);
         std::printf("%-*s %11s %11s %-9s %7s  %-14s %s%s%s\n", name, row.name.c_str(),
-                    number(row.value).c_str(), row.yardstick ? number(*row.yardstick).c_str() : "",
-                    row.unit.c_str(), row.ratio ? number(*row.ratio).c_str() : "", goal.c_str(),
+                    shortFigure(row.value).c_str(), row.yardstick ? shortFigure(*row.yardstick).c_str() : "",
+                    row.unit.c_str(), row.ratio ? shortFigure(*row.ratio).c_str() : "", goal.c_str(),
                     row.met ? "yes" : "NO", row.remark.empty() ? "" : "   ", row.remark.c_str());
     }
 }

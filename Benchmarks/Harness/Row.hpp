@@ -61,6 +61,9 @@ struct Row {
 void writeRows(const std::string& path, const std::vector<Row>& rows);
 [[nodiscard]] std::vector<Row> readRows(const std::string& path);
 
+/// A figure as the table shows it, with three digits or so.
+[[nodiscard]] std::string shortFigure(double figure);
+
 /// Prints the rows as a table.
 void printRows(const std::vector<Row>& rows);
 

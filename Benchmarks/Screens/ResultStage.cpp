@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <thread>
 #include <utility>
 
 namespace quillet::benchmarks {
@@ -104,23 +105,22 @@ void ResultStage::close() {
     } while (!screen_.expired());
 }
 
-ResultStage::Motion ResultStage::toggle() {
+std::vector<Milliseconds> ResultStage::toggle() {
     const auto all = rows();
-    const auto head =
-        std::ranges::find_if(all, [](QQuickItem* row) { return row->property("isHead").toBool(); });
+    const auto uppermost = std::ranges::min_element(all, {}, &QQuickItem::y);
     const auto* result = qobject_cast<ProductsCheckoutStatusView*>(screen_.lock()->status());
     const int before = result->products()->rowCount();
-    Motion motion;
+    std::vector<Milliseconds> frames;
     auto start = Clock::now();
-    QMetaObject::invokeMethod(*head, "headTapped");
+    QMetaObject::invokeMethod(*uppermost, "headTapped");
     do {
         drawFrame();
-        const Milliseconds frame = Clock::now() - start;
-        motion.first = motion.frames++ == 0 ? frame : motion.first;
-        motion.longest = std::max(motion.longest, frame);
+        frames.emplace_back(Clock::now() - start);
+        // As a screen does: otherwise nearly all frames would find nothing changed.
+        std::this_thread::sleep_until(start + std::chrono::milliseconds(16));
         start = Clock::now();
     } while (result->products()->isMoving() || result->products()->rowCount() == before);
-    return motion;
+    return frames;
 }
 
 void ResultStage::drawFrame() {

@@ -44,14 +44,9 @@ public:
     /// Removes the screen and waits until all of it is deleted.
     void close();
 
-    /// The times of the first and the longest frame after a tap.
-    struct Motion {
-        int frames = 0;
-        Milliseconds first{};
-        Milliseconds longest{};
-    };
-    /// Taps the uppermost head and waits until its section stops moving.
-    Motion toggle();
+    /// Taps the uppermost head and waits until its section stops moving, sixty frames a second. How long
+    /// each frame took since the tap; the first includes the tap's own work.
+    std::vector<Milliseconds> toggle();
     /// Waits until the window has drawn one more frame.
     void drawFrame();
 
