@@ -2,6 +2,7 @@
 #include "Decoding/DecodingRows.hpp"
 #include "Harness/Groups.hpp"
 #include "Network/TokenRows.hpp"
+#include "Screens/OpeningRows.hpp"
 #include "Screens/ResultCurve.hpp"
 #include "Screens/ResultRows.hpp"
 #include "Screens/ScrollRows.hpp"
@@ -16,8 +17,10 @@ constexpr Group groups[] = {
     {"memory", "memory that a decoding takes", true, quillet::benchmarks::decodingMemoryRows},
     {"growth", "decoding of large and of hostile bodies", true, quillet::benchmarks::decodingGrowthRows},
     {"token", "signing a token", true, quillet::benchmarks::tokenRows},
+    {"summary", "showing the summary of an order", true, quillet::benchmarks::summaryRows},
     {"result", "opening a long result and its sections", true, quillet::benchmarks::resultRows},
     {"scroll", "scrolling a long result", true, quillet::benchmarks::scrollRows},
+    {"openings", "opening and closing the module again and again", true, quillet::benchmarks::openingsRows},
 };
 
 constexpr Curve curves[] = {

@@ -63,7 +63,7 @@ Row frameRow(const std::string& name, const Samples& ours, const Samples& withFe
 
 std::vector<Row> resultRows(const Options& options) {
     const OffscreenApplication application;
-        keepHeap();
+    keepHeap();
     ResultStage stage;
     const auto manyProducts = madeProducts(many, true);
     const auto fewProducts = madeProducts(few, true);

@@ -1,0 +1,106 @@
+#include "Screens/ModuleStage.hpp"
+
+#include "KelCommon/KelCommon.hpp"
+
+#include <QEventLoop>
+#include <QQmlComponent>
+
+#include <chrono>
+#include <stdexcept>
+
+namespace quillet::benchmarks {
+
+namespace {
+
+constexpr auto host = R"(
+    import QtQuick
+    import QtQuick.Controls.Basic
+    ApplicationWindow {
+        width: 390; height: 844; visible: true
+        property alias stack: stack
+        function show(page) { stack.push(page, StackView.Immediate) }
+        function clear() { stack.pop(null, StackView.Immediate) }
+        StackView {
+            id: stack
+            anchors.fill: parent; anchors.topMargin: 64
+            pushEnter: null; pushExit: null
+            initialItem: Item {}
+        }
+    })";
+
+class NoNavigation final : public QuilletNavigationDelegate {
+public:
+    void navigateToCart() override {}
+    void navigateToHome() override {}
+    void navigateToShareMagazine() override {}
+};
+
+class NoAnalytics final : public kel::KelAnalyticsManagerType {
+public:
+    void trackScreen(const kel::KelAnalyticsScreenType& /*screen*/) override {}
+    void trackEvent(const kel::KelAnalyticsEventType& /*event*/) override {}
+};
+
+} // namespace
+
+ModuleStage::ModuleStage()
+    : backend_(testing::ScriptedBackend::install()), navigation_(std::make_shared<NoNavigation>()) {
+    kel::KelAnalyticsManager::shared()->setSink(std::make_shared<NoAnalytics>());
+    QQmlComponent component(&engine_);
+    component.setData(host, QUrl());
+    window_.reset(qobject_cast<QQuickWindow*>(component.create()));
+    if (!window_) {
+        throw std::runtime_error(component.errorString().toStdString());
+    }
+    stack_ = window_->property("stack").value<QQuickItem*>();
+    drawFrame();
+}
+
+ModuleStage::~ModuleStage() {
+    window_.reset();
+    testing::ScriptedBackend::uninstall();
+}
+
+void ModuleStage::open() {
+    const auto starter =
+        Starter::create("access token", "identity provider", {"cart", 41052, "CL"}, navigation_);
+    auto screen = starter->createRootViewController();
+    screen_ = screen;
+    if (!present(screen, *stack_)) {
+        throw std::runtime_error("The module cannot be presented.");
+    }
+}
+
+void ModuleStage::close() {
+    QMetaObject::invokeMethod(window_.get(), "clear");
+    drawUntil([this] { return screen_.expired(); });
+    // The old one keeps all requests, which would grow with each opening.
+    backend_ = testing::ScriptedBackend::install();
+}
+
+std::size_t ModuleStage::drawUntil(const std::function<bool()>& condition) {
+    const auto latest = std::chrono::steady_clock::now() + std::chrono::minutes(1);
+    std::size_t frames = 0;
+    do {
+        if (std::chrono::steady_clock::now() > latest) {
+            throw std::runtime_error("The screen does not come to what is waited for.");
+        }
+        drawFrame();
+        ++frames;
+    } while (!condition());
+    return frames;
+}
+
+void ModuleStage::drawFrame() {
+    QEventLoop loop;
+    QObject::connect(window_.get(), &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
+    window_->update();
+    loop.exec();
+}
+
+bool ModuleStage::showsSummary() const {
+    const auto* page = stack_->property("currentItem").value<QQuickItem*>();
+    return page && page->property("contentView").value<QObject*>();
+}
+
+} // namespace quillet::benchmarks

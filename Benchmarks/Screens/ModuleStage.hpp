@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Quillet/Starter.hpp"
+#include "Quillet/Testing.hpp"
+
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+#include <functional>
+#include <memory>
+
+namespace quillet::benchmarks {
+
+/// A host's window of a phone's size that opens the module, over a back end without network. It pushes and
+/// pops without an animation. Main thread only.
+class ModuleStage {
+public:
+    ModuleStage();
+    ~ModuleStage();
+    ModuleStage(const ModuleStage&) = delete;
+    ModuleStage& operator=(const ModuleStage&) = delete;
+
+    /// Presents the module. Its two calls are under way then, or answered, as the back end's script says.
+    void open();
+    /// Pops the module, and waits until all of it is deleted. The next opening has a new back end.
+    void close();
+
+    /// Draws frames until the condition holds after one; returns how many. Throws std::runtime_error where
+    /// it does not within a minute.
+    std::size_t drawUntil(const std::function<bool()>& condition);
+    /// Waits until the window has drawn one more frame.
+    void drawFrame();
+    /// Whether the summary of an order is on the screen.
+    [[nodiscard]] bool showsSummary() const;
+
+    [[nodiscard]] testing::ScriptedBackend& backend() const { return *backend_; }
+    [[nodiscard]] QQuickWindow& window() const { return *window_; }
+    [[nodiscard]] QQuickItem& stack() const { return *stack_; }
+    [[nodiscard]] QQmlEngine& engine() { return engine_; }
+
+private:
+    std::shared_ptr<testing::ScriptedBackend> backend_;
+    std::shared_ptr<QuilletNavigationDelegate> navigation_;
+    QQmlEngine engine_;
+    std::unique_ptr<QQuickWindow> window_;
+    QQuickItem* stack_ = nullptr;
+    std::weak_ptr<platform::QuickViewController> screen_;
+};
+
+} // namespace quillet::benchmarks
