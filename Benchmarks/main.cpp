@@ -5,6 +5,7 @@
 #include "Screens/OpeningRows.hpp"
 #include "Screens/ResultCurve.hpp"
 #include "Screens/ResultRows.hpp"
+#include "Screens/RingRows.hpp"
 #include "Screens/ScrollRows.hpp"
 
 namespace {
@@ -20,6 +21,7 @@ constexpr Group groups[] = {
     {"summary", "showing the summary of an order", true, quillet::benchmarks::summaryRows},
     {"result", "opening a long result and its sections", true, quillet::benchmarks::resultRows},
     {"scroll", "scrolling a long result", true, quillet::benchmarks::scrollRows},
+    {"ring", "the loading indicator", true, quillet::benchmarks::ringRows},
     {"openings", "opening and closing the module again and again", true, quillet::benchmarks::openingsRows},
 };
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ctime>
 #include <stdexcept>
 
 namespace quillet::benchmarks {
@@ -32,6 +33,12 @@ Rounds inTurns(std::size_t rounds, const Measured& ours, const Measured& theirs)
         }
     }
     return result;
+}
+
+double processCpuMilliseconds() {
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
 
 bool pinToOneCore() {

@@ -41,6 +41,9 @@ using Measured = std::function<double()>;
 template <typename Work>
 [[nodiscard]] double milliseconds(Work&& work);
 
+/// CPU time that all threads of the process have taken so far, in milliseconds.
+[[nodiscard]] double processCpuMilliseconds();
+
 /// Keeps the calling thread, and those that it starts from now on, on one core. False where the system
 /// refuses.
 bool pinToOneCore();

@@ -3,7 +3,6 @@
 #include "KelCommon/KelCommon.hpp"
 
 #include <QEventLoop>
-#include <QQmlComponent>
 
 #include <chrono>
 #include <stdexcept>
@@ -18,7 +17,7 @@ constexpr auto host = R"(
     ApplicationWindow {
         width: 390; height: 844; visible: true
         property alias stack: stack
-        function show(page) { stack.push(page, StackView.Immediate) }
+        function show(page, properties) { stack.push(page, properties, StackView.Immediate) }
         function clear() { stack.pop(null, StackView.Immediate) }
         StackView {
             id: stack
@@ -71,8 +70,17 @@ void ModuleStage::open() {
     }
 }
 
-void ModuleStage::close() {
+void ModuleStage::show(QQmlComponent& page, const QVariantMap& properties) {
+    QMetaObject::invokeMethod(window_.get(), "show", Q_ARG(QVariant, QVariant::fromValue(&page)),
+                              Q_ARG(QVariant, properties));
+}
+
+void ModuleStage::clear() {
     QMetaObject::invokeMethod(window_.get(), "clear");
+}
+
+void ModuleStage::close() {
+    clear();
     drawUntil([this] { return screen_.expired(); });
     // The old one keeps all requests, which would grow with each opening.
     backend_ = testing::ScriptedBackend::install();

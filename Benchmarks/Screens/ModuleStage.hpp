@@ -3,9 +3,11 @@
 #include "Quillet/Starter.hpp"
 #include "Quillet/Testing.hpp"
 
+#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QVariantMap>
 
 #include <functional>
 #include <memory>
@@ -25,6 +27,10 @@ public:
     void open();
     /// Pops the module, and waits until all of it is deleted. The next opening has a new back end.
     void close();
+
+    /// Pushes any other page, with these properties; `clear` pops it.
+    void show(QQmlComponent& page, const QVariantMap& properties = {});
+    void clear();
 
     /// Draws frames until the condition holds after one; returns how many. Throws std::runtime_error where
     /// it does not within a minute.

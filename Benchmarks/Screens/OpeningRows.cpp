@@ -5,8 +5,6 @@
 #include "Screens/ModuleStage.hpp"
 #include "Screens/OffscreenApplication.hpp"
 
-#include <QQmlComponent>
-
 #include <chrono>
 #include <stdexcept>
 #include <string>
@@ -46,10 +44,10 @@ double summaryMilliseconds(ModuleStage& stage) {
 /// From pushing a page with a bare list to its first frame.
 double listMilliseconds(ModuleStage& stage, QQmlComponent& page) {
     const auto start = Clock::now();
-    QMetaObject::invokeMethod(&stage.window(), "show", Q_ARG(QVariant, QVariant::fromValue(&page)));
+    stage.show(page);
     stage.drawFrame();
     const double time = since(start);
-    QMetaObject::invokeMethod(&stage.window(), "clear");
+    stage.clear();
     stage.drawFrame();
     return time;
 }

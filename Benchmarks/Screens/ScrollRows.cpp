@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <ctime>
 #include <functional>
 #include <map>
 #include <stdexcept>
@@ -27,12 +26,6 @@ using Clock = std::chrono::steady_clock;
 
 /// A frame on a screen with sixty of them a second.
 constexpr double frameMilliseconds = 16;
-
-double cpuMilliseconds() {
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
 
 /// How many boxes, texts and other items an item has in it that are shown, itself included.
 std::map<std::string, int> shownItems(const QQuickItem& item) {
@@ -70,11 +63,11 @@ public:
     }
     /// CPU time a frame over this many steps.
     double cpuPerFrame(std::size_t steps) {
-        const double start = cpuMilliseconds();
+        const double start = processCpuMilliseconds();
         for (std::size_t i = 0; i < steps; ++i) {
             step();
         }
-        return (cpuMilliseconds() - start) / static_cast<double>(steps);
+        return (processCpuMilliseconds() - start) / static_cast<double>(steps);
     }
     [[nodiscard]] QQuickWindow& window() const { return *list_.window(); }
     /// The shown row in the middle of the list.
