@@ -5,16 +5,15 @@
 #include <QGuiApplication>
 
 #include <array>
-#include <chrono>
 #include <vector>
 
 namespace quillet::benchmarks {
 
-/// The process's Qt application, in Spanish, which draws without a screen and in software.
+/// The process's Qt application, in Spanish, which draws without a screen and in software. A frame is drawn
+/// as soon as it is asked for, without a pause between two.
 class OffscreenApplication {
 public:
-    /// A frame is drawn this long after it was asked for.
-    explicit OffscreenApplication(std::chrono::milliseconds pause = std::chrono::milliseconds(0));
+    OffscreenApplication();
 
 private:
     int argumentCount_ = 1;
