@@ -3,6 +3,7 @@
 #include "Harness/Groups.hpp"
 #include "Network/TokenRows.hpp"
 #include "Programs/ProgramRows.hpp"
+#include "Qml/QmlRows.hpp"
 #include "Screens/OpeningRows.hpp"
 #include "Screens/ResultCurve.hpp"
 #include "Screens/ResultRows.hpp"
@@ -23,6 +24,7 @@ constexpr Group groups[] = {
     {"result", "opening a long result and its sections", true, quillet::benchmarks::resultRows},
     {"scroll", "scrolling a long result", true, quillet::benchmarks::scrollRows},
     {"ring", "the loading indicator", true, quillet::benchmarks::ringRows},
+    {"qml", "what the QML was compiled to", true, quillet::benchmarks::qmlRows},
     {"programs", "whole programs that embed the module", true, quillet::benchmarks::programRows},
     {"openings", "opening and closing the module again and again", true, quillet::benchmarks::openingsRows},
 };
