@@ -1,9 +1,11 @@
 #include "Decoding/DecodingCurves.hpp"
 #include "Decoding/DecodingRows.hpp"
 #include "Harness/Groups.hpp"
+#include "Network/CallRows.hpp"
 #include "Network/TokenRows.hpp"
 #include "Programs/ProgramRows.hpp"
 #include "Qml/QmlRows.hpp"
+#include "Screens/DeliveryRows.hpp"
 #include "Screens/OpeningRows.hpp"
 #include "Screens/ResultCurve.hpp"
 #include "Screens/ResultRows.hpp"
@@ -19,6 +21,8 @@ constexpr Group groups[] = {
     {"decoding", "decoding open carts, beside other parsers", true, quillet::benchmarks::decodingRows},
     {"memory", "memory that a decoding takes", true, quillet::benchmarks::decodingMemoryRows},
     {"growth", "decoding of large and of hostile bodies", true, quillet::benchmarks::decodingGrowthRows},
+    {"call", "a call to a server on this machine", false, quillet::benchmarks::callRows},
+    {"delivery", "results on their way to the main thread", false, quillet::benchmarks::deliveryRows},
     {"token", "signing a token", true, quillet::benchmarks::tokenRows},
     {"summary", "showing the summary of an order", true, quillet::benchmarks::summaryRows},
     {"result", "opening a long result and its sections", true, quillet::benchmarks::resultRows},

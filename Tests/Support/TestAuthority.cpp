@@ -1,12 +1,12 @@
 #include "Support/TestAuthority.hpp"
 
-#include <gtest/gtest.h>
 #include <openssl/pem.h>
 #include <openssl/x509v3.h>
 
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 
 namespace quillet::testing {
 
@@ -46,7 +46,7 @@ TestAuthority::TestAuthority()
     : key_(makeKey()),
       certificate_(makeCertificate(key_.get(), "Test authority", "critical,CA:TRUE", NID_basic_constraints,
                                    nullptr, key_.get())) {
-    bundleFile_ = ::testing::TempDir() + "/quillet-authority-XXXXXX";
+    bundleFile_ = std::filesystem::temp_directory_path() / "quillet-authority-XXXXXX";
     FILE* const file = fdopen(mkstemp(bundleFile_.data()), "w");
     PEM_write_X509(file, certificate_.get());
     std::fclose(file);
