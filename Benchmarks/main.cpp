@@ -6,6 +6,7 @@
 #include "Programs/ProgramRows.hpp"
 #include "Qml/QmlRows.hpp"
 #include "Screens/DeliveryRows.hpp"
+#include "Screens/GapRows.hpp"
 #include "Screens/OpeningRows.hpp"
 #include "Screens/ResultCurve.hpp"
 #include "Screens/ResultRows.hpp"
@@ -24,6 +25,7 @@ constexpr Group groups[] = {
     {"call", "a call to a server on this machine", false, quillet::benchmarks::callRows},
     {"delivery", "results on their way to the main thread", false, quillet::benchmarks::deliveryRows},
     {"token", "signing a token", true, quillet::benchmarks::tokenRows},
+    {"gap", "the main thread while large bodies come and go", false, quillet::benchmarks::gapRows},
     {"summary", "showing the summary of an order", true, quillet::benchmarks::summaryRows},
     {"result", "opening a long result and its sections", true, quillet::benchmarks::resultRows},
     {"scroll", "scrolling a long result", true, quillet::benchmarks::scrollRows},

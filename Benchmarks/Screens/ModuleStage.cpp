@@ -42,8 +42,12 @@ public:
 
 } // namespace
 
-ModuleStage::ModuleStage()
-    : backend_(testing::ScriptedBackend::install()), navigation_(std::make_shared<NoNavigation>()) {
+ModuleStage::ModuleStage() : ModuleStage(testing::ScriptedBackend::install()) {}
+
+ModuleStage::ModuleStage(Network /*network*/) : ModuleStage(std::shared_ptr<testing::ScriptedBackend>()) {}
+
+ModuleStage::ModuleStage(std::shared_ptr<testing::ScriptedBackend> backend)
+    : backend_(std::move(backend)), navigation_(std::make_shared<NoNavigation>()) {
     kel::KelAnalyticsManager::shared()->setSink(std::make_shared<NoAnalytics>());
     QQmlComponent component(&engine_);
     component.setData(host, QUrl());
@@ -57,13 +61,17 @@ ModuleStage::ModuleStage()
 
 ModuleStage::~ModuleStage() {
     window_.reset();
-    testing::ScriptedBackend::uninstall();
+    if (backend_) {
+        testing::ScriptedBackend::uninstall();
+    }
+}
+
+Starter ModuleStage::starter() const {
+    return *Starter::create("access token", "identity provider", {"cart", 41052, "CL"}, navigation_);
 }
 
 void ModuleStage::open() {
-    const auto starter =
-        Starter::create("access token", "identity provider", {"cart", 41052, "CL"}, navigation_);
-    auto screen = starter->createRootViewController();
+    auto screen = starter().createRootViewController();
     screen_ = screen;
     if (!present(screen, *stack_)) {
         throw std::runtime_error("The module cannot be presented.");
@@ -83,7 +91,9 @@ void ModuleStage::close() {
     clear();
     drawUntil([this] { return screen_.expired(); });
     // The old one keeps all requests, which would grow with each opening.
-    backend_ = testing::ScriptedBackend::install();
+    if (backend_) {
+        backend_ = testing::ScriptedBackend::install();
+    }
 }
 
 std::size_t ModuleStage::drawUntil(const std::function<bool()>& condition) {
@@ -104,6 +114,11 @@ void ModuleStage::drawFrame() {
     QObject::connect(window_.get(), &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
     window_->update();
     loop.exec();
+}
+
+void ModuleStage::sendProducts() {
+    auto* const page = stack_->property("currentItem").value<QQuickItem*>();
+    QMetaObject::invokeMethod(page->property("contentView").value<QObject*>(), "tapSendProducts");
 }
 
 bool ModuleStage::showsSummary() const {

@@ -14,11 +14,15 @@
 
 namespace quillet::benchmarks {
 
-/// A host's window of a phone's size that opens the module, over a back end without network. It pushes and
-/// pops without an animation. Main thread only.
+/// A host's window of a phone's size that opens the module. It pushes and pops without an animation. Main
+/// thread only.
 class ModuleStage {
 public:
+    /// Over a back end without network.
     ModuleStage();
+    /// Over the network that the sessions' default configuration leads to.
+    struct Network {};
+    explicit ModuleStage(Network);
     ~ModuleStage();
     ModuleStage(const ModuleStage&) = delete;
     ModuleStage& operator=(const ModuleStage&) = delete;
@@ -39,13 +43,23 @@ public:
     void drawFrame();
     /// Whether the summary of an order is on the screen.
     [[nodiscard]] bool showsSummary() const;
+    /// The module's screens that are on the stack: the summary, the one that sends, and the result.
+    [[nodiscard]] int screens() const { return stack_->property("depth").toInt() - 1; }
+    /// Does what the button below the summary does.
+    void sendProducts();
+    /// The gateway that the module calls.
+    [[nodiscard]] std::string gateway() const { return starter().domainUrl(); }
 
+    /// There is none over the network.
     [[nodiscard]] testing::ScriptedBackend& backend() const { return *backend_; }
     [[nodiscard]] QQuickWindow& window() const { return *window_; }
     [[nodiscard]] QQuickItem& stack() const { return *stack_; }
     [[nodiscard]] QQmlEngine& engine() { return engine_; }
 
 private:
+    explicit ModuleStage(std::shared_ptr<testing::ScriptedBackend> backend);
+    [[nodiscard]] Starter starter() const;
+
     std::shared_ptr<testing::ScriptedBackend> backend_;
     std::shared_ptr<QuilletNavigationDelegate> navigation_;
     QQmlEngine engine_;
