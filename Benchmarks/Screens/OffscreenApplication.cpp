@@ -3,6 +3,7 @@
 #include "KelCommon/KelLocalized.hpp"
 
 #include <string>
+#include <utility>
 
 namespace quillet::benchmarks {
 
@@ -23,7 +24,7 @@ OffscreenApplication::OffscreenApplication()
     kel::setLanguage(QStringLiteral("es"));
 }
 
-std::vector<Product> madeProducts(std::size_t count, bool someNotSent) {
+std::shared_ptr<const std::vector<Product>> madeProducts(std::size_t count, bool someNotSent) {
     std::vector<Product> products(count);
     for (std::size_t i = 0; i < count; ++i) {
         products[i].productCode = 10000 + i;
@@ -33,7 +34,7 @@ std::vector<Product> madeProducts(std::size_t count, bool someNotSent) {
         products[i].status =
             someNotSent && i % 2 == 0 ? ProductErrorStatus::unavailable : ProductErrorStatus::none;
     }
-    return products;
+    return std::make_shared<const std::vector<Product>>(std::move(products));
 }
 
 } // namespace quillet::benchmarks

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 
 #include <array>
+#include <memory>
 #include <vector>
 
 namespace quillet::benchmarks {
@@ -23,6 +24,6 @@ private:
 };
 
 /// Products of a response to a checkout; all were sent, or every other one was not.
-[[nodiscard]] std::vector<Product> madeProducts(std::size_t count, bool someNotSent);
+[[nodiscard]] std::shared_ptr<const std::vector<Product>> madeProducts(std::size_t count, bool someNotSent);
 
 } // namespace quillet::benchmarks

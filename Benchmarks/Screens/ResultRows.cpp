@@ -12,22 +12,19 @@ namespace {
 constexpr std::size_t many = 10'000;
 constexpr std::size_t few = 10;
 
-double openedMilliseconds(ResultStage& stage, const std::vector<Product>& products) {
+double openedMilliseconds(ResultStage& stage, const SharedProducts& products) {
     const double time = stage.open(products).all().count();
     stage.close();
     return time;
 }
 
-/// The heap's growth while a result is on the screen, beyond the records that it shows. The response's own
-/// records exist before, and do not count.
-double bytesBeyondRecords(ResultStage& stage, const std::vector<Product>& products) {
-    const std::size_t first = liveBytes();
-    const std::vector<Product> records = products;
+/// The heap's growth while a result is on the screen. The response's records exist before, and do not count.
+double bytesBeyondRecords(ResultStage& stage, const SharedProducts& products) {
     const std::size_t before = liveBytes();
     stage.open(products);
     const std::size_t shown = liveBytes();
     stage.close();
-    return static_cast<double>(shown - before) - static_cast<double>(before - first);
+    return static_cast<double>(shown) - static_cast<double>(before);
 }
 
 /// The frames of opening and closing the sections, in milliseconds.
@@ -35,7 +32,7 @@ struct ToggledFrames {
     Samples opening;
     Samples closing;
 };
-ToggledFrames toggledFrames(ResultStage& stage, const std::vector<Product>& products, std::size_t toggles) {
+ToggledFrames toggledFrames(ResultStage& stage, const SharedProducts& products, std::size_t toggles) {
     ToggledFrames frames;
     stage.open(products);
     for (std::size_t i = 0; i < toggles; ++i) {

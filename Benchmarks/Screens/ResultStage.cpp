@@ -1,7 +1,6 @@
 #include "Screens/ResultStage.hpp"
 
 #include "Checkout/Inputs/ResultFactories.hpp"
-#include "Harness/Heap.hpp"
 #include "Platform/Screens/NavigationController.hpp"
 #include "Views/QuilletViews.hpp"
 
@@ -68,21 +67,15 @@ ResultStage::~ResultStage() {
     window_.reset();
 }
 
-ResultStage::Opening ResultStage::open(const std::vector<Product>& products) {
+ResultStage::Opening ResultStage::open(const SharedProducts& products) {
     Opening opening;
     const auto start = Clock::now();
-    auto input = std::make_unique<ProductsPartiallyAddedFactoryInput>(QStringLiteral("05"), 1, 1, 1, products,
-                                                                      products);
-    const auto filtered = Clock::now();
+    ProductsPartiallyAddedFactoryInput input(QStringLiteral("05"), 1, 1, 1, products, products);
+    const auto sorted = Clock::now();
     auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
         std::make_unique<LoadingDisplayer>(std::make_unique<LoadingView>()), std::make_shared<NoAnalytics>());
-    screen->setView(ProductsPartiallyAddedFactory({}).view(std::move(*input), *screen));
+    screen->setView(ProductsPartiallyAddedFactory({}).view(std::move(input), *screen));
     const auto built = Clock::now();
-    // This check costs time that does not belong to the opening.
-    opening.highestLiveBytes = liveBytes();
-    const auto looked = Clock::now();
-    input.reset();
-    const auto freed = Clock::now();
     if (!platform::NavigationController::of(*stack_).push(screen)) {
         throw std::runtime_error("The result screen does not load.");
     }
@@ -90,9 +83,9 @@ ResultStage::Opening ResultStage::open(const std::vector<Product>& products) {
     do {
         drawFrame();
     } while (rows().empty());
-    opening.input = filtered - start;
-    opening.view = (built - filtered) + (freed - looked);
-    opening.push = pushed - freed;
+    opening.input = sorted - start;
+    opening.view = built - sorted;
+    opening.push = pushed - built;
     opening.frame = Clock::now() - pushed;
     screen_ = screen;
     return opening;

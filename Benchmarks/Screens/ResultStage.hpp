@@ -4,7 +4,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-#include "Quillet/Checkout.hpp"
+#include "Checkout/Inputs/ProductList.hpp"
 
 #include <chrono>
 #include <memory>
@@ -22,14 +22,12 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 /// A window of a phone's size with a StackView that shows results without an animation. Main thread only.
 class ResultStage {
 public:
-    /// The time of each step from a response's products to the first frame with rows, and the live bytes at
-    /// the moment with the most copies of the products.
+    /// The time of each step from a response's products to the first frame with rows.
     struct Opening {
         Milliseconds input{};
         Milliseconds view{};
         Milliseconds push{};
         Milliseconds frame{};
-        std::size_t highestLiveBytes = 0;
 
         [[nodiscard]] Milliseconds all() const { return input + view + push + frame; }
     };
@@ -40,7 +38,7 @@ public:
     ResultStage& operator=(const ResultStage&) = delete;
 
     /// Shows the result of a checkout with these products.
-    Opening open(const std::vector<Product>& products);
+    Opening open(const SharedProducts& products);
     /// Removes the screen and waits until all of it is deleted.
     void close();
 

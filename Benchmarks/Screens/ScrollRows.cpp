@@ -98,7 +98,7 @@ private:
 using Work = std::function<void(Scrolled&)>;
 
 /// Shows the result, has the work done with its list, and removes it.
-void withResult(ResultStage& stage, const std::vector<Product>& products, const Work& work) {
+void withResult(ResultStage& stage, const SharedProducts& products, const Work& work) {
     stage.open(products);
     Scrolled scrolled(stage, stage.list());
     work(scrolled);
@@ -108,7 +108,7 @@ void withResult(ResultStage& stage, const std::vector<Product>& products, const 
 /// The plain list of the same products, in the same window, at the same place.
 class PlainStage {
 public:
-    PlainStage(ResultStage& stage, const std::vector<Product>& products) : stage_(stage) {
+    PlainStage(ResultStage& stage, const SharedProducts& products) : stage_(stage) {
         stage.open(products);
         QQuickItem& list = stage.list();
         window_ = list.window();
@@ -198,7 +198,7 @@ std::vector<Row> scrollRows(const Options& options) {
     const OffscreenApplication application;
 
     const auto products = madeProducts(10'000, true);
-    const auto count = static_cast<int>(products.size());
+    const auto count = static_cast<int>(products->size());
     ResultStage stage;
     PlainStage plain(stage, products);
     const auto ours = [&](const Work& work) { withResult(stage, products, work); };

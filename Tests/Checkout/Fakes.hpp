@@ -10,19 +10,20 @@ namespace quillet::testing {
 class FakeCheckoutRouter final : public CheckoutRoutering {
 public:
     explicit FakeCheckoutRouter(Log log) : log_(std::move(log)) {}
-    void showAllProductsAdded(const ViewController& from, const CheckoutResponse& response) override {
+    void showAllProductsAdded(const ViewController& from, const SharedCheckoutResponse& response) override {
         show("all added ", from, response);
     }
-    void showProductsPartiallyAdded(const ViewController& from, const CheckoutResponse& response) override {
+    void showProductsPartiallyAdded(const ViewController& from,
+                                    const SharedCheckoutResponse& response) override {
         show("partially added ", from, response);
     }
-    void showNoProductAdded(const ViewController& from, const CheckoutResponse& response) override {
+    void showNoProductAdded(const ViewController& from, const SharedCheckoutResponse& response) override {
         show("none added ", from, response);
     }
 
 private:
-    void show(const std::string& route, const ViewController& from, const CheckoutResponse& response) {
-        log_->push_back(route + response.submittedOrderId);
+    void show(const std::string& route, const ViewController& from, const SharedCheckoutResponse& response) {
+        log_->push_back(route + response->submittedOrderId);
         if (from.originViewController()) {
             log_->push_back("from a screen that the fake does not have");
         }

@@ -61,10 +61,10 @@ QStringList rows(const ProductsCheckoutStatusView& view) {
 }
 
 struct CheckoutResults : ::testing::Test {
-    using Route = void (CheckoutRoutering::*)(const ViewController&, const CheckoutResponse&);
+    using Route = void (CheckoutRoutering::*)(const ViewController&, const SharedCheckoutResponse&);
 
     std::unique_ptr<ProductsCheckoutStatusView> show(Route route, const CheckoutResponse& answer) {
-        (router.*route)(ViewControllerWrapper({}), answer);
+        (router.*route)(ViewControllerWrapper({}), std::make_shared<const CheckoutResponse>(answer));
         return std::move(*made);
     }
 

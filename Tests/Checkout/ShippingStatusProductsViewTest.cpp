@@ -38,12 +38,23 @@ std::vector<Product> products(std::size_t count) {
     return result;
 }
 
+std::optional<ExpansionPanel> sent(std::vector<Product> products) {
+    return ProductsViewFactory::shippedProductsView(
+        {std::make_shared<const std::vector<Product>>(std::move(products)), ProductList::Kind::added});
+}
 std::optional<ExpansionPanel> sent(std::size_t count) {
-    return ProductsViewFactory::shippedProductsView(products(count));
+    return sent(products(count));
 }
 
+std::optional<ExpansionPanel> notSent(std::vector<Product> products) {
+    for (Product& product : products) {
+        product.status = ProductErrorStatus::unavailable;
+    }
+    return ProductsViewFactory::unshippedProductsView(
+        {std::make_shared<const std::vector<Product>>(std::move(products)), ProductList::Kind::notAdded});
+}
 std::optional<ExpansionPanel> notSent(std::size_t count) {
-    return ProductsViewFactory::unshippedProductsView(products(count));
+    return notSent(products(count));
 }
 
 /// The list's rows, one letter each: head open (o) or closed (c), product (p), moving product (m). A capital
@@ -228,8 +239,7 @@ TEST_F(Sections, WriteNumbersOfAllSixtyFourBits) {
     one.totalPoints = 1;
     Product many;
     many.totalPoints = largest;
-    auto& list = show(ProductsViewFactory::shippedProductsView({one}),
-                      ProductsViewFactory::unshippedProductsView({many}));
+    auto& list = show(sent(std::vector{one}), notSent(std::vector{many}));
     const auto row = [&](int index) { return list.index(index).data(Role::ProductRole).value<ProductRow>(); };
     EXPECT_EQ(row(1), (ProductRow{"18446744073709551615", "Champú", "Code: 18446744073709551615", "1 punto",
                                   false, ""}));

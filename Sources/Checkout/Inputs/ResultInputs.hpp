@@ -1,11 +1,10 @@
 #pragma once
 
-#include "Quillet/Checkout.hpp"
+#include "Checkout/Inputs/ProductList.hpp"
 
 #include <QString>
 
 #include <cstdint>
-#include <vector>
 
 namespace quillet {
 
@@ -14,38 +13,38 @@ namespace quillet {
 
 struct AllProductsAddedFactoryInput {
     AllProductsAddedFactoryInput(QString cycle, std::uint64_t totalAddedProductsPoints,
-                                 std::uint64_t addedProductsQuantity, const std::vector<Product>& products);
+                                 std::uint64_t addedProductsQuantity, const SharedProducts& products);
 
     QString cycle;
     std::uint64_t totalAddedProductsPoints;
     std::uint64_t addedProductsQuantity;
     /// The products that were added.
-    std::vector<Product> products;
+    ProductList products;
 };
 
 struct ProductsPartiallyAddedFactoryInput {
     ProductsPartiallyAddedFactoryInput(QString cycle, std::uint64_t totalAddedProductPoints,
                                        std::uint64_t addedProductsQuantity,
                                        std::uint64_t notAddedProductsQuantity,
-                                       const std::vector<Product>& addedProducts,
-                                       const std::vector<Product>& notAddedProducts);
+                                       const SharedProducts& addedProducts,
+                                       const SharedProducts& notAddedProducts);
 
     QString cycle;
     std::uint64_t totalAddedProductPoints;
     std::uint64_t addedProductsQuantity;
     std::uint64_t notAddedProductsQuantity;
-    std::vector<Product> addedProducts;
-    std::vector<Product> notAddedProducts;
+    ProductList addedProducts;
+    ProductList notAddedProducts;
 };
 
 struct NoProductAddedFactoryInput {
     NoProductAddedFactoryInput(QString cycle, std::uint64_t notAddedProductsQuantity,
-                               const std::vector<Product>& products);
+                               const SharedProducts& products);
 
     QString cycle;
     std::uint64_t notAddedProductsQuantity;
     /// The products that were not added.
-    std::vector<Product> products;
+    ProductList products;
 };
 
 } // namespace quillet

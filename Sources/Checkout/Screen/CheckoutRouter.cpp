@@ -16,6 +16,11 @@ QString cycleText(const CheckoutResponse& response) {
     return cycle ? QString::fromStdString(Cycle::onlyCode(*cycle)) : QString();
 }
 
+/// The response's products, which keep it alive.
+SharedProducts products(const SharedCheckoutResponse& response) {
+    return {response, &response->products};
+}
+
 template <typename Creating, typename Input>
 void show(const Creating& factory, Input input, const ViewController& from) {
     auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
@@ -40,27 +45,28 @@ CheckoutRouter::CheckoutRouter(std::unique_ptr<AllProductsAddedCreating> allProd
       noProductAddedFactory_(std::move(noProductAddedFactory)) {}
 
 void CheckoutRouter::showAllProductsAdded(const ViewController& viewController,
-                                          const CheckoutResponse& response) {
+                                          const SharedCheckoutResponse& response) {
     show(*allProductsAddedFactory_,
-         AllProductsAddedFactoryInput(cycleText(response), response.summary.addedPoints,
-                                      response.summary.addedProducts, response.products),
+         AllProductsAddedFactoryInput(cycleText(*response), response->summary.addedPoints,
+                                      response->summary.addedProducts, products(response)),
          viewController);
 }
 
 void CheckoutRouter::showProductsPartiallyAdded(const ViewController& viewController,
-                                                const CheckoutResponse& response) {
+                                                const SharedCheckoutResponse& response) {
     show(*productsPartiallyAddedFactory_,
-         ProductsPartiallyAddedFactoryInput(cycleText(response), response.summary.addedPoints,
-                                            response.summary.addedProducts, response.summary.errorProducts,
-                                            response.products, response.products),
+         ProductsPartiallyAddedFactoryInput(cycleText(*response), response->summary.addedPoints,
+                                            response->summary.addedProducts, response->summary.errorProducts,
+                                            products(response), products(response)),
          viewController);
 }
 
 void CheckoutRouter::showNoProductAdded(const ViewController& viewController,
-                                        const CheckoutResponse& response) {
-    show(*noProductAddedFactory_,
-         NoProductAddedFactoryInput(cycleText(response), response.summary.errorProducts, response.products),
-         viewController);
+                                        const SharedCheckoutResponse& response) {
+    show(
+        *noProductAddedFactory_,
+        NoProductAddedFactoryInput(cycleText(*response), response->summary.errorProducts, products(response)),
+        viewController);
 }
 
 } // namespace quillet

@@ -14,10 +14,11 @@ public:
                    std::unique_ptr<NoProductAddedCreating> noProductAddedFactory);
 
     void showAllProductsAdded(const ViewController& viewController,
-                              const CheckoutResponse& response) override;
+                              const SharedCheckoutResponse& response) override;
     void showProductsPartiallyAdded(const ViewController& viewController,
-                                    const CheckoutResponse& response) override;
-    void showNoProductAdded(const ViewController& viewController, const CheckoutResponse& response) override;
+                                    const SharedCheckoutResponse& response) override;
+    void showNoProductAdded(const ViewController& viewController,
+                            const SharedCheckoutResponse& response) override;
 
 private:
     std::unique_ptr<AllProductsAddedCreating> allProductsAddedFactory_;

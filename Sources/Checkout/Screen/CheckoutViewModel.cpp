@@ -44,21 +44,21 @@ void CheckoutViewModel::didCheckout(const std::shared_ptr<const CheckoutResult>&
         screen->stopLoading();
     }
     if (result->checkoutResponse) {
-        showFeedback(*result->checkoutResponse, result->httpStatusCode);
+        showFeedback({result, &*result->checkoutResponse}, result->httpStatusCode);
     } else if (result->error) {
         showGenericError();
     }
 }
 
-void CheckoutViewModel::showFeedback(const CheckoutResponse& response, std::int64_t httpStatusCode) {
-    using Route = void (CheckoutRoutering::*)(const ViewController&, const CheckoutResponse&);
+void CheckoutViewModel::showFeedback(const SharedCheckoutResponse& response, std::int64_t httpStatusCode) {
+    using Route = void (CheckoutRoutering::*)(const ViewController&, const SharedCheckoutResponse&);
     const auto show = [&](Route route) {
         if (const auto screen = delegate_.lock()) {
             const auto origin = screen->wrapped();
             (screen->router().*route)(*origin, response);
         }
     };
-    switch (response.message) {
+    switch (response->message) {
     case CheckoutResponseMessage::cartSubmittedSuccess:
         return show(&CheckoutRoutering::showAllProductsAdded);
     case CheckoutResponseMessage::cartSubmittedPartialSuccess:

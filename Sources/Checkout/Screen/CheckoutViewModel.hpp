@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Checkout/Screen/CheckoutRoutering.hpp"
 #include "Checkout/Screen/CheckoutViewModelDelegate.hpp"
 #include "Checkout/Screen/CheckoutViewModeling.hpp"
 #include "KelCommon/KelCommon.hpp"
@@ -30,7 +31,7 @@ public:
     void didCheckout(const std::shared_ptr<const CheckoutResult>& result) override;
 
 private:
-    void showFeedback(const CheckoutResponse& response, std::int64_t httpStatusCode);
+    void showFeedback(const SharedCheckoutResponse& response, std::int64_t httpStatusCode);
     void showGenericError();
     void retry();
     void goHome();

@@ -13,19 +13,19 @@ QString ProductRow::spoken() const {
 }
 
 QString ProductView::quantity() const {
-    return QString::number(product_.quantity);
+    return QString::number(product_->quantity);
 }
 
 QString ProductView::description() const {
-    return QString::fromStdString(product_.description);
+    return QString::fromStdString(product_->description);
 }
 
 QString ProductView::code() const {
-    return Localization::code(product_.productCode);
+    return Localization::code(product_->productCode);
 }
 
 QString ProductView::points() const {
-    return Localization::pointsCount(product_.totalPoints);
+    return Localization::pointsCount(product_->totalPoints);
 }
 
 ProductRow UnshippedProductView::row() const {

@@ -9,13 +9,12 @@
 
 namespace quillet {
 
-/// A product's row. It holds the product only and formats its texts on request, so that a list of ten
-/// thousand rows needs no more memory than its records.
+/// A product's row. It refers to the record, which has to live longer, and formats its texts on request.
 class ProductView {
 public:
-    explicit ProductView(Product product) : product_(std::move(product)) {}
+    explicit ProductView(const Product& product) : product_(&product) {}
 
-    [[nodiscard]] const Product& product() const { return product_; }
+    [[nodiscard]] const Product& product() const { return *product_; }
     [[nodiscard]] QString quantity() const;
     [[nodiscard]] QString description() const;
     /// "Code: " and the code.
@@ -25,14 +24,14 @@ public:
     [[nodiscard]] ProductRow row() const { return {quantity(), description(), code(), points(), false, {}}; }
 
 private:
-    Product product_;
+    const Product* product_;
 };
 
 /// The row of a product that was not sent: the same with a tag below. The tag has a colour and no text; the
 /// reason is not shown.
 class UnshippedProductView {
 public:
-    explicit UnshippedProductView(Product product) : productView_(std::move(product)) {}
+    explicit UnshippedProductView(ProductView productView) : productView_(productView) {}
 
     [[nodiscard]] const ProductView& productView() const { return productView_; }
     /// The tag's text, which is empty.

@@ -9,16 +9,6 @@ namespace quillet {
 
 namespace {
 
-template <typename View>
-ProductsView rows(std::vector<Product> products) {
-    ProductsView view;
-    view.productViews.reserve(products.size());
-    for (Product& product : products) {
-        view.productViews.emplace_back(View(std::move(product)));
-    }
-    return view;
-}
-
 /// The module's own stroke colours are the same in either theme, and never used for text.
 void outline(ExpansionPanel& panel, std::string_view hex) {
     if (const auto stroke = hexColor(hex, 1)) {
@@ -28,16 +18,26 @@ void outline(ExpansionPanel& panel, std::string_view hex) {
 
 } // namespace
 
-ExpansionPanel ProductsViewFactory::shippedProductsView(std::vector<Product> products) {
-    ExpansionPanel panel{kel::KelColors::success, QStringLiteral("Productos enviados"),
-                         rows<ProductView>(std::move(products))};
+ProductDisplayable ProductViews::operator[](std::size_t index) const {
+    const ProductView view(products_[index]);
+    if (kind_ == ProductList::Kind::added) {
+        return view;
+    }
+    return UnshippedProductView(view);
+}
+
+ExpansionPanel ProductsViewFactory::shippedProductsView(ProductList products) {
+    ExpansionPanel panel{kel::KelColors::success,
+                         QStringLiteral("Productos enviados"),
+                         {{std::move(products), ProductList::Kind::added}}};
     outline(panel, "#669842");
     return panel;
 }
 
-ExpansionPanel ProductsViewFactory::unshippedProductsView(std::vector<Product> products) {
-    ExpansionPanel panel{kel::KelColors::alert, QStringLiteral("Productos no enviados"),
-                         rows<UnshippedProductView>(std::move(products))};
+ExpansionPanel ProductsViewFactory::unshippedProductsView(ProductList products) {
+    ExpansionPanel panel{kel::KelColors::alert,
+                         QStringLiteral("Productos no enviados"),
+                         {{std::move(products), ProductList::Kind::notAdded}}};
     outline(panel, "#D55336");
     return panel;
 }

@@ -1,16 +1,33 @@
 #pragma once
 
+#include "Checkout/Inputs/ProductList.hpp"
 #include "Checkout/Status/ProductView.hpp"
 
 #include <QColor>
 
-#include <vector>
+#include <cstddef>
+#include <utility>
 
 namespace quillet {
 
+/// One view a product, each made when it is asked for.
+class ProductViews {
+public:
+    ProductViews(ProductList products, ProductList::Kind kind)
+        : products_(std::move(products)), kind_(kind) {}
+
+    [[nodiscard]] std::size_t size() const { return products_.size(); }
+    /// Lives no longer than this list.
+    [[nodiscard]] ProductDisplayable operator[](std::size_t index) const;
+
+private:
+    ProductList products_;
+    ProductList::Kind kind_;
+};
+
 /// The rows of a section.
 struct ProductsView {
-    std::vector<ProductDisplayable> productViews;
+    ProductViews productViews;
 };
 
 /// Data of an expansion panel: a head with a coloured title, and an outline around head and rows.
@@ -32,8 +49,8 @@ struct ExpansionPanel {
 /// Makes the two sections of a result. A panel keeps the order of its products.
 class ProductsViewFactory {
 public:
-    [[nodiscard]] static ExpansionPanel shippedProductsView(std::vector<Product> products);
-    [[nodiscard]] static ExpansionPanel unshippedProductsView(std::vector<Product> products);
+    [[nodiscard]] static ExpansionPanel shippedProductsView(ProductList products);
+    [[nodiscard]] static ExpansionPanel unshippedProductsView(ProductList products);
 };
 
 } // namespace quillet

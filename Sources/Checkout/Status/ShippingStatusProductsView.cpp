@@ -110,7 +110,7 @@ QVariant ShippingStatusProductsView::data(const QModelIndex& index, int role) co
         if (row == 0) {
             return QVariant::fromValue(ProductRow());
         }
-        const auto& product = section->panel.content.productViews[static_cast<std::size_t>(row - 1)];
+        const auto product = section->panel.content.productViews[static_cast<std::size_t>(row - 1)];
         return QVariant::fromValue(std::visit([](const auto& view) { return view.row(); }, product));
     }
     default:
