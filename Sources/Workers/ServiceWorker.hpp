@@ -3,6 +3,7 @@
 #include "Network/Services/ServiceCall.hpp"
 #include "Quillet/Workers.hpp"
 #include "Workers/DispatchQueuing.hpp"
+#include "Workers/SharedResult.hpp"
 
 #include <atomic>
 #include <chrono>
@@ -70,7 +71,7 @@ private:
     // it; it is atomic for readers at other times.
     bool queue(Result result) noexcept try {
         isFinishedSuccessfully_.store((result.*response).has_value(), std::memory_order_release);
-        auto outcome = std::make_shared<const Result>(std::move(result));
+        auto outcome = sharedResult(std::move(result));
         dispatchMainQueue_->async([self = this->weak_from_this(), outcome = std::move(outcome)] {
             if (const auto worker = self.lock()) {
                 if (const auto target = worker->delegate()) {

@@ -71,10 +71,11 @@ struct ResultScreen : ::testing::Test {
             products[i].productCode = i;
             products[i].status = i % 2 ? ProductErrorStatus::none : ProductErrorStatus::unavailable;
         }
-        show(products);
+        show(std::move(products));
     }
 
-    void show(const std::vector<Product>& products) {
+    void show(std::vector<Product> list) {
+        const auto products = std::make_shared<const std::vector<Product>>(std::move(list));
         const auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
             std::make_unique<LoggingDisplayer>(log), std::make_shared<RecordingAnalytics>(log));
         screen->setView(ProductsPartiallyAddedFactory({}).view({"05", 1, 1, 1, products, products}, *screen));
