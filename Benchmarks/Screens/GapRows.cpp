@@ -15,6 +15,7 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace quillet::benchmarks {
 
@@ -36,17 +37,17 @@ public:
 
     /// The longest time without a beat until the condition holds, in milliseconds. Throws std::runtime_error
     /// where it does not within a minute.
-    double longestGapUntil(const std::function<bool()>& condition) {
+    double longestGapUntil(std::function<bool()> condition) {
         longest_ = {};
         last_ = Clock::now();
-        const auto latest = last_ + std::chrono::minutes(1);
-        while (!condition()) {
-            if (Clock::now() > latest) {
-                throw std::runtime_error("The module does not come to what is waited for.");
-            }
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        latest_ = last_ + std::chrono::minutes(1);
+        condition_ = std::move(condition);
+        QEventLoop loop;
+        loop_ = &loop;
+        loop.exec();
+        if (last_ > latest_) {
+            throw std::runtime_error("The module does not come to what is waited for.");
         }
-        beat();
         return std::chrono::duration<double, std::milli>(longest_).count();
     }
     double longestGapFor(std::chrono::milliseconds time) {
@@ -59,9 +60,15 @@ private:
         const auto now = Clock::now();
         longest_ = std::max(longest_, now - last_);
         last_ = now;
+        if (loop_ && (condition_() || now > latest_)) {
+            std::exchange(loop_, nullptr)->quit();
+        }
     }
 
     QTimer timer_;
+    QEventLoop* loop_ = nullptr;
+    std::function<bool()> condition_;
+    Clock::time_point latest_;
     Clock::time_point last_ = Clock::now();
     Clock::duration longest_{};
 };
@@ -105,9 +112,8 @@ Gaps gapsOfAWay(ModuleStage& stage, Heart& heart, testing::FaultServer& server, 
     stage.sendProducts();
     gaps.result = heart.longestGapUntil([&] { return stage.screens() == 3; });
     gaps.result = std::max(gaps.result, heart.longestGapFor(after));
-    const auto start = Clock::now();
-    stage.close();
-    gaps.end = std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+    stage.clear();
+    gaps.end = heart.longestGapUntil([&] { return !stage.isOpen(); });
     gaps.end = std::max(gaps.end, heart.longestGapFor(after));
     return gaps;
 }

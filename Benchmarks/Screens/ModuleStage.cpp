@@ -89,7 +89,7 @@ void ModuleStage::clear() {
 
 void ModuleStage::close() {
     clear();
-    drawUntil([this] { return screen_.expired(); });
+    drawUntil([this] { return !isOpen(); });
     // The old one keeps all requests, which would grow with each opening.
     if (backend_) {
         backend_ = testing::ScriptedBackend::install();

@@ -41,6 +41,8 @@ public:
     std::size_t drawUntil(const std::function<bool()>& condition);
     /// Waits until the window has drawn one more frame.
     void drawFrame();
+    /// Whether anything of the module that was opened last still exists.
+    [[nodiscard]] bool isOpen() const { return !screen_.expired(); }
     /// Whether the summary of an order is on the screen.
     [[nodiscard]] bool showsSummary() const;
     /// The module's screens that are on the stack: the summary, the one that sends, and the result.
