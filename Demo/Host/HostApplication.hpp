@@ -46,6 +46,7 @@ public:
         std::string accessToken;
         std::string authorizationProvider;
         quillet::Environment environment = quillet::Environment::dev;
+        bool operator==(const Order&) const = default;
     };
     /// Opens the module for an order; false if its token cannot be signed or its screen not shown.
     bool open(const Order& order);

@@ -20,47 +20,37 @@ QString fileWith(QTemporaryFile& file, const QByteArray& content) {
 TEST(Options, RefuseEachWrongCombinationInOneLine) {
     QTemporaryFile noCertificate;
     const QString ca = fileWith(noCertificate, "not a certificate");
+    const auto against = [&](const QString& gateway, const QString& authorities) {
+        return QStringList{"--play", "a", "--out", "d", "--gateway", gateway, "--ca", authorities};
+    };
     const std::pair<QStringList, QString> cases[] = {
         {{"--play", "a.play"}, "--play needs --out DIR"},
         {{"--tour", ""}, "--tour needs a folder"},
-        {{"--tour", "d", "--play", "a"}, "--tour, --play, --controls and --gallery do not go together"},
-        {{"--tour", "d", "--gallery", "g"}, "--tour, --play, --controls and --gallery do not go together"},
         {{"--gallery", ""}, "--gallery needs a folder"},
-        {{"--gallery", "g", "--language", "es"}, "--language does not go with --gallery"},
-        {{"--gallery", "g", "--size", "320x568"}, "--size does not go with --gallery"},
-        {{"--tour", "d", "--quick"}, "--quick goes with --gallery"},
         {{"--controls", ""}, "--controls needs a file"},
+        {{"--tour", "d", "--play", "a"}, "--tour, --play, --controls and --gallery do not go together"},
+        {{"--gallery", "g", "--size", "320x568"}, "--size does not go with --gallery"},
+        {{"--controls", "c", "--rtl"}, "--rtl does not go with --controls"},
+        {{"--tour", "d", "--quick"}, "--quick goes with --gallery"},
         {{"--out", "d"}, "--out goes with --play"},
-        {{"--play", "a", "--out", "d", "--gateway", "h:1"}, "--gateway and --ca go together"},
         {{"--gateway", "h:1", "--ca", ca}, "--gateway and --ca go together, and with --play"},
-        {{"--play", "a", "--out", "d", "--gateway", "h", "--ca", ca}, "--gateway is HOST:PORT, not h"},
-        {{"--play", "a", "--out", "d", "--gateway", "h:65536", "--ca", ca}, "--gateway is HOST:PORT"},
-        {{"--play", "a", "--out", "d", "--gateway", "h:1", "--ca", "/"}, "cannot read the CA file /"},
-        {{"--play", "a", "--out", "d", "--gateway", "h:1", "--ca", ca}, "no certificate in the CA file"},
+        {against("h:65536", ca), "--gateway is HOST:PORT, not h:65536"},
+        {against("h:1", "/"), "cannot read the CA file /"},
+        {against("h:1", ca), "no certificate in the CA file " + ca},
         {{"--port", "65536"}, "not a port: 65536"},
         {{"--language", "fi"}, "--language is es, pt, en, xa or xb, not fi"},
-        {{"--size", "390"}, "--size is WxH, each from 320 to 1280, not 390"},
         {{"--size", "319x568"}, "--size is WxH, each from 320 to 1280, not 319x568"},
-        {{"--size", "390x1281"}, "--size is WxH"},
-        {{"--size", "4294967616x568"}, "--size is WxH"},
-        {{"--size", "-390x844"}, "--size is WxH"},
-        {{"--size", "390x844\n"}, "--size is WxH"},
-        {{"--controls", "c", "--size", "320x568"}, "--size does not go with --controls"},
-        {{"--controls", "c", "--text-scale", "200"}, "--text-scale does not go with --controls"},
-        {{"--controls", "c", "--rtl"}, "--rtl does not go with --controls"},
+        {{"--size", "4294967616x568"}, "--size is WxH, each from 320 to 1280, not 4294967616x568"},
         {{"--theme", "sepia"}, "--theme is light, dark or contrast, not sepia"},
         {{"--theme", "contrast", "--dark"}, "--dark and --theme do not go together"},
         {{"--text-scale", "99"}, "--text-scale is a whole number of percent, from 100 to 200, not 99"},
-        {{"--text-scale", "2"}, "--text-scale is a whole number"},
-        {{"--text-scale", "4294967396"}, "--text-scale is a whole number"},
         {{"stray"}, "not understood: stray"},
     };
     for (const auto& [arguments, complaint] : cases) {
         SCOPED_TRACE(arguments.join(' ').toStdString());
         const auto options = parseOptions(QStringList{"quillet-host"} + arguments);
         ASSERT_FALSE(options);
-        EXPECT_TRUE(options.error().startsWith(complaint)) << options.error().toStdString();
-        EXPECT_FALSE(options.error().trimmed().contains('\n'));
+        EXPECT_EQ(options.error(), complaint) << options.error().toStdString();
     }
 }
 

@@ -19,77 +19,101 @@ namespace steps {
 
 struct Open {
     HostApplication::Order order;
+    bool operator==(const Open&) const = default;
 };
 /// A refusal with a back end code that no reply can produce, simulated.
 struct Handmade {
     QString code;
+    bool operator==(const Handmade&) const = default;
 };
 /// Only before the first screen of the process, since texts are looked up once.
 struct Language {
     QString code;
+    bool operator==(const Language&) const = default;
 };
-struct Close {};
+struct Close {
+    bool operator==(const Close&) const = default;
+};
 /// By shown text, accessible name, or identifier.
 struct Tap {
     QString name;
     Device by = Device::mouse;
+    bool operator==(const Tap&) const = default;
 };
 struct Expect {
     QString text;
     std::chrono::milliseconds within;
+    bool operator==(const Expect&) const = default;
 };
 struct Absent {
     QString text;
+    bool operator==(const Absent&) const = default;
 };
 struct Title {
     QString text;
+    bool operator==(const Title&) const = default;
 };
 struct Background {
     Device by = Device::mouse;
+    bool operator==(const Background&) const = default;
 };
 /// By key it is Escape.
 struct CloseIcon {
     Device by = Device::mouse;
+    bool operator==(const CloseIcon&) const = default;
 };
 /// All the way.
 struct Scroll {
     bool toEnd;
+    bool operator==(const Scroll&) const = default;
 };
-struct Back {};
+struct Back {
+    bool operator==(const Back&) const = default;
+};
 struct Shot {
     QString name;
+    bool operator==(const Shot&) const = default;
 };
 struct Network {
     bool on;
+    bool operator==(const Network&) const = default;
 };
 /// Of the phone-sized area.
 struct Size {
     QSize size;
+    bool operator==(const Size&) const = default;
 };
 struct Theme {
     kel::KelTheme theme;
+    bool operator==(const Theme&) const = default;
 };
 struct TextScale {
     int percent;
+    bool operator==(const TextScale&) const = default;
 };
 struct Motion {
     bool reduced;
+    bool operator==(const Motion&) const = default;
 };
 struct Direction {
     Qt::LayoutDirection direction;
+    bool operator==(const Direction&) const = default;
 };
 /// What a device takes of the edges of the phone-sized area.
 struct Insets {
     QMargins margins;
+    bool operator==(const Insets&) const = default;
 };
 /// Wherever the focus is.
 struct Press {
     Qt::Key key;
+    bool operator==(const Press&) const = default;
 };
 /// By shown text, accessible name, or identifier.
 struct Focused {
     QString name;
     std::chrono::milliseconds within;
+    bool operator==(const Focused&) const = default;
 };
 
 } // namespace steps

@@ -14,6 +14,8 @@ struct CartForConsultant {
     std::uint64_t consultantId = 0;
     /// The consultant's country code, passed on to the services.
     std::string country;
+
+    bool operator==(const CartForConsultant&) const = default;
 };
 
 } // namespace quillet
