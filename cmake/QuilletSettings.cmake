@@ -22,11 +22,13 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 
-# ccache keeps precompiled headers apart only if it is told that their time stamps do not matter.
+# ccache keeps precompiled headers apart only if it is told that their time stamps do not matter. Paths are compared as they
+# are below this folder, so that another clone, or a copy with a fault in it, need not compile all again.
 find_program(QUILLET_CCACHE ccache)
 if(QUILLET_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER
-        "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${QUILLET_CCACHE}")
+        "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_NOHASHDIR=1
+        "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" "${QUILLET_CCACHE}")
 endif()
 
 # What a host ships tells nobody where it was built: __FILE__ begins at the project's own folder.
