@@ -155,7 +155,7 @@ std::expected<void, URLError> CurlTransfer::beginBody() {
     curl_off_t announced = 0;
     curl_easy_getinfo(handle(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
     return body_.begin(headerValues("Content-Encoding"),
-                       static_cast<std::size_t>(std::max<curl_off_t>(announced, 0)));
+                       static_cast<std::uint64_t>(std::max<curl_off_t>(announced, 0)));
 }
 
 template <std::expected<void, URLError> (CurlTransfer::*receive)(std::string_view)>
