@@ -106,6 +106,12 @@ URLError CurlTransfer::error(CURLcode code) {
         return URLError::of(URLError::Code::dataLengthExceedsMaximum,
                             "A line of the answer's head is too long");
     }
+    long proxyStatus = 0;
+    curl_easy_getinfo(handle(), CURLINFO_HTTP_CONNECTCODE, &proxyStatus);
+    if (proxyStatus >= 300) {
+        // libcurl calls it a failure to receive.
+        return URLError::of(URLError::Code::cannotConnectToHost, message);
+    }
     return URLError::of(urlErrorCode(code), message);
 }
 
