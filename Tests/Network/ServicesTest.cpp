@@ -1,12 +1,7 @@
-#include "Network/Errors/HttpErrorFactory.hpp"
-#include "Network/Request/URLRequestWrapper.hpp"
-#include "Network/Services/SellOutCartCheckoutService.hpp"
-#include "Network/Services/SellOutCartService.hpp"
-#include "Network/Services/SellOutCartsStatusOpenService.hpp"
-#include "Network/Session/URLSessionWrapper.hpp"
-#include "Network/Url/UrlCreator.hpp"
+#include "Models/Bodies.hpp"
+#include "Network/SandboxedServices.hpp"
 #include "Support/FakeSession.hpp"
-#include "Support/SandboxedSession.hpp"
+#include "Support/Thorough.hpp"
 
 #include <gtest/gtest.h>
 
@@ -14,35 +9,52 @@ namespace quillet {
 
 namespace {
 
-const auto requests = std::make_shared<URLRequestFactory>();
-const auto errors = std::make_shared<HttpErrorFactory>();
-const auto urls = std::make_shared<UrlCreator>();
+using testing::Services;
 
-// The three services, as the workers make them.
-struct Services {
-    std::shared_ptr<const URLSessionDataTaskCreating> session;
-    std::string host = testing::gatewayHost;
-    Authorization authorization{"the.signed.token", "provider"};
-    std::string country = "PE";
-    std::uint64_t consultantId = 0;
-
-    SellOutCartService associate() const { return {session, requests, host, errors, urls, authorization}; }
-    SellOutCartsStatusOpenService openCarts() const {
-        return {host, {country, consultantId}, requests, authorization.jwt, session, errors, urls};
-    }
-    SellOutCartCheckoutService checkout() const {
-        return {authorization, country, consultantId, host, requests, session, errors, urls};
-    }
+/// What of a result does not depend on the call.
+struct Outcome {
+    bool hasResponse;
+    std::optional<ServiceError> error;
+    std::int64_t status;
 };
 
-const std::string openCartsBody = R"({"consultant":{"id":7},"carts":[]})";
+/// One of the three calls.
+struct Call {
+    const char* name;
+    std::string goodBody;
+    std::function<void(const Services&, std::function<void(Outcome)>)> send;
+
+    friend void PrintTo(const Call& call, std::ostream* stream) { *stream << call.name; }
+};
+
+const Call calls[] = {
+    {"Associate", tests::orderJson,
+     [](const Services& services, auto done) {
+         services.associate().associateConsultantToCart("cart", 1, [done](const OrderResult& result) {
+             done({result.response.has_value(), result.error, result.httpStatusCode});
+         });
+     }},
+    {"OpenCarts", tests::openOrdersJson,
+     [](const Services& services, auto done) {
+         services.openCarts().getOpenOrders([done](const OpenOrdersResult& result) {
+             done({result.response.has_value(), result.error, result.httpStatusCode});
+         });
+     }},
+    {"Checkout", tests::checkoutJson,
+     [](const Services& services, auto done) {
+         services.checkout().checkout([done](const CheckoutResult& result) {
+             done({result.checkoutResponse.has_value(), result.error, result.httpStatusCode});
+         });
+     }},
+};
+
+struct ServiceCalls : ::testing::TestWithParam<Call>, testing::SandboxedSession {};
 
 } // namespace
 
 TEST(Services, SendExactlyTheseRequests) {
     testing::SandboxedSession sandbox;
-    Services services{
-        std::make_shared<URLSessionWrapper>(std::make_shared<platform::URLSession>(sandbox.configuration))};
+    Services services(sandbox.configuration);
     testing::Recorder<std::int64_t> statuses;
     const auto record = [&](auto result) { statuses.record(result.httpStatusCode); };
     const struct {
@@ -86,17 +98,19 @@ TEST(Services, SendExactlyTheseRequests) {
 TEST(Services, CompleteAtOnceWhenTheRequestCannotBeFormed) {
     const auto session = std::make_shared<testing::FakeSession>();
     const struct {
-        Services services;
+        std::string host;
         std::string cart;
+        std::string provider;
         ServiceError error;
     } cases[] = {
-        {{session, "https://gateway.test"}, "cart", NetworkServiceError::invalidUrl},
-        {{session, "gateway.test"}, "\xff", NetworkServiceError::invalidUrl},
-        {{session, "gateway.test", {"token", "a\r\nX-Evil: 1"}},
-         "cart",
-         platform::EncodingError{"Authorization-Provider"}},
+        {"https://gateway.test", "cart", "provider", NetworkServiceError::invalidUrl},
+        {"gateway.test", "\xff", "provider", NetworkServiceError::invalidUrl},
+        {"gateway.test", "cart", "a\r\nX-Evil: 1", platform::EncodingError{"Authorization-Provider"}},
     };
-    for (const auto& [services, cart, error] : cases) {
+    for (const auto& [host, cart, provider, error] : cases) {
+        Services services(session);
+        services.host = host;
+        services.authorization.provider = provider;
         std::vector<OrderResult> results;
         services.associate().associateConsultantToCart(cart, 1, [&](OrderResult r) { results.push_back(r); });
         ASSERT_EQ(results.size(), 1u);
@@ -107,51 +121,59 @@ TEST(Services, CompleteAtOnceWhenTheRequestCannotBeFormed) {
     EXPECT_TRUE(session->started.empty());
 }
 
-TEST(Services, MakeAResultOfEveryAnswer) {
-    const std::string client = R"({"details":"d","error":"e","statusCode":404,"path":"/p"})";
-    const std::string server =
-        R"({"error":{"response":{"statusCode":1,"message":"m","error":"e"},"status":2,)"
-        R"("message":"CODE"},"statusCode":500,"path":"/p"})";
-    const ClientError clientError{"d", "e", 404, "/p"};
-    const ServerError serverError{{{1, "m", "e"}, 2, "CODE"}, 500, "/p"};
-    const platform::URLError lost{platform::URLError::Code::networkConnectionLost, "lost"};
+TEST_P(ServiceCalls, MakeAResultOfEveryStatusWithEveryBody) {
+    const std::string ofClient = R"({"details":"d","error":"Not\/Found","statusCode":-404,"path":"/p"})";
+    const std::string ofServer =
+        R"({"error":{"response":{"statusCode":1,"message":"inner","error":"e"},"status":2,)"
+        R"("message":"ERROR_CART_ALREADY_SUBMITTED"},"statusCode":500,"path":"/p"})";
     const struct {
-        std::optional<std::string> data;
-        std::optional<platform::HTTPURLResponse> response;
-        std::optional<platform::URLError> transportError;
-        bool hasResponse;
+        std::vector<int> statuses;
+        /// The body that is an error's record for these, and the error.
+        std::string body;
         std::optional<ServiceError> error;
-    } cases[] = {
-        {openCartsBody, {{200}}, {}, true, {}},
-        {"{", {{200}}, {}, false, {}},
-        {"", {{204}}, {}, false, {}},
-        {client, {{200}}, {}, false, {}},
-        {client, {{302}}, {}, false, {}},
-        {client, {{399}}, {}, false, {}},
-        {client, {{400}}, {}, false, clientError},
-        {client, {{499}}, {}, false, clientError},
-        {server, {{422}}, {}, false, HttpStatusCodeError{422}},
-        {"", {{404}}, {}, false, HttpStatusCodeError{404}},
-        {server, {{500}}, {}, false, serverError},
-        {server, {{599}}, {}, false, serverError},
-        {server, {{600}}, {}, false, {}},
-        {client, {{504}}, {}, false, HttpStatusCodeError{504}},
-        {openCartsBody, {{500}}, {}, true, HttpStatusCodeError{500}},
-        {{}, {}, lost, false, lost},
+    } kinds[] = {
+        {{200, 201, 302, 399, 600}, "", std::nullopt},
+        {{400, 401, 403, 404, 409, 422, 429, 499}, ofClient, ClientError{"d", "Not/Found", -404, "/p"}},
+        {{500, 502, 503, 504, 599},
+         ofServer,
+         ServerError{{{1, "inner", "e"}, 2, "ERROR_CART_ALREADY_SUBMITTED"}, 500, "/p"}},
     };
-    for (const auto& [data, response, transportError, hasResponse, error] : cases) {
-        SCOPED_TRACE(data.value_or("absent") +
-                     std::to_string(response.value_or(platform::HTTPURLResponse{}).statusCode));
-        const auto session = std::make_shared<testing::FakeSession>();
-        std::vector<OpenOrdersResult> results;
-        // The service has been destroyed when the answer comes.
-        Services{session}.openCarts().getOpenOrders([&](OpenOrdersResult r) { results.push_back(r); });
-        session->started.at(0).complete(data, response, transportError);
-        ASSERT_EQ(results.size(), 1u);
-        EXPECT_EQ(results[0].response.has_value(), hasResponse);
-        EXPECT_EQ(results[0].error, error);
-        EXPECT_EQ(results[0].httpStatusCode, response ? response->statusCode : 0);
+    const std::string bodies[] = {GetParam().goodBody,
+                                  ofClient,
+                                  ofServer,
+                                  "",
+                                  "{",
+                                  "null",
+                                  "[]",
+                                  "<html><body>502 Bad Gateway</body></html>",
+                                  ofClient + "x",
+                                  tests::replaced(ofClient, R"(,"path":"/p")", ""),
+                                  tests::replaced(ofServer, R"(,"path":"/p")", "")};
+    const Services services(configuration);
+    testing::Recorder<Outcome> outcomes;
+    const std::size_t step = testing::thorough(3, 1);
+    std::size_t pair = 0;
+    for (const auto& [statuses, record, error] : kinds) {
+        for (const int status : statuses) {
+            for (const auto& body : bodies) {
+                if (pair++ % step != 0) {
+                    continue;
+                }
+                SCOPED_TRACE(std::to_string(status) + " " + body);
+                server.enqueue(testing::Answer::complete(status, body));
+                const auto call = outcomes.count();
+                GetParam().send(services, [&](Outcome outcome) { outcomes.record(std::move(outcome)); });
+                const auto& outcome = outcomes.wait(call);
+                EXPECT_EQ(outcome.hasResponse, body == GetParam().goodBody);
+                EXPECT_EQ(outcome.status, status);
+                EXPECT_EQ(outcome.error, !error || body == record ? error : HttpStatusCodeError{status});
+            }
+        }
     }
+    RecordProperty("cases", static_cast<int>(outcomes.count()));
 }
+
+INSTANTIATE_TEST_SUITE_P(, ServiceCalls, ::testing::ValuesIn(calls),
+                         [](const auto& parameter) { return parameter.param.name; });
 
 } // namespace quillet

@@ -49,25 +49,6 @@ TEST_F(SessionTest, DeliversOffTheCallersThread) {
     EXPECT_NE(calls.threadOf(), std::this_thread::get_id());
 }
 
-TEST_F(SessionTest, DeliversARedirectAsItCame) {
-    server.enqueue(Answer::complete(302, "moved", "Location: https://gateway.test/other\r\n"));
-    const platform::URLSession session(configuration);
-    task(session).resume();
-    const auto& outcome = calls.wait();
-    EXPECT_EQ(outcome.data, "moved");
-    EXPECT_EQ(outcome.response, platform::HTTPURLResponse{302});
-    EXPECT_EQ(server.requests().size(), 1u);
-}
-
-TEST_F(SessionTest, DeliversAnAnswerWithoutABodyAsAnEmptyBody) {
-    // An interim (1xx) response is not an answer.
-    server.enqueue({{"HTTP/1.1 103 Early Hints\r\nLink: x\r\n\r\nHTTP/1.1 204 No Content\r\n\r\n"}});
-    const platform::URLSession session(configuration);
-    task(session).resume();
-    EXPECT_EQ(calls.wait().data, "");
-    EXPECT_EQ(calls.wait().response, (platform::HTTPURLResponse{204}));
-}
-
 TEST_F(SessionTest, StartsOnceHoweverOftenItIsResumedAndNeverByItself) {
     server.enqueue(Answer::complete(200, "first"));
     server.enqueue(Answer::complete(200, "second"));
@@ -123,38 +104,6 @@ TEST_F(SessionTest, LetsACompletionFreeTheSessionAndStartAnotherCall) {
     second.reset();
     first.resume();
     EXPECT_EQ(calls.wait().data, "second");
-}
-
-TEST_F(SessionTest, GivesTheWholeCallItsTimeWhateverComesMeanwhile) {
-    const auto gate = std::make_shared<std::latch>(1);
-    server.enqueue(
-        {{"HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n", "drip"}, Answer::Ending::keepOpen, gate});
-    const platform::URLSession session(configuration);
-    task(session, "POST").resume();
-    ASSERT_TRUE(server.waitForRequests(1));
-    clock->advance(59'999ms);
-    gate->count_down();
-    clock->settle();
-    EXPECT_EQ(calls.count(), 0u);
-    clock->advance(1ms);
-    EXPECT_EQ(calls.wait().error->code, platform::URLError::Code::timedOut);
-    EXPECT_FALSE(calls.wait().response);
-    EXPECT_EQ(server.requests().size(), 1u);
-}
-
-TEST_F(SessionTest, KeepsEachCallsOwnTime) {
-    const platform::URLSession session(configuration);
-    session.dataTask({.url = {testing::gatewayHost, "/"}, .timeoutInterval = 10s}, calls.completion())
-        .resume();
-    task(session).resume();
-    ASSERT_TRUE(server.waitForRequests(2));
-    clock->advance(10s);
-    EXPECT_EQ(calls.wait().error->code, platform::URLError::Code::timedOut);
-    clock->advance(49'999ms);
-    clock->settle();
-    EXPECT_EQ(calls.count(), 1u);
-    clock->advance(1ms);
-    EXPECT_EQ(calls.wait(1).error->code, platform::URLError::Code::timedOut);
 }
 
 TEST_F(SessionTest, TellsItsObserverBeforeTheCompletion) {

@@ -204,7 +204,7 @@ bool FaultServer::answerOneRequest(SSL* tls, int socket) {
         if (isLater && answer->pace) {
             answer->pace();
         }
-        if (SSL_write(tls, piece.data(), static_cast<int>(piece.size())) <= 0) {
+        if (!piece.empty() && SSL_write(tls, piece.data(), static_cast<int>(piece.size())) <= 0) {
             return false;
         }
     }
