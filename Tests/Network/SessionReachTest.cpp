@@ -5,6 +5,7 @@
 #include "Support/SilentPort.hpp"
 
 #include <gtest/gtest.h>
+#include <openssl/conf.h>
 #include <openssl/opensslv.h>
 
 #include <atomic>
@@ -14,6 +15,7 @@ namespace quillet {
 
 namespace {
 
+using namespace std::chrono_literals;
 using enum platform::URLError::Code;
 
 class BeginningsCounter final : public platform::URLSessionObserving {
@@ -35,10 +37,10 @@ struct SessionReach : ::testing::Test {
     }
 };
 
-platform::URLError::Code errorOf(const platform::URLSessionConfiguration& configuration,
+// The code of a POST's error; none has the value 0.
+platform::URLError::Code errorOf(const platform::URLSession& session,
                                  const std::string& host = testing::gatewayHost) {
     testing::CallRecorder calls;
-    const platform::URLSession session(configuration);
     session.dataTask({.url = {host, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
     const auto& outcome = calls.wait();
     return outcome.error.value_or(platform::URLError{platform::URLError::Code{}, ""}).code;
@@ -56,14 +58,14 @@ TEST_F(SessionReach, AsksForANetworkOnlyWhereTheHostIsNotReached) {
     const auto path = std::make_shared<testing::FakeNetworkPath>(false);
     sandbox.configuration.networkPath = path;
     sandbox.server.enqueue(testing::Answer::complete(200, "{}"));
-    EXPECT_EQ(errorOf(sandbox.configuration), platform::URLError::Code{});
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration)), platform::URLError::Code{});
     EXPECT_EQ(path->asked.count(), 0u);
 
     sandbox.configuration.hostMappings[0].port = closedPort;
-    EXPECT_EQ(errorOf(sandbox.configuration), notConnectedToInternet);
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration)), notConnectedToInternet);
     EXPECT_EQ(path->asked.wait(), "gateway.test mapped");
     EXPECT_NE(path->asked.threadOf(), std::this_thread::get_id());
-    EXPECT_EQ(errorOf(sandbox.configuration, noName), notConnectedToInternet);
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration), noName), notConnectedToInternet);
     EXPECT_EQ(path->asked.wait(1), noName);
 }
 
@@ -71,16 +73,16 @@ TEST_F(SessionReach, TellsAHostThatIsNotReachedFromNoNetwork) {
     testing::SandboxedSession sandbox;
     auto& mapping = sandbox.configuration.hostMappings[0];
     mapping.port = closedPort;
-    EXPECT_EQ(errorOf(sandbox.configuration), cannotConnectToHost);
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration)), cannotConnectToHost);
     mapping.address = noName;
-    EXPECT_EQ(errorOf(sandbox.configuration), cannotFindHost);
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration)), cannotFindHost);
     // The system reports a TCP connection to the broadcast address as an unreachable network.
     sandbox.configuration.networkPath = std::make_shared<testing::FakeNetworkPath>(true);
-    EXPECT_EQ(errorOf(sandbox.configuration, "255.255.255.255"), cannotConnectToHost);
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration), "255.255.255.255"), cannotConnectToHost);
     // A failing monitor does not mean that there is no network.
     sandbox.configuration.networkPath = std::make_shared<testing::FakeNetworkPath>(
         [](const std::string&, bool) -> bool { throw std::bad_alloc(); });
-    EXPECT_EQ(errorOf(sandbox.configuration, noName), cannotFindHost);
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration), noName), cannotFindHost);
 }
 
 // The first attempts get no reply; then a server takes over the port.
@@ -158,23 +160,14 @@ TEST_F(SessionReach, KeepsAConnectionThatIsSlowToSpeak) {
     EXPECT_EQ(calls.count(), 0u);
 }
 
-TEST_F(SessionReach, TrustsOnlyACertificateOfTheAuthorityForTheHost) {
+TEST_F(SessionReach, TrustsTheAuthoritiesOfTheFileAloneOrElseTheSystems) {
     testing::SandboxedSession sandbox;
-    const testing::TestAuthority stranger;
-    const auto real = sandbox.configuration;
-
-    // The tests' authorities all have the same name, so only the signature tells them apart.
-    sandbox.configuration.caBundleFile = stranger.bundleFile();
-    EXPECT_EQ(errorOf(sandbox.configuration), serverCertificateUntrusted);
-    // Without a configured file the system's authorities are used, whatever the environment says.
-    setenv("SSL_CERT_FILE", real.caBundleFile.c_str(), 1);
+    // The environment does not count.
+    setenv("SSL_CERT_FILE", sandbox.configuration.caBundleFile.c_str(), 1);
     sandbox.configuration.caBundleFile.clear();
-    EXPECT_EQ(errorOf(sandbox.configuration), serverCertificateUntrusted);
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration)), serverCertificateUntrusted);
     sandbox.configuration.caBundleFile = "/nowhere/authorities.pem";
-    EXPECT_EQ(errorOf(sandbox.configuration), cannotOpenFile);
-    sandbox.configuration = real;
-    sandbox.configuration.hostMappings[0].host = "other.test";
-    EXPECT_EQ(errorOf(sandbox.configuration, "other.test"), serverCertificateUntrusted);
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration)), cannotOpenFile);
     EXPECT_EQ(sandbox.server.requests().size(), 0u);
 }
 
@@ -188,7 +181,7 @@ TEST_F(SessionReach, ReachesAMappedHostPastTheProxyOfTheEnvironment) {
     const platform::URLSession session(sandbox.configuration);
     session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
     EXPECT_EQ(calls.wait().data, "{}");
-    EXPECT_EQ(errorOf(sandbox.configuration, "unmapped.test"), cannotConnectToHost);
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration), "unmapped.test"), cannotConnectToHost);
     unsetenv("https_proxy");
 }
 
@@ -202,6 +195,82 @@ TEST_F(SessionReach, RefusesAMethodThatIsNone) {
         .resume();
     EXPECT_TRUE(calls.wait().error);
 }
+
+/// A server's part in a handshake.
+struct Handshake {
+    const char* name;
+    std::function<testing::ContextPointer(const testing::TestAuthority&)> context;
+    platform::URLError::Code code;
+
+    friend void PrintTo(const Handshake& handshake, std::ostream* stream) { *stream << handshake.name; }
+};
+
+testing::ContextPointer speakingOnly(int version, testing::ContextPointer context) {
+    SSL_CTX_set_security_level(context.get(), 0);
+    SSL_CTX_set_cipher_list(context.get(), "ALL");
+    SSL_CTX_set_min_proto_version(context.get(), version);
+    SSL_CTX_set_max_proto_version(context.get(), version);
+    return context;
+}
+
+// Lets OpenSSL's clients speak all that they can, so that not the machine's settings decide but the module.
+void allowOldTls() {
+    const std::string_view settings =
+        "openssl_conf = all\n[all]\nssl_conf = uses\n[uses]\nsystem_default = old\n"
+        "[old]\nMinProtocol = TLSv1\nCipherString = ALL:@SECLEVEL=0\n";
+    BIO* const text = BIO_new_mem_buf(settings.data(), static_cast<int>(settings.size()));
+    CONF* const read = NCONF_new(nullptr);
+    EXPECT_EQ(NCONF_load_bio(read, text, nullptr), 1);
+    EXPECT_EQ(CONF_modules_load(read, nullptr, 0), 1);
+    NCONF_free(read);
+    BIO_free(text);
+}
+
+const Handshake handshakes[] = {
+    {"SelfSigned", [](auto&) { return testing::TestAuthority::selfSignedContext(testing::gatewayHost); },
+     serverCertificateUntrusted},
+    // All authorities of the tests have the same name, so that only the signature tells them apart.
+    {"OtherAuthority", [](auto&) { return testing::TestAuthority().serverContext(testing::gatewayHost); },
+     serverCertificateUntrusted},
+    {"OtherHost", [](auto& authority) { return authority.serverContext("other.test"); },
+     serverCertificateUntrusted},
+    {"Expired", [](auto& authority) { return authority.serverContext(testing::gatewayHost, -2h, -1h); },
+     serverCertificateUntrusted},
+    {"NotYetValid", [](auto& authority) { return authority.serverContext(testing::gatewayHost, 1h, 2h); },
+     serverCertificateUntrusted},
+    {"OldTls",
+     [](auto& authority) {
+         allowOldTls();
+         return speakingOnly(TLS1_1_VERSION, authority.serverContext(testing::gatewayHost));
+     },
+     secureConnectionFailed},
+    {"OlderTlsThatStillServes",
+     [](auto& authority) {
+         return speakingOnly(TLS1_2_VERSION, authority.serverContext(testing::gatewayHost));
+     },
+     {}},
+    {"HangsUp", [](auto&) { return testing::ContextPointer(nullptr, &SSL_CTX_free); },
+     secureConnectionFailed},
+};
+
+struct SessionHandshake : ::testing::TestWithParam<Handshake>, testing::SandboxedSession {};
+
+TEST_P(SessionHandshake, LetsNoByteOfTheRequestOutUnlessItIsSound) {
+    const platform::URLSession session(configuration);
+    server.setContext(GetParam().context(authority));
+    server.enqueue(testing::Answer::complete(200, "{}"));
+    const bool isSound = GetParam().code == platform::URLError::Code{};
+    EXPECT_EQ(errorOf(session), GetParam().code);
+    EXPECT_EQ(server.requests().size(), isSound ? 1u : 0u);
+    EXPECT_EQ(server.connections(), 1u);
+
+    server.setContext(authority.serverContext(testing::gatewayHost));
+    server.enqueue(testing::Answer::complete(200, "{}"));
+    EXPECT_EQ(errorOf(session), platform::URLError::Code{});
+}
+
+INSTANTIATE_TEST_SUITE_P(, SessionHandshake, ::testing::ValuesIn(handshakes),
+                         [](const auto& parameter) { return parameter.param.name; });
 
 TEST(CurlLibrary, NeedsTheTlsLibraryThatTheModuleWasBuiltWith) {
     const std::string own = "OpenSSL/" + std::to_string(OPENSSL_VERSION_MAJOR) + ".";
