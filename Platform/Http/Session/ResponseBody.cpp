@@ -53,7 +53,7 @@ std::expected<void, URLError> ResponseBody::appendPlain(std::string_view bytes) 
     }
     // A large body of unknown length gets all of its room at once. Room that is not written to takes no
     // memory, whereas a string that grows by itself would have up to three times the limit in the end.
-    constexpr std::size_t large = 512 << 10;
+    constexpr std::size_t large = 256 << 10;
     if (const std::size_t size = bytes_.size() + bytes.size(); size > large && size > bytes_.capacity()) {
         bytes_.reserve(maximumBytes_);
     }
