@@ -7,50 +7,7 @@
 
 namespace quillet {
 
-namespace {
-
 using testing::Services;
-
-/// What of a result does not depend on the call.
-struct Outcome {
-    bool hasResponse;
-    std::optional<ServiceError> error;
-    std::int64_t status;
-};
-
-/// One of the three calls.
-struct Call {
-    const char* name;
-    std::string goodBody;
-    std::function<void(const Services&, std::function<void(Outcome)>)> send;
-
-    friend void PrintTo(const Call& call, std::ostream* stream) { *stream << call.name; }
-};
-
-const Call calls[] = {
-    {"Associate", tests::orderJson,
-     [](const Services& services, auto done) {
-         services.associate().associateConsultantToCart("cart", 1, [done](const OrderResult& result) {
-             done({result.response.has_value(), result.error, result.httpStatusCode});
-         });
-     }},
-    {"OpenCarts", tests::openOrdersJson,
-     [](const Services& services, auto done) {
-         services.openCarts().getOpenOrders([done](const OpenOrdersResult& result) {
-             done({result.response.has_value(), result.error, result.httpStatusCode});
-         });
-     }},
-    {"Checkout", tests::checkoutJson,
-     [](const Services& services, auto done) {
-         services.checkout().checkout([done](const CheckoutResult& result) {
-             done({result.checkoutResponse.has_value(), result.error, result.httpStatusCode});
-         });
-     }},
-};
-
-struct ServiceCalls : ::testing::TestWithParam<Call>, testing::SandboxedSession {};
-
-} // namespace
 
 TEST(Services, SendExactlyTheseRequests) {
     testing::SandboxedSession sandbox;
@@ -121,7 +78,9 @@ TEST(Services, CompleteAtOnceWhenTheRequestCannotBeFormed) {
     EXPECT_TRUE(session->started.empty());
 }
 
-TEST_P(ServiceCalls, MakeAResultOfEveryStatusWithEveryBody) {
+TEST(Services, MakeAResultOfEveryStatusWithEveryBody) {
+    testing::SandboxedSession sandbox;
+    const Services services(sandbox.configuration);
     const std::string ofClient = R"({"details":"d","error":"Not\/Found","statusCode":-404,"path":"/p"})";
     const std::string ofServer =
         R"({"error":{"response":{"statusCode":1,"message":"inner","error":"e"},"status":2,)"
@@ -138,42 +97,46 @@ TEST_P(ServiceCalls, MakeAResultOfEveryStatusWithEveryBody) {
          ofServer,
          ServerError{{{1, "inner", "e"}, 2, "ERROR_CART_ALREADY_SUBMITTED"}, 500, "/p"}},
     };
-    const std::string bodies[] = {GetParam().goodBody,
-                                  ofClient,
-                                  ofServer,
-                                  "",
-                                  "{",
-                                  "null",
-                                  "[]",
-                                  "<html><body>502 Bad Gateway</body></html>",
-                                  ofClient + "x",
-                                  tests::replaced(ofClient, R"(,"path":"/p")", ""),
-                                  tests::replaced(ofServer, R"(,"path":"/p")", "")};
-    const Services services(configuration);
-    testing::Recorder<Outcome> outcomes;
-    const std::size_t step = testing::thorough(3, 1);
+    const std::string strangeBodies[] = {"",
+                                         "{",
+                                         "null",
+                                         "[]",
+                                         "<html><body>502 Bad Gateway</body></html>",
+                                         ofClient,
+                                         ofServer,
+                                         ofClient + "x",
+                                         tests::replaced(ofClient, R"(,"path":"/p")", ""),
+                                         tests::replaced(ofServer, R"(,"path":"/p")", "")};
     std::size_t pair = 0;
-    for (const auto& [statuses, record, error] : kinds) {
-        for (const int status : statuses) {
-            for (const auto& body : bodies) {
-                if (pair++ % step != 0) {
-                    continue;
+    const auto expect = [&]<typename Result>(auto Result::*response, const std::string& goodBody, auto call) {
+        testing::Recorder<Result> results;
+        std::vector<std::string> bodies(std::begin(strangeBodies), std::end(strangeBodies));
+        bodies.push_back(goodBody);
+        for (const auto& [statuses, record, error] : kinds) {
+            for (const int status : statuses) {
+                for (const auto& body : bodies) {
+                    if (pair++ % testing::thorough(3, 1) != 0) {
+                        continue;
+                    }
+                    SCOPED_TRACE(std::to_string(status) + " " + body);
+                    sandbox.server.enqueue(testing::Answer::complete(status, body));
+                    const auto count = results.count();
+                    call([&](Result result) { results.record(std::move(result)); });
+                    const Result& result = results.wait(count);
+                    EXPECT_EQ((result.*response).has_value(), body == goodBody);
+                    EXPECT_EQ(result.httpStatusCode, status);
+                    EXPECT_EQ(result.error, !error || body == record ? error : HttpStatusCodeError{status});
                 }
-                SCOPED_TRACE(std::to_string(status) + " " + body);
-                server.enqueue(testing::Answer::complete(status, body));
-                const auto call = outcomes.count();
-                GetParam().send(services, [&](Outcome outcome) { outcomes.record(std::move(outcome)); });
-                const auto& outcome = outcomes.wait(call);
-                EXPECT_EQ(outcome.hasResponse, body == GetParam().goodBody);
-                EXPECT_EQ(outcome.status, status);
-                EXPECT_EQ(outcome.error, !error || body == record ? error : HttpStatusCodeError{status});
             }
         }
-    }
-    RecordProperty("cases", static_cast<int>(outcomes.count()));
+    };
+    expect(&OrderResult::response, tests::orderJson,
+           [&](auto completion) { services.associate().associateConsultantToCart("cart", 1, completion); });
+    expect(&OpenOrdersResult::response, tests::openOrdersJson,
+           [&](auto completion) { services.openCarts().getOpenOrders(completion); });
+    expect(&CheckoutResult::checkoutResponse, tests::checkoutJson,
+           [&](auto completion) { services.checkout().checkout(completion); });
+    RecordProperty("cases", static_cast<int>(sandbox.server.requests().size()));
 }
-
-INSTANTIATE_TEST_SUITE_P(, ServiceCalls, ::testing::ValuesIn(calls),
-                         [](const auto& parameter) { return parameter.param.name; });
 
 } // namespace quillet

@@ -22,23 +22,6 @@ struct SessionTest : ::testing::Test, testing::SandboxedSession {
     }
 };
 
-class TrafficLog final : public platform::URLSessionObserving {
-public:
-    void willSend(std::uint64_t exchange, const platform::URLRequest& request) override {
-        log.record(std::to_string(exchange - first) + " " + request.httpMethod.value_or("") + " " +
-                   request.url.absoluteString());
-    }
-    void didEnd(std::uint64_t exchange, const platform::URLRequest&,
-                const platform::URLSessionExchangeEnd& end) override {
-        const auto code = end.errorCode ? static_cast<std::int64_t>(*end.errorCode) : 0;
-        log.record(std::to_string(exchange - first) + " ended " + std::to_string(end.statusCode) + " " +
-                   std::to_string(code) + " " + std::to_string(end.duration.count()));
-    }
-
-    std::uint64_t first = 1;
-    testing::Recorder<std::string> log;
-};
-
 } // namespace
 
 TEST_F(SessionTest, DeliversOffTheCallersThread) {
@@ -107,21 +90,19 @@ TEST_F(SessionTest, LetsACompletionFreeTheSessionAndStartAnotherCall) {
 }
 
 TEST_F(SessionTest, TellsItsObserverBeforeTheCompletion) {
-    const auto observer = std::make_shared<TrafficLog>();
+    const auto observer = std::make_shared<testing::TrafficLog>();
     configuration.observer = observer;
     server.enqueue(Answer::complete(404, ""));
     const platform::URLSession session(configuration);
     task(session).resume();
     EXPECT_EQ(calls.wait().data, "");
-    ASSERT_EQ(observer->log.count(), 2u);
-    const auto number = std::stoull(observer->log.wait(0));
-    EXPECT_EQ(observer->log.wait(0), std::to_string(number) + " GET https://gateway.test/");
-    EXPECT_EQ(observer->log.wait(1), std::to_string(number) + " ended 404 0 0");
     task(session).resume();
     ASSERT_TRUE(server.waitForRequests(2));
     clock->advance(60s);
     EXPECT_TRUE(calls.wait(1).error);
-    EXPECT_EQ(observer->log.wait(3), std::to_string(number + 1) + " ended 0 -1001 60000");
+    EXPECT_EQ(observer->lines(),
+              (std::vector<std::string>{"0 GET https://gateway.test/", "0 ended 404 0 0",
+                                        "1 GET https://gateway.test/", "1 ended 0 -1001 60000"}));
 }
 
 // ThreadSanitizer finds the data races of this test.

@@ -1,4 +1,5 @@
 #include "Network/SandboxedServices.hpp"
+#include "Support/FakeNetworkPath.hpp"
 #include "Support/SilentPort.hpp"
 
 #include <gtest/gtest.h>
@@ -42,6 +43,17 @@ TEST_F(SessionTime, IsSixtySecondsOfSilenceBeforeTls) {
     const testing::SilentPort silent;
     configuration.hostMappings[0].port = silent.port();
     startCheckout();
+    expectTimeOutAfter(60s);
+}
+
+TEST_F(SessionTime, IsSixtySecondsOfAttemptsToConnect) {
+    const testing::SilentPort silent(testing::SilentPort::Kind::dropping);
+    const auto path = std::make_shared<testing::FakeNetworkPath>(true);
+    configuration.hostMappings[0].port = silent.port();
+    configuration.networkPath = path;
+    configuration.connectTimeout = 20ms;
+    startCheckout();
+    static_cast<void>(path->asked.wait(2));
     expectTimeOutAfter(60s);
 }
 
