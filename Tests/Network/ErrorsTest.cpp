@@ -1,4 +1,4 @@
-#include "Network/Errors/HttpErrorFactory.hpp"
+#include "Quillet/Errors.hpp"
 #include "Quillet/Orders.hpp"
 
 #include <gtest/gtest.h>
@@ -30,32 +30,6 @@ TEST(ServiceError, HasAPlatformCodeOnlyWhenTheExchangeFailed) {
     for (const ServiceError& error : {ServiceError(HttpStatusCodeError{-1009}), ServiceError(clientError),
                                       ServiceError(NetworkServiceError::invalidUrl)}) {
         EXPECT_EQ(platformErrorCode(error), std::nullopt);
-    }
-}
-
-TEST(HttpErrorFactory, GivesTheRecordOrElseTheStatus) {
-    const std::string client = R"({"details":"d","error":"Not\/Found","statusCode":-404,"path":"/p"})";
-    const std::string server =
-        R"({"error":{"response":{"statusCode":422,"message":"inner","error":"Unprocessable"},)"
-        R"("status":422,"message":"ERROR_CART_ALREADY_SUBMITTED"},"statusCode":500,"path":"/p"})";
-    const auto withoutPath = server.substr(0, server.rfind(",\"path\"")) + "}";
-    const struct {
-        std::optional<std::string> data;
-        HttpErrorModel model;
-        ServiceError error;
-    } cases[] = {
-        {client, HttpErrorModel::clientError, clientError},
-        {server, HttpErrorModel::serverError, serverError},
-        {server, HttpErrorModel::clientError, HttpStatusCodeError{418}},
-        {client, HttpErrorModel::serverError, HttpStatusCodeError{418}},
-        {withoutPath, HttpErrorModel::serverError, HttpStatusCodeError{418}},
-        {client + "x", HttpErrorModel::clientError, HttpStatusCodeError{418}},
-        {"", HttpErrorModel::clientError, HttpStatusCodeError{418}},
-        {std::nullopt, HttpErrorModel::serverError, HttpStatusCodeError{418}},
-    };
-    for (const auto& [data, model, error] : cases) {
-        SCOPED_TRACE(data.value_or("absent"));
-        EXPECT_EQ(HttpErrorFactory().parseError(data, 418, model), error);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "Support/NetworkNamespace.hpp"
 #include "Platform/Http/URLSession.hpp"
 #include "Support/SandboxedSession.hpp"
+#include "Support/Thorough.hpp"
 
 #include <gtest/gtest.h>
 
@@ -41,12 +42,16 @@ std::ostream& operator<<(std::ostream& stream, const Place& place) {
 
 const testing::ServerPlace nowhere{.port = 0};
 const testing::ServerPlace httpsPort{.port = 443};
-const testing::ServerPlace proxy{.port = 0, .isProxy = true};
 
 const Place places[] = {
+    {"NoInterface", "203.0.113.5 gateway.test\n", {"link set lo down"}, nowhere, "-1009"},
     {"NothingButLoopback", "203.0.113.5 gateway.test\n", {}, nowhere, "-1009"},
     {"ALinkThatLeadsNowhere", "203.0.113.5 gateway.test\n", link, nowhere, "-1009"},
     {"ALinkThatLeadsNowhereAndNoName", "", link, nowhere, "-1009"},
+    {"ARouteToTheNextHouseOnly", "203.0.113.5 gateway.test\n", linkAnd({"address add 10.9.8.7/24 dev near"}),
+     nowhere, "-1009"},
+    {"ARouteAndNothingBehind", "203.0.113.5 gateway.test\n",
+     linkAnd({"route add default dev near", "route add unreachable 203.0.113.5"}), nowhere, "-1004"},
     {"ARouteAndNoName", "", linkAnd({"route add default dev near"}), nowhere, "-1003"},
     {"ARouteAndAClosedPort", "127.0.0.1 gateway.test\n", linkAnd({"route add default dev near"}), nowhere,
      "-1004"},
@@ -56,7 +61,9 @@ const Place places[] = {
      linkAnd({"-6 route add default dev near", "-6 address add 2001:db8::7/64 dev near nodad"}), nowhere,
      "-1003"},
     {"AServerWithoutARoute", "127.0.0.1 gateway.test\n", {}, httpsPort, "200"},
-    {"AProxyWithoutARoute", "", {}, proxy, "200"},
+    {"AProxyWithoutARoute", "", {}, {.isProxy = true}, "200"},
+    {"AProxyThatRefuses", "", {}, {.isProxy = true, .proxyStatus = 403}, "-1004"},
+    {"AProxyThatWantsALogin", "", {}, {.isProxy = true, .proxyStatus = 407}, "-1004"},
     // Packets to the first address are routed back to this machine, which drops them. getaddrinfo() keeps the
     // order of these two, since neither is an address of this machine.
     {"ADeadAddressFirst",
@@ -87,7 +94,8 @@ void tryPlace(const Place& place) {
     }
     const auto start = std::chrono::steady_clock::now();
     testing::CallRecorder calls;
-    const platform::URLSession session({.caBundleFile = authority.bundleFile()});
+    const platform::URLSession session({.caBundleFile = authority.bundleFile(),
+                                        .connectTimeout = std::chrono::seconds(testing::thorough(2, 15))});
     session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
     const auto& outcome = calls.wait();
     const bool isLate = std::chrono::steady_clock::now() - start > std::chrono::seconds(10);

@@ -9,16 +9,9 @@ namespace quillet {
 
 using namespace std::string_literals;
 
-TEST(URLRequestFactory, BeginsWithSixtySecondsAndNoMethod) {
-    const platform::Url url{"gateway.test", "/p"};
-    const auto request = URLRequestFactory().create(url);
-    EXPECT_EQ(request->urlRequest(), platform::URLRequest{.url = url});
-    EXPECT_EQ(request->urlRequest().timeoutInterval, std::chrono::minutes(1));
-    EXPECT_FALSE(request->httpMethod());
-}
-
 TEST(URLRequestWrapper, JoinsASecondValueOfAHeader) {
     const auto request = URLRequestFactory().create({});
+    EXPECT_FALSE(request->httpMethod());
     EXPECT_TRUE(request->addValue("a", "Accept"));
     EXPECT_TRUE(request->addValue("x\ty ñ", "Other"));
     EXPECT_TRUE(request->addValue("b", "accept"));

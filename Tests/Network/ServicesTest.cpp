@@ -1,48 +1,17 @@
-#include "Network/Errors/HttpErrorFactory.hpp"
-#include "Network/Request/URLRequestWrapper.hpp"
-#include "Network/Services/SellOutCartCheckoutService.hpp"
-#include "Network/Services/SellOutCartService.hpp"
-#include "Network/Services/SellOutCartsStatusOpenService.hpp"
-#include "Network/Session/URLSessionWrapper.hpp"
-#include "Network/Url/UrlCreator.hpp"
+#include "Models/Bodies.hpp"
+#include "Network/SandboxedServices.hpp"
 #include "Support/FakeSession.hpp"
-#include "Support/SandboxedSession.hpp"
+#include "Support/Thorough.hpp"
 
 #include <gtest/gtest.h>
 
 namespace quillet {
 
-namespace {
-
-const auto requests = std::make_shared<URLRequestFactory>();
-const auto errors = std::make_shared<HttpErrorFactory>();
-const auto urls = std::make_shared<UrlCreator>();
-
-// The three services, as the workers make them.
-struct Services {
-    std::shared_ptr<const URLSessionDataTaskCreating> session;
-    std::string host = testing::gatewayHost;
-    Authorization authorization{"the.signed.token", "provider"};
-    std::string country = "PE";
-    std::uint64_t consultantId = 0;
-
-    SellOutCartService associate() const { return {session, requests, host, errors, urls, authorization}; }
-    SellOutCartsStatusOpenService openCarts() const {
-        return {host, {country, consultantId}, requests, authorization.jwt, session, errors, urls};
-    }
-    SellOutCartCheckoutService checkout() const {
-        return {authorization, country, consultantId, host, requests, session, errors, urls};
-    }
-};
-
-const std::string openCartsBody = R"({"consultant":{"id":7},"carts":[]})";
-
-} // namespace
+using testing::Services;
 
 TEST(Services, SendExactlyTheseRequests) {
     testing::SandboxedSession sandbox;
-    Services services{
-        std::make_shared<URLSessionWrapper>(std::make_shared<platform::URLSession>(sandbox.configuration))};
+    Services services(sandbox.configuration);
     testing::Recorder<std::int64_t> statuses;
     const auto record = [&](auto result) { statuses.record(result.httpStatusCode); };
     const struct {
@@ -86,17 +55,19 @@ TEST(Services, SendExactlyTheseRequests) {
 TEST(Services, CompleteAtOnceWhenTheRequestCannotBeFormed) {
     const auto session = std::make_shared<testing::FakeSession>();
     const struct {
-        Services services;
+        std::string host;
         std::string cart;
+        std::string provider;
         ServiceError error;
     } cases[] = {
-        {{session, "https://gateway.test"}, "cart", NetworkServiceError::invalidUrl},
-        {{session, "gateway.test"}, "\xff", NetworkServiceError::invalidUrl},
-        {{session, "gateway.test", {"token", "a\r\nX-Evil: 1"}},
-         "cart",
-         platform::EncodingError{"Authorization-Provider"}},
+        {"https://gateway.test", "cart", "provider", NetworkServiceError::invalidUrl},
+        {"gateway.test", "\xff", "provider", NetworkServiceError::invalidUrl},
+        {"gateway.test", "cart", "a\r\nX-Evil: 1", platform::EncodingError{"Authorization-Provider"}},
     };
-    for (const auto& [services, cart, error] : cases) {
+    for (const auto& [host, cart, provider, error] : cases) {
+        Services services(session);
+        services.host = host;
+        services.authorization.provider = provider;
         std::vector<OrderResult> results;
         services.associate().associateConsultantToCart(cart, 1, [&](OrderResult r) { results.push_back(r); });
         ASSERT_EQ(results.size(), 1u);
@@ -107,51 +78,65 @@ TEST(Services, CompleteAtOnceWhenTheRequestCannotBeFormed) {
     EXPECT_TRUE(session->started.empty());
 }
 
-TEST(Services, MakeAResultOfEveryAnswer) {
-    const std::string client = R"({"details":"d","error":"e","statusCode":404,"path":"/p"})";
-    const std::string server =
-        R"({"error":{"response":{"statusCode":1,"message":"m","error":"e"},"status":2,)"
-        R"("message":"CODE"},"statusCode":500,"path":"/p"})";
-    const ClientError clientError{"d", "e", 404, "/p"};
-    const ServerError serverError{{{1, "m", "e"}, 2, "CODE"}, 500, "/p"};
-    const platform::URLError lost{platform::URLError::Code::networkConnectionLost, "lost"};
+TEST(Services, MakeAResultOfEveryStatusWithEveryBody) {
+    testing::SandboxedSession sandbox;
+    const Services services(sandbox.configuration);
+    const std::string ofClient = R"({"details":"d","error":"Not\/Found","statusCode":-404,"path":"/p"})";
+    const std::string ofServer =
+        R"({"error":{"response":{"statusCode":1,"message":"inner","error":"e"},"status":2,)"
+        R"("message":"ERROR_CART_ALREADY_SUBMITTED"},"statusCode":500,"path":"/p"})";
     const struct {
-        std::optional<std::string> data;
-        std::optional<platform::HTTPURLResponse> response;
-        std::optional<platform::URLError> transportError;
-        bool hasResponse;
+        std::vector<int> statuses;
+        /// The body that is an error's record for these, and the error.
+        std::string body;
         std::optional<ServiceError> error;
-    } cases[] = {
-        {openCartsBody, {{200}}, {}, true, {}},
-        {"{", {{200}}, {}, false, {}},
-        {"", {{204}}, {}, false, {}},
-        {client, {{200}}, {}, false, {}},
-        {client, {{302}}, {}, false, {}},
-        {client, {{399}}, {}, false, {}},
-        {client, {{400}}, {}, false, clientError},
-        {client, {{499}}, {}, false, clientError},
-        {server, {{422}}, {}, false, HttpStatusCodeError{422}},
-        {"", {{404}}, {}, false, HttpStatusCodeError{404}},
-        {server, {{500}}, {}, false, serverError},
-        {server, {{599}}, {}, false, serverError},
-        {server, {{600}}, {}, false, {}},
-        {client, {{504}}, {}, false, HttpStatusCodeError{504}},
-        {openCartsBody, {{500}}, {}, true, HttpStatusCodeError{500}},
-        {{}, {}, lost, false, lost},
+    } kinds[] = {
+        {{200, 201, 302, 399, 600}, "", std::nullopt},
+        {{400, 401, 403, 404, 409, 422, 429, 499}, ofClient, ClientError{"d", "Not/Found", -404, "/p"}},
+        {{500, 502, 503, 504, 599},
+         ofServer,
+         ServerError{{{1, "inner", "e"}, 2, "ERROR_CART_ALREADY_SUBMITTED"}, 500, "/p"}},
     };
-    for (const auto& [data, response, transportError, hasResponse, error] : cases) {
-        SCOPED_TRACE(data.value_or("absent") +
-                     std::to_string(response.value_or(platform::HTTPURLResponse{}).statusCode));
-        const auto session = std::make_shared<testing::FakeSession>();
-        std::vector<OpenOrdersResult> results;
-        // The service has been destroyed when the answer comes.
-        Services{session}.openCarts().getOpenOrders([&](OpenOrdersResult r) { results.push_back(r); });
-        session->started.at(0).complete(data, response, transportError);
-        ASSERT_EQ(results.size(), 1u);
-        EXPECT_EQ(results[0].response.has_value(), hasResponse);
-        EXPECT_EQ(results[0].error, error);
-        EXPECT_EQ(results[0].httpStatusCode, response ? response->statusCode : 0);
-    }
+    const std::string strangeBodies[] = {"",
+                                         "{",
+                                         "null",
+                                         "[]",
+                                         "<html><body>502 Bad Gateway</body></html>",
+                                         ofClient,
+                                         ofServer,
+                                         ofClient + "x",
+                                         tests::replaced(ofClient, R"(,"path":"/p")", ""),
+                                         tests::replaced(ofServer, R"(,"path":"/p")", "")};
+    std::size_t pair = 0;
+    const auto expect = [&]<typename Result>(auto Result::*response, const std::string& goodBody, auto call) {
+        testing::Recorder<Result> results;
+        std::vector<std::string> bodies(std::begin(strangeBodies), std::end(strangeBodies));
+        bodies.push_back(goodBody);
+        for (const auto& [statuses, record, error] : kinds) {
+            for (const int status : statuses) {
+                for (const auto& body : bodies) {
+                    if (pair++ % testing::thorough(3, 1) != 0) {
+                        continue;
+                    }
+                    SCOPED_TRACE(std::to_string(status) + " " + body);
+                    sandbox.server.enqueue(testing::Answer::complete(status, body));
+                    const auto count = results.count();
+                    call([&](Result result) { results.record(std::move(result)); });
+                    const Result& result = results.wait(count);
+                    EXPECT_EQ((result.*response).has_value(), body == goodBody);
+                    EXPECT_EQ(result.httpStatusCode, status);
+                    EXPECT_EQ(result.error, !error || body == record ? error : HttpStatusCodeError{status});
+                }
+            }
+        }
+    };
+    expect(&OrderResult::response, tests::orderJson,
+           [&](auto completion) { services.associate().associateConsultantToCart("cart", 1, completion); });
+    expect(&OpenOrdersResult::response, tests::openOrdersJson,
+           [&](auto completion) { services.openCarts().getOpenOrders(completion); });
+    expect(&CheckoutResult::checkoutResponse, tests::checkoutJson,
+           [&](auto completion) { services.checkout().checkout(completion); });
+    RecordProperty("cases", static_cast<int>(sandbox.server.requests().size()));
 }
 
 } // namespace quillet

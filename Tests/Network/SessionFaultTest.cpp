@@ -1,4 +1,5 @@
 #include "Platform/Http/URLSession.hpp"
+#include "Support/FailingAllocations.hpp"
 #include "Support/SandboxedSession.hpp"
 
 #include <gtest/gtest.h>
@@ -12,154 +13,214 @@ using testing::Answer;
 using enum platform::URLError::Code;
 
 const std::string ok = "HTTP/1.1 200 OK\r\n";
+const std::string gzip = "Content-Encoding: gzip\r\n";
 // 70,000 times the letter a.
 const auto packed =
     "\x1f\x8b\x08\x00\x00\x00\x00\x00\x02\x03\xed\xc1\x31\x01\x00\x00\x00\xc2\xa0\xac\xeb\x5f\xc2\x12\x9e\x40\x01"s +
     std::string(67, '\0') + "\x6f\x03\x04\xe2\x29\x12\x70\x11\x01\x00"s;
-constexpr std::size_t unpackedSize = 70'000;
+const std::string unpacked(70'000, 'a');
 
-struct Fault {
-    std::string name;
-    Answer answer;
-    platform::URLError::Code code;
-};
+constexpr std::size_t limit = 16'777'216;
+const std::string header = "X-Header: " + std::string(54, 'x') + "\r\n";
 
-std::ostream& operator<<(std::ostream& stream, const Fault& fault) {
-    return stream << fault.name;
+std::string repeated(std::size_t count, std::string_view text) {
+    if (text.size() == 1) {
+        return std::string(count, text[0]);
+    }
+    std::string all;
+    while (count-- > 0) {
+        all += text;
+    }
+    return all;
 }
 
-const Fault faults[] = {
-    {"CutBeforeAnswer", {{}, Answer::Ending::cut}, networkConnectionLost},
-    {"ClosedBeforeAnswer", {{}, Answer::Ending::close}, networkConnectionLost},
-    {"CutInHeaders", {{ok + "Content-Le"}, Answer::Ending::cut}, networkConnectionLost},
-    {"ClosedAfterHeaders",
-     {{ok + "Content-Length: 5\r\n\r\n"}, Answer::Ending::close},
-     networkConnectionLost},
-    {"CutInBody", {{ok + "Content-Length: 5\r\n\r\n{}"}, Answer::Ending::cut}, networkConnectionLost},
-    {"ClosedInBody", {{ok + "Content-Length: 5\r\n\r\n{}"}, Answer::Ending::close}, networkConnectionLost},
-    {"CutInChunk",
-     {{ok + "Transfer-Encoding: chunked\r\n\r\n5\r\n{}"}, Answer::Ending::cut},
-     networkConnectionLost},
-    {"ClosedBeforeLastChunk",
-     {{ok + "Transfer-Encoding: chunked\r\n\r\n2\r\n{}\r\n"}, Answer::Ending::close},
-     networkConnectionLost},
-    {"CutInBodyWithoutLength", {{ok + "\r\n{}"}, Answer::Ending::cut}, networkConnectionLost},
-    {"CutInBodyOfNoCoding",
-     {{ok + "Transfer-Encoding: identity\r\nContent-Length: 2\r\n\r\n{}"}, Answer::Ending::cut},
-     networkConnectionLost},
-    {"CutInBodyOfMoreThanEightExabytes",
-     {{ok + "Content-Length: 9223372036854775808\r\n\r\n{}"}, Answer::Ending::cut},
-     networkConnectionLost},
-    {"ClosedInBodyOfMoreThanEightExabytes",
-     {{ok + "Content-Length: 9223372036854775808\r\n\r\n{}"}, Answer::Ending::close},
-     networkConnectionLost},
-    {"UnknownTransferCoding",
-     {{ok + "Transfer-Encoding: squeezed\r\n\r\n{}"}, Answer::Ending::close},
-     cannotParseResponse},
-    {"ErrorStatusCutInBody",
-     {{"HTTP/1.1 504 Late\r\nContent-Length: 5\r\n\r\n{}"}, Answer::Ending::cut},
-     networkConnectionLost},
-    {"NotHttp", {{"220 ready when you are\r\n"}, Answer::Ending::close}, cannotParseResponse},
-    {"LongHeader", Answer::complete(200, "", "X: " + std::string(300 << 10, 'x') + "\r\n"),
-     dataLengthExceedsMaximum},
-    {"ManyHeaders",
-     Answer::complete(200, "",
-                      [] {
-                          std::string headers;
-                          for (int i = 0; i < 4000; ++i) {
-                              headers += "X-" + std::to_string(i) + ": " + std::string(64, 'x') + "\r\n";
-                          }
-                          return headers;
-                      }()),
-     dataLengthExceedsMaximum},
-    {"BodyOverTheLimit", Answer::complete(200, std::string(unpackedSize, 'a')), dataLengthExceedsMaximum},
-    {"PackedBodyOverTheLimit", Answer::complete(200, packed, "Content-Encoding: gzip\r\n"),
-     dataLengthExceedsMaximum},
-    {"DamagedPacking", Answer::complete(200, "{}", "Content-Encoding: gzip\r\n"), cannotDecodeContentData},
-    {"UnknownPacking", Answer::complete(200, "{}", "Content-Encoding: br\r\n"), cannotDecodeContentData},
-    {"ShortenedPacking", Answer::complete(200, packed.substr(0, 60), "Content-Encoding: gzip\r\n"),
-     cannotDecodeContentData},
+struct SessionFaults : ::testing::Test, testing::SandboxedSession {
+    const platform::URLSessionOutcome& exchange(const platform::URLSession& session, Answer answer,
+                                                std::optional<std::string> method = std::nullopt) {
+        const auto call = calls.count();
+        server.enqueue(std::move(answer));
+        session
+            .dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = std::move(method)},
+                      calls.completion())
+            .resume();
+        return calls.wait(call);
+    }
+    void expectRefusal(const platform::URLSession& session, Answer answer, platform::URLError::Code code,
+                       const std::string& method = "POST") {
+        const auto requests = server.requests().size();
+        const auto& outcome = exchange(session, std::move(answer), method);
+        ASSERT_TRUE(outcome.error);
+        EXPECT_EQ(outcome.error->code, code) << outcome.error->message;
+        EXPECT_NE(outcome.error->message, "");
+        EXPECT_FALSE(outcome.data);
+        EXPECT_FALSE(outcome.response);
+        EXPECT_EQ(server.requests().size(), requests + 1);
+    }
+    /// Afterwards there is a connection that is kept.
+    void warmUp(const platform::URLSession& session) {
+        ASSERT_EQ(exchange(session, Answer::complete(200, "warm")).data, "warm");
+    }
+
+    testing::CallRecorder calls;
 };
 
-class SessionFault : public ::testing::TestWithParam<Fault> {};
+/// An answer, which ends with a text repeated, and the code of the error that it leads to.
+struct Fault {
+    const char* name;
+    std::string answer;
+    platform::URLError::Code code;
+    Answer::Ending ending = Answer::Ending::keepOpen;
+    std::string repeated = {};
+    std::size_t times = 0;
+
+    friend void PrintTo(const Fault& fault, std::ostream* stream) { *stream << fault.name; }
+};
+
+const auto closed = Answer::Ending::close;
+const auto open = Answer::Ending::keepOpen;
+const auto cut = Answer::Ending::cut;
+const std::string exabytes = "Content-Length: 9223372036854775808\r\n";
+
+const Fault faults[] = {
+    {"CutInBodyOfNoCoding", ok + "Transfer-Encoding: identity\r\nContent-Length: 2\r\n\r\n{}",
+     networkConnectionLost, cut},
+    {"CutInBodyOfMoreThanEightExabytes", ok + exabytes + "\r\n{}", networkConnectionLost, cut},
+    {"ClosedInBodyOfMoreThanEightExabytes", ok + exabytes + "\r\n{}", networkConnectionLost, closed},
+    {"ErrorStatusCutInBody", "HTTP/1.1 504 Late\r\nContent-Length: 5\r\n\r\n{}", networkConnectionLost, cut},
+    {"UnknownTransferCoding", ok + "Transfer-Encoding: squeezed\r\n\r\n{}", cannotParseResponse, closed},
+    {"BadChunk", ok + "Transfer-Encoding: chunked\r\n\r\n{}\r\n", networkConnectionLost},
+    {"NotHttp", "220 ready when you are\r\n", cannotParseResponse, closed},
+    {"UnknownPacking", ok + "Content-Length: 2\r\nContent-Encoding: br\r\n\r\n{}", cannotDecodeContentData},
+    {"NoPackingUnderItsName", ok + "Content-Length: 2\r\n" + gzip + "\r\n{}", cannotDecodeContentData},
+    {"HeaderLineOfTwentyMegabytes", ok + "X: ", dataLengthExceedsMaximum, open, "x", 20'000'000},
+    {"HundredThousandHeaders", ok, dataLengthExceedsMaximum, open, header, 100'000},
+    {"EndlessInterimAnswers", "", dataLengthExceedsMaximum, open, "HTTP/1.1 103 Early\r\nLink: x\r\n\r\n",
+     20'000},
+    {"LongTrailers", ok + "Transfer-Encoding: chunked\r\n\r\n0\r\n", dataLengthExceedsMaximum, open, header,
+     10'000},
+    {"BodyOverTheLimit", ok + "Content-Length: 16777217\r\n\r\n", dataLengthExceedsMaximum, open, " ",
+     limit + 1},
+    {"BodyOverTheLimitUntilTheEnd", ok + "\r\n", dataLengthExceedsMaximum, closed, " ", limit + 1},
+    // Of which but one byte comes.
+    {"TenGigabytes", ok + "Content-Length: 10000000000\r\n\r\n{", dataLengthExceedsMaximum},
+    {"ThousandMegabytesInOneAndAHalf", ok + gzip + "\r\n", dataLengthExceedsMaximum, open, packed, 15'000},
+};
+
+struct SessionFault : SessionFaults, ::testing::WithParamInterface<Fault> {};
 
 } // namespace
 
-// All kinds of faults for a POST, which must be sent once in every case.
-TEST_P(SessionFault, EndsThePostWithAnErrorAloneAndIsNotRepeated) {
-    testing::SandboxedSession sandbox;
-    testing::CallRecorder calls;
-    sandbox.configuration.maximumBodyBytes = unpackedSize - 1;
-    sandbox.server.enqueue(Answer::complete(200, "warm"));
-    sandbox.server.enqueue(GetParam().answer);
-    const platform::URLSession session(sandbox.configuration);
-    // The connection of the GET before stays open, so there is one that the POST could have reused.
-    session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
-    ASSERT_EQ(calls.wait().data, "warm");
-
-    session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
-    const auto& outcome = calls.wait(1);
-    ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->code, GetParam().code) << outcome.error->message;
-    EXPECT_NE(outcome.error->message, "");
-    EXPECT_FALSE(outcome.data);
-    EXPECT_FALSE(outcome.response);
-    EXPECT_EQ(sandbox.server.requests().size(), 2u);
-    EXPECT_EQ(sandbox.server.connections(), 2u);
+// There is a kept connection, which the POST could have used.
+TEST_P(SessionFault, EndsThePostWithAnErrorAloneInLittleMemory) {
+    const auto& fault = GetParam();
+    const platform::URLSession session(configuration);
+    warmUp(session);
+    Answer answer{{fault.answer + repeated(fault.times, fault.repeated)}, fault.ending};
+    const testing::PeakMemory peak;
+    expectRefusal(session, std::move(answer), fault.code);
+    // A large body's room replaces the half mebibyte or less that it had so far.
+    EXPECT_LT(peak.bytes(), limit + (std::size_t{1} << 20));
+    RecordProperty("KiB", static_cast<int>(peak.bytes() >> 10));
+    warmUp(session);
 }
 
 INSTANTIATE_TEST_SUITE_P(, SessionFault, ::testing::ValuesIn(faults),
                          [](const auto& parameter) { return parameter.param.name; });
 
-TEST(Session, TakesABodyUpToTheLimitPackedOrNot) {
-    const auto half = packed.size() / 2;
-    for (const auto& answer :
-         {Answer::complete(200, packed, "Content-Encoding: GZIP\r\n"),
-          Answer{{ok + "Content-Encoding: gzip\r\n\r\n" + packed.substr(0, half), packed.substr(half)},
-                 Answer::Ending::close},
-          Answer::complete(200, std::string(unpackedSize, 'a'))}) {
-        testing::SandboxedSession sandbox;
-        testing::CallRecorder calls;
-        sandbox.configuration.maximumBodyBytes = unpackedSize;
-        sandbox.server.enqueue(answer);
-        const platform::URLSession session(sandbox.configuration);
-        session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
-        EXPECT_EQ(calls.wait().data, std::string(unpackedSize, 'a'));
-        EXPECT_NE(sandbox.server.requests()[0].find("Accept-Encoding: "), std::string::npos);
-    }
-}
-
-TEST(Session, TakesSixteenMebibytesUnlessToldOtherwise) {
-    testing::SandboxedSession sandbox;
-    testing::CallRecorder calls;
-    const platform::URLSession session(sandbox.configuration);
-    const std::size_t limit = 16'777'216;
-    for (const std::size_t size : {limit, limit + 1}) {
-        sandbox.server.enqueue(Answer::complete(200, std::string(size, ' ')));
-        session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
-        const auto& outcome = calls.wait(size - limit);
-        EXPECT_EQ(outcome.data.has_value(), size == limit);
-        EXPECT_EQ(outcome.data.value_or("").size(), size == limit ? limit : 0);
-        EXPECT_EQ(outcome.error.value_or(platform::URLError{}).code,
-                  size == limit ? unknown : dataLengthExceedsMaximum);
-    }
-}
-
-TEST(Session, SendsAPostAndAPatchOnAConnectionOfTheirOwn) {
-    for (const std::string method : {"POST", "PATCH"}) {
-        testing::SandboxedSession sandbox;
-        testing::CallRecorder calls;
-        const platform::URLSession session(sandbox.configuration);
-        for (std::size_t call = 0; call < 3; ++call) {
-            // The third connection ends after the request was read, like a kept one that the server closes.
-            sandbox.server.enqueue(call < 2 ? Answer::complete(200, "{}") : Answer{{}, Answer::Ending::cut});
-            session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = method}, calls.completion())
-                .resume();
-            EXPECT_EQ(calls.wait(call).error.has_value(), call == 2);
+TEST_F(SessionFaults, OfALostConnectionLetNothingButAGetBeSentAgain) {
+    using enum Answer::Ending;
+    const platform::URLSession session(configuration);
+    for (const std::string method : {"POST", "PATCH", "PUT", "DELETE", "OPTIONS"}) {
+        for (const auto ending : {close, cut, reset}) {
+            SCOPED_TRACE(method);
+            // Neither the connection of a GET is taken nor that of another of its kind.
+            warmUp(session);
+            const auto connections = server.connections();
+            EXPECT_EQ(exchange(session, Answer::complete(200, "{}"), method).data, "{}");
+            expectRefusal(session, {{}, ending}, networkConnectionLost, method);
+            EXPECT_EQ(server.connections(), connections + 2);
         }
-        EXPECT_EQ(sandbox.server.requests().size(), 3u);
-        EXPECT_EQ(sandbox.server.connections(), 3u);
     }
+}
+
+TEST_F(SessionFaults, OfThePackingAreFoundWhereverTheyAre) {
+    const platform::URLSession session(configuration);
+    for (std::size_t bytes = 1; bytes < packed.size(); ++bytes) {
+        expectRefusal(session, Answer::complete(200, packed.substr(0, bytes), gzip), cannotDecodeContentData);
+        expectRefusal(session, Answer::complete(200, packed + packed.substr(0, bytes), gzip),
+                      cannotDecodeContentData);
+    }
+    // The last eight bytes are the checksum and the length.
+    for (std::size_t last = 1; last <= 8; ++last) {
+        auto damaged = packed;
+        damaged[packed.size() - last] ^= 1;
+        expectRefusal(session, Answer::complete(200, damaged, gzip), cannotDecodeContentData);
+    }
+}
+
+TEST_F(SessionFaults, AreNotSeenInAnUnusualAnswer) {
+    const std::string chunked =
+        ok + "Transfer-Encoding: chunked\r\n\r\n2;part=1\r\n{}\r\n0\r\nX-Trailer: x\r\n\r\n";
+    const struct {
+        Answer answer;
+        std::string body;
+        std::int64_t status = 200;
+    } cases[] = {
+        {Answer::complete(200, "{}", repeated(3'900, header)), "{}"},
+        {Answer::complete(200, std::string(limit, ' ')), std::string(limit, ' ')},
+        {Answer::complete(200, packed, "Content-Encoding: GZIP\r\n"), unpacked},
+        {Answer::complete(200, packed + packed, "Content-Encoding: x-gzip\r\n"), unpacked + unpacked},
+        {Answer::complete(200, packed + packed, gzip).sliced(1), unpacked + unpacked},
+        {Answer::complete(200, "{}").sliced(1), "{}"},
+        {Answer{{chunked}}.sliced(1), "{}"},
+        // An interim answer is none.
+        {Answer{{"HTTP/1.1 103 Early Hints\r\nLink: x\r\n\r\nHTTP/1.1 204 No Content\r\n\r\n"}}.sliced(1), "",
+         204},
+        {Answer{{ok + gzip + "\r\n" + packed}, Answer::Ending::close}.sliced(1), unpacked},
+    };
+    const platform::URLSession session(configuration);
+    for (const auto& [answer, body, status] : cases) {
+        const auto& outcome = exchange(session, answer);
+        EXPECT_TRUE(outcome.data == body) << answer.pieces[0].substr(0, 99);
+        EXPECT_EQ(outcome.response, platform::HTTPURLResponse{status});
+    }
+    EXPECT_EQ(server.connections(), 1u);
+}
+
+TEST_F(SessionFaults, OfRedirectsAreTheCallersMatter) {
+    testing::FaultServer other(authority.serverContext("other.test"));
+    configuration.hostMappings.push_back(
+        {.host = "other.test", .address = "127.0.0.1", .port = other.port()});
+    const platform::URLSession session(configuration);
+    for (const int status : {301, 302, 303, 307, 308}) {
+        for (const std::string place :
+             {"https://gateway.test/there", "https://other.test/", "http://gateway.test/", "/there"}) {
+            for (const auto& method : {std::optional<std::string>(), std::optional<std::string>("POST")}) {
+                SCOPED_TRACE(std::to_string(status) + place + method.value_or(""));
+                const auto answer = Answer::complete(status, "moved", "Location: " + place + "\r\n");
+                const auto& outcome = exchange(session, answer, method);
+                EXPECT_EQ(outcome.data, "moved");
+                EXPECT_EQ(outcome.response, platform::HTTPURLResponse{status});
+                EXPECT_EQ(server.requests().size(), calls.count());
+                EXPECT_TRUE(server.requests().back().starts_with(method.value_or("GET") + " / "));
+            }
+        }
+    }
+    EXPECT_EQ(other.connections(), 0u);
+}
+
+// A thread that a long head keeps busy is not the other session's.
+TEST_F(SessionFaults, OfOneSessionDoNotHoldUpAnother) {
+    const auto gate = std::make_shared<std::latch>(1);
+    const platform::URLSession busy(configuration);
+    const platform::URLSession other(configuration);
+    server.enqueue({{ok + repeated(3'000, header), repeated(100'000, header)}, open, gate});
+    busy.dataTask({.url = {testing::gatewayHost, "/busy"}}, calls.completion()).resume();
+    ASSERT_TRUE(server.waitForRequests(1));
+    warmUp(other);
+    warmUp(busy);
+    gate->count_down();
+    EXPECT_EQ(calls.wait(2).error.value().code, dataLengthExceedsMaximum);
 }
 
 } // namespace quillet

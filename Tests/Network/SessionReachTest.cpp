@@ -5,6 +5,7 @@
 #include "Support/SilentPort.hpp"
 
 #include <gtest/gtest.h>
+#include <openssl/conf.h>
 #include <openssl/opensslv.h>
 
 #include <atomic>
@@ -14,16 +15,9 @@ namespace quillet {
 
 namespace {
 
+using namespace std::chrono_literals;
+using namespace std::string_literals;
 using enum platform::URLError::Code;
-
-class BeginningsCounter final : public platform::URLSessionObserving {
-public:
-    void willSend(std::uint64_t, const platform::URLRequest&) override { ++beginnings; }
-    void didEnd(std::uint64_t, const platform::URLRequest&, const platform::URLSessionExchangeEnd&) override {
-    }
-
-    std::atomic<int> beginnings = 0;
-};
 
 struct SessionReach : ::testing::Test {
     // Ignores the proxy settings of the machine.
@@ -35,10 +29,10 @@ struct SessionReach : ::testing::Test {
     }
 };
 
-platform::URLError::Code errorOf(const platform::URLSessionConfiguration& configuration,
+// The code of a POST's error; none has the value 0.
+platform::URLError::Code errorOf(const platform::URLSession& session,
                                  const std::string& host = testing::gatewayHost) {
     testing::CallRecorder calls;
-    const platform::URLSession session(configuration);
     session.dataTask({.url = {host, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
     const auto& outcome = calls.wait();
     return outcome.error.value_or(platform::URLError{platform::URLError::Code{}, ""}).code;
@@ -53,34 +47,31 @@ constexpr std::uint16_t closedPort = 1;
 
 TEST_F(SessionReach, AsksForANetworkOnlyWhereTheHostIsNotReached) {
     testing::SandboxedSession sandbox;
-    const auto path = std::make_shared<testing::FakeNetworkPath>(false);
-    sandbox.configuration.networkPath = path;
-    sandbox.server.enqueue(testing::Answer::complete(200, "{}"));
-    EXPECT_EQ(errorOf(sandbox.configuration), platform::URLError::Code{});
-    EXPECT_EQ(path->asked.count(), 0u);
-
-    sandbox.configuration.hostMappings[0].port = closedPort;
-    EXPECT_EQ(errorOf(sandbox.configuration), notConnectedToInternet);
-    EXPECT_EQ(path->asked.wait(), "gateway.test mapped");
-    EXPECT_NE(path->asked.threadOf(), std::this_thread::get_id());
-    EXPECT_EQ(errorOf(sandbox.configuration, noName), notConnectedToInternet);
-    EXPECT_EQ(path->asked.wait(1), noName);
-}
-
-TEST_F(SessionReach, TellsAHostThatIsNotReachedFromNoNetwork) {
-    testing::SandboxedSession sandbox;
+    const auto outcome = [&](const testing::FakeNetworkPath::Answer& answer, const std::string& host) {
+        const auto path = std::make_shared<testing::FakeNetworkPath>(answer);
+        sandbox.configuration.networkPath = path;
+        const auto code = errorOf(platform::URLSession(sandbox.configuration), host);
+        EXPECT_TRUE(path->asked.count() == 0 || path->asked.threadOf() != std::this_thread::get_id());
+        return std::pair(code, path->asked.count() == 0 ? "nobody" : path->asked.wait());
+    };
+    const auto none = [](auto&&...) { return false; };
+    const auto there = [](auto&&...) { return true; };
+    const auto failing = [](auto&&...) -> bool { throw std::bad_alloc(); };
     auto& mapping = sandbox.configuration.hostMappings[0];
+    sandbox.server.enqueue(testing::Answer::complete(200, "{}"));
+    EXPECT_EQ(outcome(none, testing::gatewayHost), std::pair(platform::URLError::Code{}, "nobody"s));
     mapping.port = closedPort;
-    EXPECT_EQ(errorOf(sandbox.configuration), cannotConnectToHost);
-    mapping.address = noName;
-    EXPECT_EQ(errorOf(sandbox.configuration), cannotFindHost);
+    EXPECT_EQ(outcome(none, testing::gatewayHost), std::pair(notConnectedToInternet, "gateway.test mapped"s));
+    EXPECT_EQ(outcome(there, testing::gatewayHost), std::pair(cannotConnectToHost, "gateway.test mapped"s));
+    EXPECT_EQ(outcome(none, noName), std::pair(notConnectedToInternet, noName));
     // The system reports a TCP connection to the broadcast address as an unreachable network.
-    sandbox.configuration.networkPath = std::make_shared<testing::FakeNetworkPath>(true);
-    EXPECT_EQ(errorOf(sandbox.configuration, "255.255.255.255"), cannotConnectToHost);
+    EXPECT_EQ(outcome(there, "255.255.255.255"), std::pair(cannotConnectToHost, "255.255.255.255"s));
     // A failing monitor does not mean that there is no network.
-    sandbox.configuration.networkPath = std::make_shared<testing::FakeNetworkPath>(
-        [](const std::string&, bool) -> bool { throw std::bad_alloc(); });
-    EXPECT_EQ(errorOf(sandbox.configuration, noName), cannotFindHost);
+    EXPECT_EQ(outcome(failing, noName), std::pair(cannotFindHost, noName));
+    // To the system's monitor a mapped host needs no network.
+    sandbox.configuration.networkPath = nullptr;
+    mapping.address = noName;
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration)), cannotFindHost);
 }
 
 // The first attempts get no reply; then a server takes over the port.
@@ -106,7 +97,7 @@ TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
     // The session must not free this last: its detached thread could do so while OpenSSL's exit handlers run.
     ServerFoundLate late;
     const auto clock = std::make_shared<testing::ManualClock>();
-    const auto observer = std::make_shared<BeginningsCounter>();
+    const auto observer = std::make_shared<testing::TrafficLog>();
     testing::CallRecorder calls;
     const platform::URLSession session(
         {.caBundleFile = late.authority.bundleFile(),
@@ -120,21 +111,8 @@ TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
     EXPECT_EQ(calls.wait().data, "{}");
     EXPECT_EQ(late.failures, 2);
     EXPECT_EQ(late.server->requests().size(), 1u);
-    EXPECT_EQ(observer->beginnings, 1);
-
-    const testing::SilentPort dead(testing::SilentPort::Kind::dropping);
-    const auto stillThere = std::make_shared<testing::FakeNetworkPath>(true);
-    const platform::URLSession other(
-        {.caBundleFile = late.authority.bundleFile(),
-         .hostMappings = {{.host = testing::gatewayHost, .address = "127.0.0.1", .port = dead.port()}},
-         .networkPath = stillThere,
-         .clock = clock,
-         .connectTimeout = std::chrono::milliseconds(20)});
-    other.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
-    static_cast<void>(stillThere->asked.wait(2));
-    EXPECT_EQ(calls.count(), 1u);
-    clock->advance(std::chrono::seconds(60));
-    EXPECT_EQ(calls.wait(1).error->code, timedOut);
+    EXPECT_EQ(observer->lines(),
+              (std::vector<std::string>{"0 POST https://gateway.test/", "0 ended 200 0 0"}));
 }
 
 // One call is connected and gets no answer; the other, on the same thread, fails to connect five times.
@@ -158,23 +136,14 @@ TEST_F(SessionReach, KeepsAConnectionThatIsSlowToSpeak) {
     EXPECT_EQ(calls.count(), 0u);
 }
 
-TEST_F(SessionReach, TrustsOnlyACertificateOfTheAuthorityForTheHost) {
+TEST_F(SessionReach, TrustsTheAuthoritiesOfTheFileAloneOrElseTheSystems) {
     testing::SandboxedSession sandbox;
-    const testing::TestAuthority stranger;
-    const auto real = sandbox.configuration;
-
-    // The tests' authorities all have the same name, so only the signature tells them apart.
-    sandbox.configuration.caBundleFile = stranger.bundleFile();
-    EXPECT_EQ(errorOf(sandbox.configuration), serverCertificateUntrusted);
-    // Without a configured file the system's authorities are used, whatever the environment says.
-    setenv("SSL_CERT_FILE", real.caBundleFile.c_str(), 1);
+    // The environment does not count.
+    setenv("SSL_CERT_FILE", sandbox.configuration.caBundleFile.c_str(), 1);
     sandbox.configuration.caBundleFile.clear();
-    EXPECT_EQ(errorOf(sandbox.configuration), serverCertificateUntrusted);
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration)), serverCertificateUntrusted);
     sandbox.configuration.caBundleFile = "/nowhere/authorities.pem";
-    EXPECT_EQ(errorOf(sandbox.configuration), cannotOpenFile);
-    sandbox.configuration = real;
-    sandbox.configuration.hostMappings[0].host = "other.test";
-    EXPECT_EQ(errorOf(sandbox.configuration, "other.test"), serverCertificateUntrusted);
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration)), cannotOpenFile);
     EXPECT_EQ(sandbox.server.requests().size(), 0u);
 }
 
@@ -188,7 +157,7 @@ TEST_F(SessionReach, ReachesAMappedHostPastTheProxyOfTheEnvironment) {
     const platform::URLSession session(sandbox.configuration);
     session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
     EXPECT_EQ(calls.wait().data, "{}");
-    EXPECT_EQ(errorOf(sandbox.configuration, "unmapped.test"), cannotConnectToHost);
+    EXPECT_EQ(errorOf(platform::URLSession(sandbox.configuration), "unmapped.test"), cannotConnectToHost);
     unsetenv("https_proxy");
 }
 
@@ -202,6 +171,82 @@ TEST_F(SessionReach, RefusesAMethodThatIsNone) {
         .resume();
     EXPECT_TRUE(calls.wait().error);
 }
+
+/// A server's part in a handshake.
+struct Handshake {
+    const char* name;
+    std::function<testing::ContextPointer(const testing::TestAuthority&)> context;
+    platform::URLError::Code code;
+
+    friend void PrintTo(const Handshake& handshake, std::ostream* stream) { *stream << handshake.name; }
+};
+
+testing::ContextPointer speakingOnly(int version, testing::ContextPointer context) {
+    SSL_CTX_set_security_level(context.get(), 0);
+    SSL_CTX_set_cipher_list(context.get(), "ALL");
+    SSL_CTX_set_min_proto_version(context.get(), version);
+    SSL_CTX_set_max_proto_version(context.get(), version);
+    return context;
+}
+
+// Lets OpenSSL's clients speak all that they can, so that not the machine's settings decide but the module.
+void allowOldTls() {
+    const std::string_view settings =
+        "openssl_conf = all\n[all]\nssl_conf = uses\n[uses]\nsystem_default = old\n"
+        "[old]\nMinProtocol = TLSv1\nCipherString = ALL:@SECLEVEL=0\n";
+    BIO* const text = BIO_new_mem_buf(settings.data(), static_cast<int>(settings.size()));
+    CONF* const read = NCONF_new(nullptr);
+    EXPECT_EQ(NCONF_load_bio(read, text, nullptr), 1);
+    EXPECT_EQ(CONF_modules_load(read, nullptr, 0), 1);
+    NCONF_free(read);
+    BIO_free(text);
+}
+
+const Handshake handshakes[] = {
+    {"SelfSigned", [](auto&) { return testing::TestAuthority::selfSignedContext(testing::gatewayHost); },
+     serverCertificateUntrusted},
+    // All authorities of the tests have the same name, so that only the signature tells them apart.
+    {"OtherAuthority", [](auto&) { return testing::TestAuthority().serverContext(testing::gatewayHost); },
+     serverCertificateUntrusted},
+    {"OtherHost", [](auto& authority) { return authority.serverContext("other.test"); },
+     serverCertificateUntrusted},
+    {"Expired", [](auto& authority) { return authority.serverContext(testing::gatewayHost, -2h, -1h); },
+     serverCertificateUntrusted},
+    {"NotYetValid", [](auto& authority) { return authority.serverContext(testing::gatewayHost, 1h, 2h); },
+     serverCertificateUntrusted},
+    {"OldTls",
+     [](auto& authority) {
+         allowOldTls();
+         return speakingOnly(TLS1_1_VERSION, authority.serverContext(testing::gatewayHost));
+     },
+     secureConnectionFailed},
+    {"OlderTlsThatStillServes",
+     [](auto& authority) {
+         return speakingOnly(TLS1_2_VERSION, authority.serverContext(testing::gatewayHost));
+     },
+     {}},
+    {"HangsUp", [](auto&) { return testing::ContextPointer(nullptr, &SSL_CTX_free); },
+     secureConnectionFailed},
+};
+
+struct SessionHandshake : ::testing::TestWithParam<Handshake>, testing::SandboxedSession {};
+
+TEST_P(SessionHandshake, LetsNoByteOfTheRequestOutUnlessItIsSound) {
+    const platform::URLSession session(configuration);
+    server.setContext(GetParam().context(authority));
+    server.enqueue(testing::Answer::complete(200, "{}"));
+    const bool isSound = GetParam().code == platform::URLError::Code{};
+    EXPECT_EQ(errorOf(session), GetParam().code);
+    EXPECT_EQ(server.requests().size(), isSound ? 1u : 0u);
+    EXPECT_EQ(server.connections(), 1u);
+
+    server.setContext(authority.serverContext(testing::gatewayHost));
+    server.enqueue(testing::Answer::complete(200, "{}"));
+    EXPECT_EQ(errorOf(session), platform::URLError::Code{});
+}
+
+INSTANTIATE_TEST_SUITE_P(, SessionHandshake, ::testing::ValuesIn(handshakes),
+                         [](const auto& parameter) { return parameter.param.name; });
 
 TEST(CurlLibrary, NeedsTheTlsLibraryThatTheModuleWasBuiltWith) {
     const std::string own = "OpenSSL/" + std::to_string(OPENSSL_VERSION_MAJOR) + ".";

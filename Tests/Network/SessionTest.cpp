@@ -22,23 +22,6 @@ struct SessionTest : ::testing::Test, testing::SandboxedSession {
     }
 };
 
-class TrafficLog final : public platform::URLSessionObserving {
-public:
-    void willSend(std::uint64_t exchange, const platform::URLRequest& request) override {
-        log.record(std::to_string(exchange - first) + " " + request.httpMethod.value_or("") + " " +
-                   request.url.absoluteString());
-    }
-    void didEnd(std::uint64_t exchange, const platform::URLRequest&,
-                const platform::URLSessionExchangeEnd& end) override {
-        const auto code = end.errorCode ? static_cast<std::int64_t>(*end.errorCode) : 0;
-        log.record(std::to_string(exchange - first) + " ended " + std::to_string(end.statusCode) + " " +
-                   std::to_string(code) + " " + std::to_string(end.duration.count()));
-    }
-
-    std::uint64_t first = 1;
-    testing::Recorder<std::string> log;
-};
-
 } // namespace
 
 TEST_F(SessionTest, DeliversOffTheCallersThread) {
@@ -47,25 +30,6 @@ TEST_F(SessionTest, DeliversOffTheCallersThread) {
     task(session).resume();
     EXPECT_EQ(calls.wait().response->statusCode, 200);
     EXPECT_NE(calls.threadOf(), std::this_thread::get_id());
-}
-
-TEST_F(SessionTest, DeliversARedirectAsItCame) {
-    server.enqueue(Answer::complete(302, "moved", "Location: https://gateway.test/other\r\n"));
-    const platform::URLSession session(configuration);
-    task(session).resume();
-    const auto& outcome = calls.wait();
-    EXPECT_EQ(outcome.data, "moved");
-    EXPECT_EQ(outcome.response, platform::HTTPURLResponse{302});
-    EXPECT_EQ(server.requests().size(), 1u);
-}
-
-TEST_F(SessionTest, DeliversAnAnswerWithoutABodyAsAnEmptyBody) {
-    // An interim (1xx) response is not an answer.
-    server.enqueue({{"HTTP/1.1 103 Early Hints\r\nLink: x\r\n\r\nHTTP/1.1 204 No Content\r\n\r\n"}});
-    const platform::URLSession session(configuration);
-    task(session).resume();
-    EXPECT_EQ(calls.wait().data, "");
-    EXPECT_EQ(calls.wait().response, (platform::HTTPURLResponse{204}));
 }
 
 TEST_F(SessionTest, StartsOnceHoweverOftenItIsResumedAndNeverByItself) {
@@ -125,54 +89,20 @@ TEST_F(SessionTest, LetsACompletionFreeTheSessionAndStartAnotherCall) {
     EXPECT_EQ(calls.wait().data, "second");
 }
 
-TEST_F(SessionTest, GivesTheWholeCallItsTimeWhateverComesMeanwhile) {
-    const auto gate = std::make_shared<std::latch>(1);
-    server.enqueue(
-        {{"HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n", "drip"}, Answer::Ending::keepOpen, gate});
-    const platform::URLSession session(configuration);
-    task(session, "POST").resume();
-    ASSERT_TRUE(server.waitForRequests(1));
-    clock->advance(59'999ms);
-    gate->count_down();
-    clock->settle();
-    EXPECT_EQ(calls.count(), 0u);
-    clock->advance(1ms);
-    EXPECT_EQ(calls.wait().error->code, platform::URLError::Code::timedOut);
-    EXPECT_FALSE(calls.wait().response);
-    EXPECT_EQ(server.requests().size(), 1u);
-}
-
-TEST_F(SessionTest, KeepsEachCallsOwnTime) {
-    const platform::URLSession session(configuration);
-    session.dataTask({.url = {testing::gatewayHost, "/"}, .timeoutInterval = 10s}, calls.completion())
-        .resume();
-    task(session).resume();
-    ASSERT_TRUE(server.waitForRequests(2));
-    clock->advance(10s);
-    EXPECT_EQ(calls.wait().error->code, platform::URLError::Code::timedOut);
-    clock->advance(49'999ms);
-    clock->settle();
-    EXPECT_EQ(calls.count(), 1u);
-    clock->advance(1ms);
-    EXPECT_EQ(calls.wait(1).error->code, platform::URLError::Code::timedOut);
-}
-
 TEST_F(SessionTest, TellsItsObserverBeforeTheCompletion) {
-    const auto observer = std::make_shared<TrafficLog>();
+    const auto observer = std::make_shared<testing::TrafficLog>();
     configuration.observer = observer;
     server.enqueue(Answer::complete(404, ""));
     const platform::URLSession session(configuration);
     task(session).resume();
     EXPECT_EQ(calls.wait().data, "");
-    ASSERT_EQ(observer->log.count(), 2u);
-    const auto number = std::stoull(observer->log.wait(0));
-    EXPECT_EQ(observer->log.wait(0), std::to_string(number) + " GET https://gateway.test/");
-    EXPECT_EQ(observer->log.wait(1), std::to_string(number) + " ended 404 0 0");
     task(session).resume();
     ASSERT_TRUE(server.waitForRequests(2));
     clock->advance(60s);
     EXPECT_TRUE(calls.wait(1).error);
-    EXPECT_EQ(observer->log.wait(3), std::to_string(number + 1) + " ended 0 -1001 60000");
+    EXPECT_EQ(observer->lines(),
+              (std::vector<std::string>{"0 GET https://gateway.test/", "0 ended 404 0 0",
+                                        "1 GET https://gateway.test/", "1 ended 0 -1001 60000"}));
 }
 
 // ThreadSanitizer finds the data races of this test.

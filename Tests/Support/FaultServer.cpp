@@ -16,15 +16,15 @@ namespace quillet::testing {
 
 namespace {
 
-// One request: a head, and a body of the length given there. Nothing when the connection has ended.
-std::optional<std::string> readRequest(SSL* tls) {
+// A head, and a body of the length given there. Only a part, or nothing, when the connection has ended.
+std::string readRequest(SSL* tls) {
     std::string request;
     std::size_t whole = std::string::npos;
     while (request.size() < whole) {
         std::array<char, 4096> buffer{};
         const int count = SSL_read(tls, buffer.data(), buffer.size());
         if (count <= 0) {
-            return std::nullopt;
+            break;
         }
         request.append(buffer.data(), static_cast<std::size_t>(count));
         const auto head = request.find("\r\n\r\n");
@@ -37,19 +37,25 @@ std::optional<std::string> readRequest(SSL* tls) {
 }
 
 // The client waits for the answer before it sends more, so no byte of TLS is lost here.
-void giveTunnel(int socket) {
+bool giveTunnel(int socket, int status) {
     std::string request;
     std::array<char, 4096> buffer{};
     while (!request.ends_with("\r\n\r\n")) {
         const auto count = read(socket, buffer.data(), buffer.size());
         if (count <= 0) {
-            return;
+            return false;
         }
         request.append(buffer.data(), static_cast<std::size_t>(count));
     }
-    const std::string_view answer =
-        request.starts_with("CONNECT ") ? "HTTP/1.1 200 Here it is\r\n\r\n" : "HTTP/1.1 400 No\r\n\r\n";
-    static_cast<void>(send(socket, answer.data(), answer.size(), MSG_NOSIGNAL));
+    const std::string answer =
+        "HTTP/1.1 " + std::to_string(request.starts_with("CONNECT ") ? status : 400) + " Whatever\r\n\r\n";
+    return send(socket, answer.data(), answer.size(), MSG_NOSIGNAL) > 0 && status == 200;
+}
+
+// Disconnecting a connected socket makes the system send a reset.
+void reset(int socket) {
+    const sockaddr none{.sa_family = AF_UNSPEC, .sa_data = {}};
+    connect(socket, &none, sizeof none);
 }
 
 } // namespace
@@ -57,6 +63,16 @@ void giveTunnel(int socket) {
 Answer Answer::complete(int status, const std::string& body, const std::string& headers) {
     return {{"HTTP/1.1 " + std::to_string(status) + " Whatever\r\nContent-Length: " +
              std::to_string(body.size()) + "\r\n" + headers + "\r\n" + body}};
+}
+
+Answer Answer::sliced(std::size_t size) const {
+    Answer answer{{}, ending, gate, pace};
+    for (const auto& piece : pieces) {
+        for (std::size_t start = 0; start < piece.size(); start += size) {
+            answer.pieces.push_back(piece.substr(start, size));
+        }
+    }
+    return answer;
 }
 
 FaultServer::FaultServer(ContextPointer context, ServerPlace place)
@@ -100,6 +116,11 @@ void FaultServer::enqueue(Answer answer) {
     script_.push_back(std::move(answer));
 }
 
+void FaultServer::setContext(ContextPointer context) {
+    const std::lock_guard lock(mutex_);
+    context_ = std::move(context);
+}
+
 std::vector<std::string> FaultServer::requests() {
     const std::lock_guard lock(mutex_);
     return requests_;
@@ -139,27 +160,32 @@ void FaultServer::acceptConnections() {
 }
 
 void FaultServer::serve(int socket) {
-    if (place_.isProxy) {
-        giveTunnel(socket);
-    }
-    const std::unique_ptr<SSL, decltype(&SSL_free)> tls(SSL_new(context_.get()), &SSL_free);
-    SSL_set_fd(tls.get(), socket);
-    if (SSL_accept(tls.get()) == 1) {
-        while (answerOneRequest(tls.get())) {
+    if (!place_.isProxy || giveTunnel(socket, place_.proxyStatus)) {
+        std::unique_lock lock(mutex_);
+        const auto context = context_;
+        lock.unlock();
+        const std::unique_ptr<SSL, decltype(&SSL_free)> tls(context ? SSL_new(context.get()) : nullptr,
+                                                            &SSL_free);
+        if (!tls) {
+            std::array<char, 4096> hello{};
+            static_cast<void>(read(socket, hello.data(), hello.size()));
+        } else if (SSL_set_fd(tls.get(), socket) == 1 && SSL_accept(tls.get()) == 1) {
+            while (answerOneRequest(tls.get(), socket)) {
+            }
         }
     }
     shutdown(socket, SHUT_RDWR);
 }
 
-bool FaultServer::answerOneRequest(SSL* tls) {
-    auto request = readRequest(tls);
-    if (!request) {
+bool FaultServer::answerOneRequest(SSL* tls, int socket) {
+    const auto request = readRequest(tls);
+    if (request.empty()) {
         return false;
     }
     std::optional<Answer> answer;
     {
         const std::lock_guard lock(mutex_);
-        requests_.push_back(*std::move(request));
+        requests_.push_back(request);
         if (!script_.empty()) {
             answer = std::move(script_.front());
             script_.pop_front();
@@ -168,18 +194,24 @@ bool FaultServer::answerOneRequest(SSL* tls) {
     }
     if (!answer) {
         // Silence, until the client goes away.
-        return static_cast<bool>(readRequest(tls));
+        return !readRequest(tls).empty();
     }
     for (bool first = true; const auto& piece : answer->pieces) {
-        if (!std::exchange(first, false) && answer->gate) {
+        const bool isLater = !std::exchange(first, false);
+        if (isLater && answer->gate) {
             answer->gate->wait();
         }
-        if (SSL_write(tls, piece.data(), static_cast<int>(piece.size())) <= 0) {
+        if (isLater && answer->pace) {
+            answer->pace();
+        }
+        if (!piece.empty() && SSL_write(tls, piece.data(), static_cast<int>(piece.size())) <= 0) {
             return false;
         }
     }
     if (answer->ending == Answer::Ending::close) {
         SSL_shutdown(tls);
+    } else if (answer->ending == Answer::Ending::reset) {
+        reset(socket);
     }
     return answer->ending == Answer::Ending::keepOpen;
 }

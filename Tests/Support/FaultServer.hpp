@@ -25,15 +25,21 @@ struct Answer {
         close,
         /// TCP is closed without close_notify, like a cut line.
         cut,
+        /// TCP is reset.
+        reset,
     };
 
-    /// Sent unchanged in these pieces; before each piece but the first the server waits for `gate`.
+    /// Sent unchanged in these pieces; before each piece but the first the server waits for `gate`, and calls
+    /// `pace`.
     std::vector<std::string> pieces;
     Ending ending = Ending::keepOpen;
     std::shared_ptr<std::latch> gate = nullptr;
+    std::function<void()> pace = {};
 
     /// A complete answer with a content length.
     static Answer complete(int status, const std::string& body, const std::string& headers = "");
+    /// The same bytes in pieces of `size` bytes.
+    [[nodiscard]] Answer sliced(std::size_t size) const;
 };
 
 /// How a server is reached.
@@ -42,6 +48,8 @@ struct ServerPlace {
     std::uint16_t port = 0;
     /// A proxy: the client asks for a tunnel first, which leads to this server whatever its target.
     bool isProxy = false;
+    /// What the proxy answers to that; with another status than 200 it gives no tunnel.
+    int proxyStatus = 200;
     /// Called first on each of the server's threads, if given.
     std::function<void()> onThread = {};
 };
@@ -50,13 +58,16 @@ struct ServerPlace {
 /// request. A request beyond the script is never answered.
 class FaultServer {
 public:
+    /// Without a context it hangs up in the middle of each handshake.
     explicit FaultServer(ContextPointer context, ServerPlace place = {});
     ~FaultServer();
 
     [[nodiscard]] std::uint16_t port() const { return port_; }
     void enqueue(Answer answer);
+    /// For the connections from now on.
+    void setContext(ContextPointer context);
 
-    /// The requests received so far, each with its head and body unchanged.
+    /// The requests received so far, each with its head and body unchanged, also those that broke off.
     [[nodiscard]] std::vector<std::string> requests();
     [[nodiscard]] std::size_t connections();
     /// False if they do not come in time.
@@ -66,9 +77,9 @@ private:
     [[nodiscard]] std::thread newThread(std::function<void()> work) const;
     void acceptConnections();
     void serve(int socket);
-    [[nodiscard]] bool answerOneRequest(SSL* tls);
+    [[nodiscard]] bool answerOneRequest(SSL* tls, int socket);
 
-    ContextPointer context_;
+    std::shared_ptr<SSL_CTX> context_;
     const ServerPlace place_;
     int listener_ = -1;
     std::uint16_t port_ = 0;

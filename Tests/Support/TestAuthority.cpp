@@ -23,12 +23,14 @@ KeyPointer makeKey() {
 }
 
 CertificatePointer makeCertificate(EVP_PKEY* key, const std::string& name, const std::string& extension,
-                                   int nid, X509* issuer, EVP_PKEY* issuerKey) {
+                                   int nid, X509* issuer, EVP_PKEY* issuerKey,
+                                   std::chrono::seconds from = -std::chrono::hours(1),
+                                   std::chrono::seconds until = std::chrono::hours(1)) {
     CertificatePointer certificate(X509_new(), &X509_free);
     X509_set_version(certificate.get(), 2);
     ASN1_INTEGER_set(X509_get_serialNumber(certificate.get()), nextNumber());
-    X509_gmtime_adj(X509_getm_notBefore(certificate.get()), -3600);
-    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), 3600);
+    X509_gmtime_adj(X509_getm_notBefore(certificate.get()), static_cast<long>(from.count()));
+    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), static_cast<long>(until.count()));
     X509_set_pubkey(certificate.get(), key);
     X509_NAME_add_entry_by_txt(X509_get_subject_name(certificate.get()), "CN", MBSTRING_ASC,
                                reinterpret_cast<const unsigned char*>(name.c_str()), -1, -1, 0);
@@ -38,6 +40,13 @@ CertificatePointer makeCertificate(EVP_PKEY* key, const std::string& name, const
     X509_EXTENSION_free(value);
     X509_sign(certificate.get(), issuerKey, EVP_sha256());
     return certificate;
+}
+
+ContextPointer makeContext(EVP_PKEY* key, X509* certificate) {
+    ContextPointer context(SSL_CTX_new(TLS_server_method()), &SSL_CTX_free);
+    SSL_CTX_use_certificate(context.get(), certificate);
+    SSL_CTX_use_PrivateKey(context.get(), key);
+    return context;
 }
 
 } // namespace
@@ -56,14 +65,19 @@ TestAuthority::~TestAuthority() {
     std::remove(bundleFile_.c_str());
 }
 
-ContextPointer TestAuthority::serverContext(const std::string& host) const {
+ContextPointer TestAuthority::serverContext(const std::string& host, std::chrono::seconds from,
+                                            std::chrono::seconds until) const {
+    const auto key = makeKey();
+    const auto certificate = makeCertificate(key.get(), host, "DNS:" + host, NID_subject_alt_name,
+                                             certificate_.get(), key_.get(), from, until);
+    return makeContext(key.get(), certificate.get());
+}
+
+ContextPointer TestAuthority::selfSignedContext(const std::string& host) {
     const auto key = makeKey();
     const auto certificate =
-        makeCertificate(key.get(), host, "DNS:" + host, NID_subject_alt_name, certificate_.get(), key_.get());
-    ContextPointer context(SSL_CTX_new(TLS_server_method()), &SSL_CTX_free);
-    SSL_CTX_use_certificate(context.get(), certificate.get());
-    SSL_CTX_use_PrivateKey(context.get(), key.get());
-    return context;
+        makeCertificate(key.get(), host, "DNS:" + host, NID_subject_alt_name, nullptr, key.get());
+    return makeContext(key.get(), certificate.get());
 }
 
 } // namespace quillet::testing

@@ -2,6 +2,7 @@
 
 #include <openssl/ssl.h>
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -21,8 +22,12 @@ public:
 
     [[nodiscard]] const std::string& bundleFile() const { return bundleFile_; }
 
-    /// A server's TLS context with a certificate for the host.
-    [[nodiscard]] ContextPointer serverContext(const std::string& host) const;
+    /// A server's TLS context with a certificate for the host, in force between two times from now on.
+    [[nodiscard]] ContextPointer serverContext(const std::string& host,
+                                               std::chrono::seconds from = -std::chrono::hours(1),
+                                               std::chrono::seconds until = std::chrono::hours(1)) const;
+    /// The same with a certificate that nobody else has signed.
+    [[nodiscard]] static ContextPointer selfSignedContext(const std::string& host);
 
 private:
     KeyPointer key_;

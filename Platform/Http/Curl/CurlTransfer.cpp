@@ -106,6 +106,12 @@ URLError CurlTransfer::error(CURLcode code) {
         return URLError::of(URLError::Code::dataLengthExceedsMaximum,
                             "A line of the answer's head is too long");
     }
+    long proxyStatus = 0;
+    curl_easy_getinfo(handle(), CURLINFO_HTTP_CONNECTCODE, &proxyStatus);
+    if (proxyStatus >= 300) {
+        // libcurl calls it a failure to receive.
+        return URLError::of(URLError::Code::cannotConnectToHost, message);
+    }
     return URLError::of(urlErrorCode(code), message);
 }
 
@@ -155,7 +161,7 @@ std::expected<void, URLError> CurlTransfer::beginBody() {
     curl_off_t announced = 0;
     curl_easy_getinfo(handle(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
     return body_.begin(headerValues("Content-Encoding"),
-                       static_cast<std::size_t>(std::max<curl_off_t>(announced, 0)));
+                       static_cast<std::uint64_t>(std::max<curl_off_t>(announced, 0)));
 }
 
 template <std::expected<void, URLError> (CurlTransfer::*receive)(std::string_view)>

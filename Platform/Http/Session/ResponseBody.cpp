@@ -2,7 +2,6 @@
 
 #include "Platform/Http/HTTPSyntax.hpp"
 
-#include <algorithm>
 #include <array>
 #include <new>
 #include <utility>
@@ -16,12 +15,19 @@ std::unexpected<URLError> damaged() {
         URLError{URLError::Code::cannotDecodeContentData, "The answer's compression is damaged or unknown"});
 }
 
+std::unexpected<URLError> tooLarge() {
+    return std::unexpected(
+        URLError{URLError::Code::dataLengthExceedsMaximum, "The answer's body is too large"});
+}
+
 } // namespace
 
-std::expected<void, URLError> ResponseBody::begin(std::string_view encoding, std::size_t announcedBytes) {
+std::expected<void, URLError> ResponseBody::begin(std::string_view encoding, std::uint64_t announcedBytes) {
     if (encoding.empty() || equalIgnoringCase(encoding, "identity")) {
-        // The announced length is only a hint for reserving memory.
-        bytes_.reserve(std::min(announcedBytes, maximumBytes_));
+        if (announcedBytes > maximumBytes_) {
+            return tooLarge();
+        }
+        bytes_.reserve(static_cast<std::size_t>(announcedBytes));
         return {};
     }
     if (!equalIgnoringCase(encoding, "gzip") && !equalIgnoringCase(encoding, "x-gzip")) {
@@ -43,8 +49,13 @@ std::expected<void, URLError> ResponseBody::append(std::string_view bytes) {
 
 std::expected<void, URLError> ResponseBody::appendPlain(std::string_view bytes) {
     if (bytes.size() > maximumBytes_ - bytes_.size()) {
-        return std::unexpected(
-            URLError{URLError::Code::dataLengthExceedsMaximum, "The answer's body is too large"});
+        return tooLarge();
+    }
+    // A large body of unknown length gets all of its room at once. Room that is not written to takes no
+    // memory, whereas a string that grows by itself would have up to three times the limit in the end.
+    constexpr std::size_t large = 256 << 10;
+    if (const std::size_t size = bytes_.size() + bytes.size(); size > large && size > bytes_.capacity()) {
+        bytes_.reserve(maximumBytes_);
     }
     bytes_.append(bytes);
     return {};

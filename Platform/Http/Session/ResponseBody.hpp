@@ -5,6 +5,7 @@
 #include <zlib.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <expected>
 #include <memory>
 #include <string>
@@ -20,8 +21,9 @@ public:
     explicit ResponseBody(std::size_t maximumBytes) : maximumBytes_(maximumBytes) {}
 
     /// Call it before the first byte, with the value of Content-Encoding (empty for none) and the announced
-    /// length in bytes.
-    [[nodiscard]] std::expected<void, URLError> begin(std::string_view encoding, std::size_t announcedBytes);
+    /// length in bytes, 0 for none. Fails if that exceeds the limit already or the encoding is unknown.
+    [[nodiscard]] std::expected<void, URLError> begin(std::string_view encoding,
+                                                      std::uint64_t announcedBytes);
 
     /// Fails if the body exceeds the limit or its compression is damaged.
     [[nodiscard]] std::expected<void, URLError> append(std::string_view bytes);
