@@ -94,6 +94,18 @@ TEST_F(SessionTest, LetsACompletionFreeTheSessionAndStartAnotherCall) {
     EXPECT_EQ(calls.wait().data, "second");
 }
 
+TEST_F(SessionTest, SendsALargeBodyWithoutAskingFirst) {
+    server.enqueue(Answer::complete(200, "{}"));
+    const platform::URLSession session(configuration);
+    const std::string body(2 << 20, ' ');
+    session
+        .dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "PUT", .httpBody = body},
+                  calls.completion())
+        .resume();
+    EXPECT_EQ(calls.wait().data, "{}");
+    EXPECT_TRUE(server.requests()[0].ends_with("gzip\r\nContent-Length: 2097152\r\n\r\n" + body));
+}
+
 TEST_F(SessionTest, TellsItsObserverBeforeTheCompletion) {
     const auto observer = std::make_shared<testing::TrafficLog>();
     configuration.observer = observer;

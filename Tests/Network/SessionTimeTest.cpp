@@ -75,7 +75,7 @@ TEST_F(SessionTime, IsSixtySecondsOfAttemptsToConnect) {
     const auto path = std::make_shared<testing::FakeNetworkPath>(true);
     configuration.hostMappings[0].port = silent.port();
     configuration.networkPath = path;
-    configuration.connectTimeout = 20ms;
+    EXPECT_EQ(std::exchange(configuration.connectTimeout, 20ms), 15s);
     startCheckout();
     static_cast<void>(path->asked.wait(2));
     expectTimeOutAfter(60s);
