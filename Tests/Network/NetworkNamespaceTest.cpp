@@ -31,47 +31,45 @@ struct Place {
     std::string name;
     std::string hosts;
     std::vector<std::string> commands;
-    testing::ServerPlace server;
     /// The status of a call, or the code of its error.
     std::string outcome;
+    testing::ServerPlace server = {};
 };
 
 std::ostream& operator<<(std::ostream& stream, const Place& place) {
     return stream << place.name;
 }
 
-const testing::ServerPlace nowhere{.port = 0};
 const testing::ServerPlace httpsPort{.port = 443};
+const std::string toDefault = "route add default dev near";
+const std::string itself = "127.0.0.1 gateway.test\n";
+const std::string far = "203.0.113.5 gateway.test\n";
 
 const Place places[] = {
-    {"NoInterface", "203.0.113.5 gateway.test\n", {"link set lo down"}, nowhere, "-1009"},
-    {"NothingButLoopback", "203.0.113.5 gateway.test\n", {}, nowhere, "-1009"},
-    {"ALinkThatLeadsNowhere", "203.0.113.5 gateway.test\n", link, nowhere, "-1009"},
-    {"ALinkThatLeadsNowhereAndNoName", "", link, nowhere, "-1009"},
-    {"ARouteToTheNextHouseOnly", "203.0.113.5 gateway.test\n", linkAnd({"address add 10.9.8.7/24 dev near"}),
-     nowhere, "-1009"},
-    {"ARouteAndNothingBehind", "203.0.113.5 gateway.test\n",
-     linkAnd({"route add default dev near", "route add unreachable 203.0.113.5"}), nowhere, "-1004"},
-    {"ARouteAndNoName", "", linkAnd({"route add default dev near"}), nowhere, "-1003"},
-    {"ARouteAndAClosedPort", "127.0.0.1 gateway.test\n", linkAnd({"route add default dev near"}), nowhere,
+    {"NoInterface", far, {"link set lo down"}, "-1009"},
+    {"NothingButLoopback", far, {}, "-1009"},
+    {"ALinkThatLeadsNowhere", far, link, "-1009"},
+    {"ALinkThatLeadsNowhereAndNoName", "", link, "-1009"},
+    {"ARouteToTheNextHouseOnly", far, linkAnd({"address add 10.9.8.7/24 dev near"}), "-1009"},
+    {"ARouteAndNothingBehind", far, linkAnd({toDefault, "route add unreachable 203.0.113.5"}), "-1004"},
+    {"ARouteAndNoName", "", linkAnd({toDefault}), "-1003"},
+    {"ARouteAndAClosedPort", itself, linkAnd({toDefault}), "-1004"},
+    {"ARouteOfTheOtherFamilyAndAClosedPort", "2001:db8::5 gateway.test\n" + itself, linkAnd({toDefault}),
      "-1004"},
-    {"ARouteOfTheOtherFamilyAndAClosedPort", "2001:db8::5 gateway.test\n127.0.0.1 gateway.test\n",
-     linkAnd({"route add default dev near"}), nowhere, "-1004"},
     {"ARouteOfTheNewerFamilyAndNoName", "",
-     linkAnd({"-6 route add default dev near", "-6 address add 2001:db8::7/64 dev near nodad"}), nowhere,
-     "-1003"},
-    {"AServerWithoutARoute", "127.0.0.1 gateway.test\n", {}, httpsPort, "200"},
-    {"AProxyWithoutARoute", "", {}, {.isProxy = true}, "200"},
-    {"AProxyThatRefuses", "", {}, {.isProxy = true, .proxyStatus = 403}, "-1004"},
-    {"AProxyThatWantsALogin", "", {}, {.isProxy = true, .proxyStatus = 407}, "-1004"},
+     linkAnd({"-6 route add default dev near", "-6 address add 2001:db8::7/64 dev near nodad"}), "-1003"},
+    {"AServerWithoutARoute", itself, {}, "200", httpsPort},
+    {"AProxyWithoutARoute", "", {}, "200", {.isProxy = true}},
+    {"AProxyThatRefuses", "", {}, "-1004", {.isProxy = true, .proxyStatus = 403}},
+    {"AProxyThatWantsALogin", "", {}, "-1004", {.isProxy = true, .proxyStatus = 407}},
     // Packets to the first address are routed back to this machine, which drops them. getaddrinfo() keeps the
     // order of these two, since neither is an address of this machine.
     {"ADeadAddressFirst",
      "198.51.100.9 gateway.test\n203.0.113.10 gateway.test\n",
      {"address add 198.51.100.77/32 dev lo", "route add 198.51.100.0/24 dev lo",
       "route add local 203.0.113.10 dev lo src 198.51.100.77"},
-     httpsPort,
-     "200"},
+     "200",
+     httpsPort},
 };
 
 class SessionPlace : public ::testing::TestWithParam<Place> {

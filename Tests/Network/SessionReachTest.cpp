@@ -161,17 +161,6 @@ TEST_F(SessionReach, ReachesAMappedHostPastTheProxyOfTheEnvironment) {
     unsetenv("https_proxy");
 }
 
-TEST_F(SessionReach, RefusesAMethodThatIsNone) {
-    const testing::SandboxedSession sandbox;
-    testing::CallRecorder calls;
-    const platform::URLSession session(sandbox.configuration);
-    session
-        .dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "GET / HTTP/1.1\r\nX: "},
-                  calls.completion())
-        .resume();
-    EXPECT_TRUE(calls.wait().error);
-}
-
 /// A server's part in a handshake.
 struct Handshake {
     const char* name;
@@ -263,17 +252,6 @@ TEST(CurlLibrary, NeedsTheTlsLibraryThatTheModuleWasBuiltWith) {
         EXPECT_EQ(fault->message,
                   "libcurl uses \"" + unfit + "\" for TLS, but this module needs " + own + "x");
     }
-}
-
-TEST(URLSessionConfiguration, IsReadWhenASessionIsMade) {
-    testing::SandboxedSession sandbox;
-    sandbox.server.enqueue(testing::Answer::complete(200, "{}"));
-    platform::URLSessionConfiguration::setDefaultConfiguration(sandbox.configuration);
-    const platform::URLSession session;
-    platform::URLSessionConfiguration::setDefaultConfiguration({});
-    testing::CallRecorder calls;
-    session.dataTask({.url = {testing::gatewayHost, "/"}}, calls.completion()).resume();
-    EXPECT_EQ(calls.wait().data, "{}");
 }
 
 } // namespace quillet

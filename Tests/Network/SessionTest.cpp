@@ -44,6 +44,9 @@ TEST_F(SessionTest, StartsOnceHoweverOftenItIsResumedAndNeverByItself) {
     first.resume();
     task(session).resume();
     EXPECT_EQ(calls.wait(1).data, "second");
+    // What is no method is refused.
+    task(session, "GET / HTTP/1.1\r\nX: ").resume();
+    EXPECT_TRUE(calls.wait(2).error);
     EXPECT_EQ(server.requests().size(), 2u);
     EXPECT_EQ(server.connections(), 1u);
 }
@@ -69,9 +72,11 @@ TEST_F(SessionTest, RunsAStartedCallToItsEndAndThenEndsItsThread) {
     EXPECT_EQ(gone.wait_for(30s), std::future_status::ready);
 }
 
-TEST_F(SessionTest, StartsACallWhoseSessionIsGone) {
+TEST_F(SessionTest, StartsACallWhoseSessionIsGoneAndItsDefaultsToo) {
     server.enqueue(Answer::complete(200, "{}"));
-    auto late = [&] { return task(platform::URLSession(configuration)); }();
+    platform::URLSessionConfiguration::setDefaultConfiguration(configuration);
+    auto late = [&] { return task(platform::URLSession()); }();
+    platform::URLSessionConfiguration::setDefaultConfiguration({});
     late.resume();
     EXPECT_EQ(calls.wait().data, "{}");
 }
@@ -87,6 +92,18 @@ TEST_F(SessionTest, LetsACompletionFreeTheSessionAndStartAnotherCall) {
     second.reset();
     first.resume();
     EXPECT_EQ(calls.wait().data, "second");
+}
+
+TEST_F(SessionTest, SendsALargeBodyWithoutAskingFirst) {
+    server.enqueue(Answer::complete(200, "{}"));
+    const platform::URLSession session(configuration);
+    const std::string body(2 << 20, ' ');
+    session
+        .dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "PUT", .httpBody = body},
+                  calls.completion())
+        .resume();
+    EXPECT_EQ(calls.wait().data, "{}");
+    EXPECT_TRUE(server.requests()[0].ends_with("gzip\r\nContent-Length: 2097152\r\n\r\n" + body));
 }
 
 TEST_F(SessionTest, TellsItsObserverBeforeTheCompletion) {
