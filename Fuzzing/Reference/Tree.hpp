@@ -3,11 +3,12 @@
 #include "Fuzzing/Reference/Date.hpp"
 #include "Fuzzing/Reference/Number.hpp"
 #include "Models/RecordFields.hpp"
-#include "Platform/Json/Expected.hpp"
+#include "Platform/Json/Decoder.hpp"
 
 #include <nlohmann/json.hpp>
 
 #include <cstdint>
+#include <expected>
 #include <optional>
 #include <string>
 #include <tuple>
@@ -93,19 +94,14 @@ template <typename T>
 bool readMember(const Tree& tree, std::string_view key, T& value) {
     const auto found = std::ranges::find(tree.members, key, &Tree::key);
     const bool there = found != tree.members.end();
-    if constexpr (platform::json::isOptional<T>) {
-        if (!there || found->kind == Tree::Kind::null) {
-            return true;
-        }
-        value = fromTree<typename T::value_type>(*found);
-        return value.has_value();
-    } else {
-        auto read = there ? fromTree<T>(*found) : std::nullopt;
-        if (read) {
-            value = *std::move(read);
-        }
-        return read.has_value();
+    if (!there) {
+        return platform::json::isOptional<T>;
     }
+    auto read = fromTree<T>(*found);
+    if (read) {
+        value = *std::move(read);
+    }
+    return read.has_value();
 }
 
 /// What the decoder has to make of the tree; nothing if it has to refuse it.
@@ -121,6 +117,10 @@ std::optional<T> fromTree(const Tree& tree) {
         const auto shorter = number ? rounded(*number, T::maximumDigits) : PaperNumber();
         const bool fits = number && std::abs(shorter.exponent) <= T::maximumExponent;
         return fits ? T::parse(shorter.text()) : std::nullopt;
+    } else if constexpr (platform::json::isOptional<T>) {
+        T read = fromTree<typename T::value_type>(tree);
+        const bool good = read || tree.kind == Tree::Kind::null;
+        return good ? std::optional<T>(std::move(read)) : std::nullopt;
     } else if constexpr (platform::json::isList<T>) {
         T list;
         for (const Tree& element : tree.members) {
@@ -149,6 +149,29 @@ std::optional<T> fromTree(const Tree& tree) {
     } else {
         return tree.text;
     }
+}
+
+/// What is wrong with how `body` was decoded, by what the other parser makes of it; null if nothing is.
+template <typename T>
+const char* disagreement(const std::string& body, const std::expected<T, platform::DecodingError>& decoded) {
+    TreeBuilder builder;
+    bool valid = nlohmann::json::sax_parse(body, &builder);
+    // What the other parser takes and JSON does not allow: a byte-order mark, and a NUL for the end. And our
+    // own limit.
+    if (body.starts_with("\xEF\xBB\xBF") || body.find('\0') != body.npos ||
+        builder.depth > platform::json::Cursor::maximumDepth) {
+        valid = false;
+    } else if (builder.numberTooLarge) {
+        return nullptr;
+    }
+    if (valid != (decoded || decoded.error() != platform::DecodingError())) {
+        return valid ? "JSON is refused" : "what is no JSON is taken";
+    }
+    const auto expected = valid ? fromTree<T>(builder.tree) : std::nullopt;
+    if (decoded.has_value() != expected.has_value()) {
+        return decoded ? "a value is taken that its field cannot hold" : "a value is refused";
+    }
+    return !decoded || *decoded == *expected ? nullptr : "another value is read";
 }
 
 } // namespace quillet::fuzzing

@@ -5,7 +5,7 @@
 namespace quillet::fuzzing {
 
 static const Target target("date", [](const std::string& text) {
-    require(iso8601Full(text) == referenceDate(text), "a date is the instant that the C library computes");
+    require(iso8601Full(text) == referenceDate(text), "a date is the instant that the calendar says");
 });
 
 } // namespace quillet::fuzzing

@@ -1,5 +1,6 @@
 #include "Quillet/Platform/Decimal.hpp"
 #include "Platform/Json/Decoder.hpp"
+#include "Support/Thorough.hpp"
 
 #include <boost/multiprecision/cpp_dec_float.hpp>
 #include <gmock/gmock.h>
@@ -51,7 +52,8 @@ TEST(DecimalTest, EqualsAnotherLibrarysDecimalsForEveryWayToWriteThem) {
     std::mt19937 random;
     std::string body = R"({"amounts":[)";
     std::vector<Oracle> expected;
-    for (int i = 0; i < 20000; ++i) {
+    const std::size_t cases = testing::thorough(10'000, 1'000'000);
+    for (std::size_t i = 0; i < cases; ++i) {
         const std::string text = randomNumber(random);
         expected.emplace_back(text);
         body += (i == 0 ? "" : i % 3 == 0 ? ", " : ",") + text;
@@ -66,6 +68,7 @@ TEST(DecimalTest, EqualsAnotherLibrarysDecimalsForEveryWayToWriteThem) {
         ASSERT_EQ(Oracle(decoded->amounts[i].toString()), expected[i]);
         ASSERT_EQ(decoded->amounts[i] == decoded->amounts[i / 2], expected[i] == expected[i / 2]);
     }
+    RecordProperty("cases", static_cast<int>(cases));
 }
 
 TEST(DecimalTest, ComparesByValueAndPrintsPlainly) {
