@@ -17,6 +17,7 @@ struct Some {
     std::optional<std::string> text;
     std::optional<std::int64_t> number;
     std::optional<std::vector<std::uint64_t>> counts;
+    std::optional<platform::Decimal> amount;
 
     bool operator==(const Some&) const = default;
 };
@@ -40,5 +41,6 @@ template <>
 inline constexpr auto platform::jsonFields<tests::Some> =
     std::tuple{platform::json::Field{"text", &tests::Some::text},
                platform::json::Field{"number", &tests::Some::number},
-               platform::json::Field{"counts", &tests::Some::counts}};
+               platform::json::Field{"counts", &tests::Some::counts},
+               platform::json::Field{"amount", &tests::Some::amount}};
 } // namespace quillet

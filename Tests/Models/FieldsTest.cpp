@@ -172,6 +172,31 @@ TEST(FieldsTest, EachFieldTakesItsKindOfValueAndNamesItselfInTheErrorOfAnyOther)
     RecordProperty("cases", static_cast<int>(cases));
 }
 
+/// The value with the members of each object in reverse order, and each key spelt with an escape.
+std::string respelt(const Json& value) {
+    if (!value.is_structured()) {
+        return value.dump();
+    }
+    std::string all;
+    for (const auto& [key, member] : value.items()) {
+        if (value.is_object()) {
+            char escaped[8];
+            std::snprintf(escaped, sizeof escaped, "\\u%04x", static_cast<unsigned>(key.at(0)));
+            const std::string own = '"' + (escaped + key.substr(1)) + "\" : " + respelt(member);
+            all = own + (all.empty() ? "" : " , ") + all;
+        } else {
+            all += (all.empty() ? "" : ",") + respelt(member);
+        }
+    }
+    return value.is_object() ? "{" + all + "}" : "[" + all + "]";
+}
+
+TEST(FieldsTest, ReadsKeysInAnyOrderAndSpelling) {
+    const auto expected = platform::json::decode<OpenOrdersResponse>(openOrdersJson);
+    EXPECT_TRUE(expected);
+    EXPECT_EQ(decodeInWindows<OpenOrdersResponse>(respelt(Json::parse(openOrdersJson))), expected);
+}
+
 TEST(FieldsTest, ReportsTheFirstFieldOfTheTableWhereverItStands) {
     const auto pathOf = [](const std::string& body) {
         return decodeInWindows<OpenOrdersResponse>(body).error().path;

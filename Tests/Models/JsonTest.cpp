@@ -3,7 +3,10 @@
 
 #include <gmock/gmock.h>
 
+#include <iterator>
 #include <random>
+#include <sstream>
+#include <vector>
 
 namespace quillet::tests {
 
@@ -17,58 +20,19 @@ std::string repeated(std::string_view text, std::size_t times) {
     return all;
 }
 
+std::vector<std::string> words(const std::string& text) {
+    std::istringstream stream(text);
+    return {std::istream_iterator<std::string>(stream), {}};
+}
+
 TEST(JsonTest, RefusesWhatIsNoJsonAlsoWhereNobodyReads) {
-    const std::string bad[] = {"01",
-                               "1.",
-                               ".5",
-                               "+1",
-                               "-",
-                               "1e",
-                               "1e+",
-                               "0x1",
-                               "1 2",
-                               "1\"\"",
-                               "NaN",
-                               "tru",
-                               "truex",
-                               "nulll",
-                               "True",
-                               "'a'",
-                               "[1,]",
-                               "[,1]",
-                               "[1 2]",
-                               "[1",
-                               "1]",
-                               "[1}",
-                               "{\"a\":1,}",
-                               "{\"a\"}",
-                               "{\"a\" 1}",
-                               "{a:1}",
-                               "{1:1}",
-                               "{,}",
-                               "{\"a\":1 \"b\":2}",
-                               "{\"a\\x\":1}",
-                               "{\"a\":1]",
-                               "\"\\x\"",
-                               "\"\\u12\"",
-                               "\"\\u12g4\"",
-                               "\"\n\"",
-                               "\"\t\"",
-                               "\"\x01\"",
-                               "\"",
-                               "\"\\\"",
-                               "\\",
-                               "\\\"\"",
-                               "\f1",
-                               "1\f",
-                               "\x1a",
-                               "//",
-                               "1/**/",
-                               "",
-                               "1}{",
-                               "{}}",
-                               "\"a\"b",
-                               "\"a\"\"b\""};
+    auto bad =
+        words(R"(01 1. .5 +1 - 1e 1e+ 0x1 1"" NaN tru truex nulll True 'a' [1,] [,1] [1 1] [1} {"a":1,} {"a"}
+        {a:1} {1:1} {,} {"a\x":1} {"a":1] "\x" "\u12" "\u12g4" " "\" \ \"" // 1/**/ 1}{ {}} "a"b "a""b")");
+    for (const char* value :
+         {"", "1 2", "[1 2]", "{\"a\" 1}", "{\"a\":1 \"b\":2}", "\"\n\"", "\"\x01\"", "\f1", "1\f", "\x1a"}) {
+        bad.emplace_back(value);
+    }
     for (const std::string& value : bad) {
         SCOPED_TRACE(value);
         // What stands within the last bytes is read in another way than what has more behind it.
@@ -79,69 +43,36 @@ TEST(JsonTest, RefusesWhatIsNoJsonAlsoWhereNobodyReads) {
             EXPECT_EQ(decodeInWindows<Some>(body), std::unexpected(DecodingError())) << body;
         }
     }
-}
-
-TEST(JsonTest, PassesOverEverythingThatJsonAllows) {
-    const std::string good[] = {"0",
-                                "-0",
-                                "-0.0e-0",
-                                "1E+9",
-                                "1e999999999",
-                                "[]",
-                                "{}",
-                                "[[],{}]",
-                                " [ 1 , 2 ] ",
-                                "{\"\":{\"\":[]}}",
-                                "{\"\\u0061\\\\\":1}",
-                                "true",
-                                "false",
-                                "null",
-                                "\r\n\t1 "};
-    for (const std::string& value : good) {
-        EXPECT_TRUE(decodeInWindows<Some>(R"({"ignored":)" + value + "}")) << value;
+    for (const auto& value :
+         words(R"(0 -0 -0.0e-0 1E+9 1e999999999 [] {} [[],{}] {"":{"":[]}} {"\u0061\\":1} true
+        false null)")) {
+        EXPECT_TRUE(decodeInWindows<Some>("\r\n{\t\"ignored\" : " + value + " } ")) << value;
     }
 }
 
 TEST(JsonTest, TakesTextsThatAreUnicodeAndNothingElse) {
-    // A body's bytes with the text that they are; nothing if the body is refused.
-    const std::pair<std::string, std::optional<std::string>> texts[] = {
-        {"\\ud83d\\ude00\\u20ac\\u00E9\\b\\f\\n\\r\\t\\/\\\\\\\"", "😀€é\b\f\n\r\t/\\\""},
-        {"\xf0\x9f\x98\x80", "😀"},
-        {"\\uffff\xef\xbf\xbf", "\xef\xbf\xbf\xef\xbf\xbf"},
-        {"\\udbff\\udfff\xf4\x8f\xbf\xbf", "\xf4\x8f\xbf\xbf\xf4\x8f\xbf\xbf"},
-        // U+0000 may be escaped, and is then a part of the text.
-        {"a\\u0000b", std::string("a\0b", 3)},
-        {std::string("a\0b", 3), std::nullopt},
-        // A byte-order mark is a character like any other within a text.
+    const std::string nul("a\0b", 3);
+    const std::pair<std::string, std::string> good[] = {
+        {R"(\ud83d\ude00\u20ac\u00E9\b\f\n\r\t\/\\\")", "😀€é\b\f\n\r\t/\\\""},
+        {"\xf0\x9f\x98\x80\\uffff\\udbff\\udfff", "😀\xef\xbf\xbf\xf4\x8f\xbf\xbf"},
         {"\xef\xbb\xbf\\ufeff", "\xef\xbb\xbf\xef\xbb\xbf"},
-        // Half of a pair, in each way in which there can be one.
-        {"\\ud800", std::nullopt},
-        {"\\udc00", std::nullopt},
-        {"\\ud800x", std::nullopt},
-        {"\\ud800\\u0041", std::nullopt},
-        {"\\ud800\\ud800", std::nullopt},
-        {"\\ude00\\ud83d", std::nullopt},
-        {"\xed\xa0\x80", std::nullopt},
-        {"\xed\xa0\xbd\xed\xb8\x80", std::nullopt},
-        // Longer than needed, beyond the last character, cut, or no UTF-8 at all.
-        {"\xc0\x80", std::nullopt},
-        {"\xc1\xbf", std::nullopt},
-        {"\xe0\x80\xaf", std::nullopt},
-        {"\xf0\x80\x80\xaf", std::nullopt},
-        {"\xf4\x90\x80\x80", std::nullopt},
-        {"\xf8\x88\x80\x80\x80", std::nullopt},
-        {"\xe2\x82", std::nullopt},
-        {"\x80", std::nullopt},
-        {"\xff", std::nullopt},
-        {"\xe9", std::nullopt},
-    };
-    for (const auto& [bytes, text] : texts) {
+        {R"(a\u0000b)", nul}};
+    for (const auto& [bytes, text] : good) {
+        EXPECT_EQ(decodeInWindows<Some>(R"({"text":")" + bytes + "\"}").value().text, text) << bytes;
+    }
+    // Halves of pairs; what is longer than needed, beyond the last character, cut, or of another encoding.
+    auto bad = words(R"(\ud800 \udc00 \ud800x \ud800\u0041 \ud800\ud800 \ude00\ud83d)");
+    for (const char* bytes : {"\xed\xa0\x80", "\xed\xa0\xbd\xed\xb8\x80", "\xc0\x80", "\xc1\xbf",
+                              "\xe0\x80\xaf", "\xf0\x80\x80\xaf", "\xf4\x90\x80\x80", "\xf8\x88\x80\x80\x80",
+                              "\xe2\x82", "\x80", "\xff", "\xe9"}) {
+        bad.emplace_back(bytes);
+    }
+    bad.push_back(nul);
+    for (const std::string& bytes : bad) {
         const std::string quoted = '"' + bytes + '"';
         for (const std::string& body :
              {R"({"text":)" + quoted + "}", R"({"ignored":)" + quoted + "}", "{" + quoted + ":1}"}) {
-            const auto decoded = decodeInWindows<Some>(body);
-            ASSERT_EQ(decoded.has_value(), text.has_value()) << body;
-            EXPECT_TRUE(!decoded || !decoded->text || decoded->text == text) << body;
+            EXPECT_EQ(decodeInWindows<Some>(body), std::unexpected(DecodingError())) << body;
         }
     }
     // Before the value a byte-order mark is no white space.
@@ -209,21 +140,6 @@ TEST(JsonTest, ReadsBodiesThatAreManyWindowsLong) {
     EXPECT_EQ(decodeInWindows<Some>(body)->text, "read");
     body.back() = ']';
     EXPECT_FALSE(platform::json::decode<Some>(body));
-}
-
-TEST(JsonTest, ReadsWholeNumbersOfEveryLength) {
-    std::mt19937_64 random;
-    std::string body = R"({"counts":[)";
-    std::vector<std::uint64_t> expected;
-    for (int i = 0; i < 20000; ++i) {
-        expected.push_back(random() >> (random() % 64));
-        body +=
-            std::to_string(expected.back()) + std::array{",", ".0,", ".00000,", "e0,", " ,"}[random() % 5];
-    }
-    body.back() = ']';
-    const auto decoded = platform::json::decode<Some>(body + "}");
-    ASSERT_TRUE(decoded) << decoded.error().description();
-    EXPECT_EQ(decoded->counts, expected);
 }
 
 } // namespace quillet::tests
