@@ -61,7 +61,7 @@ TEST(JsonTest, TakesTextsThatAreUnicodeAndNothingElse) {
         EXPECT_EQ(decodeInWindows<Some>(R"({"text":")" + bytes + "\"}").value().text, text) << bytes;
     }
     // Halves of pairs; what is longer than needed, beyond the last character, cut, or of another encoding.
-    auto bad = words(R"(\ud800 \udc00 \ud800x \ud800\u0041 \ud800\ud800 \ude00\ud83d)");
+    auto bad = words(R"(\ud800 \udc00 \ud800x \ud800\u0041 \ud800\ud800 \udc00\udc00)");
     for (const char* bytes : {"\xed\xa0\x80", "\xed\xa0\xbd\xed\xb8\x80", "\xc0\x80", "\xc1\xbf",
                               "\xe0\x80\xaf", "\xf0\x80\x80\xaf", "\xf4\x90\x80\x80", "\xf8\x88\x80\x80\x80",
                               "\xe2\x82", "\x80", "\xff", "\xe9"}) {
