@@ -11,12 +11,9 @@ namespace quillet::tests {
 /// The kernels of simdjson that this processor can run. Each finds the tokens in a way of its own, and a
 /// process usually runs but the best.
 std::vector<const simdjson::implementation*> kernels() {
-    std::vector<const simdjson::implementation*> kernels;
-    for (const auto* const kernel : simdjson::get_available_implementations()) {
-        if (kernel->supported_by_runtime_system()) {
-            kernels.push_back(kernel);
-        }
-    }
+    const auto& available = simdjson::get_available_implementations();
+    std::vector<const simdjson::implementation*> kernels(available.begin(), available.end());
+    std::erase_if(kernels, [](const auto* kernel) { return !kernel->supported_by_runtime_system(); });
     return kernels;
 }
 
