@@ -35,6 +35,13 @@ inline const std::string checkoutJson = R"({"submittedOrderId":"A-1","consultant
     "status":"OK","quantity":2,"totalPrice":1.5,"unitPoints":0,"totalPoints":0},{"productCode":2,
     "description":"Crema","status":"OUT_OF_STOCK","quantity":1,"totalPrice":2,"totalPoints":9}]})";
 
+inline const std::string clientErrorJson =
+    R"({"details":"d","error":"Not\/Found","statusCode":-404,"path":"/p"})";
+
+inline const std::string serverErrorJson =
+    R"({"error":{"response":{"statusCode":422,"message":"inner","error":"Unprocessable"},"status":422,
+    "message":"ERROR_CART_ALREADY_SUBMITTED"},"statusCode":500,"path":"/p"})";
+
 /// `text` with its last `from` replaced. Throws if there is none, since the case would then test nothing.
 inline std::string replaced(std::string text, std::string_view from, std::string_view to) {
     const std::size_t position = text.rfind(from);

@@ -46,38 +46,6 @@ TEST(OpenOrdersResponseTest, ReadsEveryFieldExactly) {
     EXPECT_EQ(response->openOrders, (std::vector{order, order}));
 }
 
-TEST(OpenOrdersResponseTest, ReadsKeysInAnyOrderWrittenInAnyWay) {
-    // The body with the members of every object in reverse order; its lists keep theirs.
-    const std::string item =
-        R"({ "isKit" : true , "imageUrl":"i","unitProfit":1,"unitPrice" : 5990e-2 ,"magazineAmount":2,
-        "\u0061mount":20e-1,"choosable":false, "new":{"amount":[{}]}, "totalProfit":1,"totalPrice":1,"totalPoints":6.0 ,
-        "unitPoints":-0,"productDescription":"d","origin":"","productCode":1 , "productCode":"a second one is ignored"})";
-    const std::string body =
-        R"({"carts":[{"benefitItems":[],"regularItems":[)" + item + "," + item +
-        R"(],"magazineCycle":"","totalProfit":0,"benefitItemsProfit":0,"regularItemsProfit":0,"cartTotal":0,
-        "totalPoints":0,"totalItems":0,"totalBenefitItems":0,"totalRegularItems":0,
-        "createdAt":"2024-03-05T10:20:30.456-0300","type":"","status":"","cartUuid":"","cartNumber":1e2}],"consultant":{"id":1}})";
-    const auto response = OpenOrdersResponse::create(body);
-    ASSERT_TRUE(response) << std::get<platform::DecodingError>(response.error()).description();
-    const Order& order = response->openOrders.at(0);
-    EXPECT_EQ(order.cartNumber, 100U);
-    ASSERT_EQ(order.regularItems.size(), 2U);
-    const OrderItem expected{.productCode = 1,
-                             .origin = "",
-                             .productDescription = "d",
-                             .unitPoints = 0,
-                             .totalPoints = 6,
-                             .totalPrice = platform::Decimal(1),
-                             .totalProfit = platform::Decimal(1),
-                             .amount = 2,
-                             .magazineAmount = 2,
-                             .unitPrice = platform::Decimal(599, -1),
-                             .unitProfit = platform::Decimal(1),
-                             .imageUrl = "i",
-                             .isKit = true};
-    EXPECT_EQ(order.regularItems.at(1), expected);
-}
-
 TEST(OpenOrdersResponseTest, TellsAnAbsentBodyFromAnEmptyOneAndFromNull) {
     EXPECT_EQ(OpenOrdersResponse::create(std::nullopt).error(),
               OpenOrdersResponse::Error(OpenOrdersResponse::CodingError::emptyData));

@@ -1,13 +1,8 @@
 #include "Network/Token/HmacSha256Scrivener.hpp"
 
 #include "Network/Token/Base64Url.hpp"
-#include "Platform/Http/Process/OpenSsl.hpp"
+#include "Network/Token/HmacSha256.hpp"
 #include "Platform/Json/Utf8.hpp"
-
-#include <openssl/evp.h>
-#include <openssl/hmac.h>
-
-#include <array>
 
 namespace quillet {
 
@@ -20,15 +15,11 @@ HmacSha256Scrivener::signatureBase64String(const std::string& contentInBase64Str
     if (!platform::isUtf8(secretKey)) {
         return std::unexpected(HmacSha256Error::couldNotTransformSecretKeyInData);
     }
-    platform::keepOpenSslToTheEnd();
-    std::array<char, EVP_MAX_MD_SIZE> signature{};
-    unsigned length = 0;
-    if (!HMAC(EVP_sha256(), secretKey.data(), static_cast<int>(secretKey.size()),
-              reinterpret_cast<const unsigned char*>(contentInBase64String.data()),
-              contentInBase64String.size(), reinterpret_cast<unsigned char*>(signature.data()), &length)) {
+    const auto signature = hmacSha256(contentInBase64String, secretKey);
+    if (!signature) {
         return std::unexpected(HmacSha256Error::couldNotTransformSignatureInData);
     }
-    return base64Url({signature.data(), length});
+    return base64Url(*signature);
 }
 
 } // namespace quillet

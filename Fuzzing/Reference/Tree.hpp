@@ -1,0 +1,177 @@
+#pragma once
+
+#include "Fuzzing/Reference/Date.hpp"
+#include "Fuzzing/Reference/Number.hpp"
+#include "Models/RecordFields.hpp"
+#include "Platform/Json/Decoder.hpp"
+
+#include <nlohmann/json.hpp>
+
+#include <cstdint>
+#include <expected>
+#include <optional>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+namespace quillet::fuzzing {
+
+/// A body as another parser reads it: all members, in their order, and numbers as texts.
+struct Tree {
+    enum class Kind { null, no, yes, number, text, list, object };
+
+    Kind kind = Kind::null;
+    std::string text;
+    /// An object's values or a list's elements; their keys are empty.
+    std::vector<Tree> members;
+    std::string key;
+};
+
+/// Makes a tree of what nlohmann's parser tells.
+class TreeBuilder : public nlohmann::json_sax<nlohmann::json> {
+public:
+    Tree tree;
+    std::size_t depth = 0;
+    /// The parser ends at a number that is too large for a double, which JSON allows.
+    bool numberTooLarge = false;
+
+    bool null() override { return add(Tree::Kind::null); }
+    bool boolean(bool value) override { return add(value ? Tree::Kind::yes : Tree::Kind::no); }
+    bool number_integer(std::int64_t value) override {
+        return add(Tree::Kind::number, std::to_string(value));
+    }
+    bool number_unsigned(std::uint64_t value) override {
+        return add(Tree::Kind::number, std::to_string(value));
+    }
+    bool number_float(double, const std::string& text) override { return add(Tree::Kind::number, text); }
+    bool string(std::string& text) override { return add(Tree::Kind::text, text); }
+    bool binary(nlohmann::json::binary_t&) override { return false; }
+    bool start_object(std::size_t) override { return open(Tree::Kind::object); }
+    bool end_object() override { return close(); }
+    bool start_array(std::size_t) override { return open(Tree::Kind::list); }
+    bool end_array() override { return close(); }
+    bool key(std::string& key) override {
+        key_ = key;
+        return true;
+    }
+    bool parse_error(std::size_t, const std::string&, const nlohmann::json::exception& error) override {
+        constexpr int outOfRange = 406;
+        numberTooLarge = error.id == outOfRange;
+        return false;
+    }
+
+private:
+    bool add(Tree::Kind kind, std::string text = {}) {
+        Tree value{kind, std::move(text), {}, std::exchange(key_, {})};
+        if (open_.empty()) {
+            tree = std::move(value);
+        } else {
+            open_.back()->members.push_back(std::move(value));
+        }
+        return true;
+    }
+    bool open(Tree::Kind kind) {
+        add(kind);
+        open_.push_back(open_.empty() ? &tree : &open_.back()->members.back());
+        depth = std::max(depth, open_.size());
+        return true;
+    }
+    bool close() {
+        open_.pop_back();
+        return true;
+    }
+
+    std::vector<Tree*> open_;
+    std::string key_;
+};
+
+template <typename T>
+std::optional<T> fromTree(const Tree& tree);
+
+/// Reads a member of a record; of several with its key the first. False if that is not possible.
+template <typename T>
+bool readMember(const Tree& tree, std::string_view key, T& value) {
+    const auto found = std::ranges::find(tree.members, key, &Tree::key);
+    const bool there = found != tree.members.end();
+    if (!there) {
+        return platform::json::isOptional<T>;
+    }
+    auto read = fromTree<T>(*found);
+    if (read) {
+        value = *std::move(read);
+    }
+    return read.has_value();
+}
+
+/// What the decoder has to make of the tree; nothing if it has to refuse it.
+template <typename T>
+std::optional<T> fromTree(const Tree& tree) {
+    const auto number = tree.kind == Tree::Kind::number ? paperNumber(tree.text) : std::nullopt;
+    if constexpr (std::same_as<T, bool>) {
+        const bool either = tree.kind == Tree::Kind::yes || tree.kind == Tree::Kind::no;
+        return either ? std::optional(tree.kind == Tree::Kind::yes) : std::nullopt;
+    } else if constexpr (std::integral<T>) {
+        return number ? whole<T>(*number) : std::nullopt;
+    } else if constexpr (std::same_as<T, platform::Decimal>) {
+        const auto shorter = number ? rounded(*number, T::maximumDigits) : PaperNumber();
+        const bool fits = number && std::abs(shorter.exponent) <= T::maximumExponent;
+        return fits ? T::parse(shorter.text()) : std::nullopt;
+    } else if constexpr (platform::json::isOptional<T>) {
+        T read = fromTree<typename T::value_type>(tree);
+        const bool good = read || tree.kind == Tree::Kind::null;
+        return good ? std::optional<T>(std::move(read)) : std::nullopt;
+    } else if constexpr (platform::json::isList<T>) {
+        T list;
+        for (const Tree& element : tree.members) {
+            auto read = fromTree<typename T::value_type>(element);
+            if (!read) {
+                return std::nullopt;
+            }
+            list.push_back(*std::move(read));
+        }
+        return tree.kind == Tree::Kind::list ? std::optional(std::move(list)) : std::nullopt;
+    } else if constexpr (std::tuple_size_v<std::remove_cvref_t<decltype(platform::jsonFields<T>)>> > 0) {
+        T record;
+        const bool read = tree.kind == Tree::Kind::object &&
+                          std::apply(
+                              [&](const auto&... field) {
+                                  return (readMember(tree, field.key, record.*field.member) && ...);
+                              },
+                              platform::jsonFields<T>);
+        return read ? std::optional(std::move(record)) : std::nullopt;
+    } else if (tree.kind != Tree::Kind::text) {
+        return std::nullopt;
+    } else if constexpr (std::same_as<T, Date>) {
+        return referenceDate(tree.text);
+    } else if constexpr (platform::json::HasTextForm<T>) {
+        return platform::json::TextForm<T>::read(tree.text);
+    } else {
+        return tree.text;
+    }
+}
+
+/// What is wrong with how `body` was decoded, by what the other parser makes of it; null if nothing is.
+template <typename T>
+const char* disagreement(const std::string& body, const std::expected<T, platform::DecodingError>& decoded) {
+    TreeBuilder builder;
+    bool valid = nlohmann::json::sax_parse(body, &builder);
+    // What the other parser takes and JSON does not allow: a byte-order mark, and a NUL for the end. And our
+    // own limit.
+    if (body.starts_with("\xEF\xBB\xBF") || body.find('\0') != body.npos ||
+        builder.depth > platform::json::Cursor::maximumDepth) {
+        valid = false;
+    } else if (builder.numberTooLarge) {
+        return nullptr;
+    }
+    if (valid != (decoded || decoded.error() != platform::DecodingError())) {
+        return valid ? "JSON is refused" : "what is no JSON is taken";
+    }
+    const auto expected = valid ? fromTree<T>(builder.tree) : std::nullopt;
+    if (decoded.has_value() != expected.has_value()) {
+        return decoded ? "a value is taken that its field cannot hold" : "a value is refused";
+    }
+    return !decoded || *decoded == *expected ? nullptr : "another value is read";
+}
+
+} // namespace quillet::fuzzing

@@ -1,0 +1,35 @@
+#include "Fuzzing/Decoding.hpp"
+#include "Models/RecordFields.hpp"
+#include "Network/Errors/ErrorFields.hpp"
+#include "Network/Errors/HttpErrorFactory.hpp"
+
+namespace quillet::fuzzing {
+
+template <typename Decoded, typename Response>
+static void decodeResponse(const std::string& body) {
+    const auto decoded = decodeInWindows<Decoded>(body);
+    const auto response = Response::create(body);
+    require(decoded.has_value() == response.has_value(), "the factory gives what the decoder gives");
+    require(response || response.error().index() == std::variant_size_v<typename Response::Error> - 1 ||
+                decoded.error().path == "message",
+            "only a verdict has an error of its own");
+}
+
+template <typename Model, HttpErrorModel model>
+static void parseErrorBody(const std::string& body) {
+    constexpr int status = 418;
+    const auto decoded = decodeInWindows<Model>(body);
+    const ServiceError error = HttpErrorFactory().parseError(body, status, model);
+    require(error == (decoded ? ServiceError(*decoded) : HttpStatusCodeError{status}),
+            "a body is the error that it holds, or else the status");
+}
+
+static const Target targets[] = {
+    {"open-orders", decodeResponse<OpenOrdersResponse, OpenOrdersResponse>},
+    {"order", decodeResponse<std::optional<OrderResponse>, OrderResponse>},
+    {"checkout", decodeResponse<CheckoutResponse, CheckoutResponse>},
+    {"client-error", parseErrorBody<ClientError, HttpErrorModel::clientError>},
+    {"server-error", parseErrorBody<ServerError, HttpErrorModel::serverError>},
+};
+
+} // namespace quillet::fuzzing
