@@ -279,6 +279,7 @@ TEST_F(PresentTest, ReportsAScreenThatItCannotShow) {
     EXPECT_FALSE(present(shownBefore, stage->stack()));
     EXPECT_EQ(stage->depth(), 1);
     EXPECT_EQ(Stage::complaints().size(), 2);
+    stage.reset();
     stage = std::make_unique<Stage>();
 }
 
