@@ -56,11 +56,9 @@ void collect(QtMsgType type, const QMessageLogContext& context, const QString& m
     previousHandler(type, context, message);
 }
 
-/// Qt's animation clock made faster: a tick advances it by a frame's time, however soon it comes.
+/// Qt's animation clock made faster: a tick advances it by a twentieth of a second, however soon it comes.
 class HurriedAnimations final : public QAnimationDriver {
 public:
-    using QAnimationDriver::QAnimationDriver;
-
     [[nodiscard]] qint64 elapsed() const override { return elapsed_; }
 
 protected:
@@ -74,7 +72,7 @@ protected:
         QAnimationDriver::stop();
     }
     void timerEvent(QTimerEvent*) override {
-        elapsed_ += 16;
+        elapsed_ += 50;
         advance();
     }
 
@@ -84,10 +82,11 @@ private:
 };
 
 void hurryAnimations() {
-    static QPointer<HurriedAnimations> driver;
+    static std::unique_ptr<HurriedAnimations> driver;
     if (!driver) {
-        driver = new HurriedAnimations(QCoreApplication::instance());
+        driver = std::make_unique<HurriedAnimations>();
         driver->install();
+        qAddPostRoutine([] { driver.reset(); });
     }
 }
 

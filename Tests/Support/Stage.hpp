@@ -20,7 +20,7 @@ namespace quillet::testing {
 [[nodiscard]] bool turnUntilFor(std::chrono::milliseconds longest, const std::function<bool()>& condition);
 
 /// A host's window with a bar and a StackView below it, and the warnings of QML meanwhile. Qt's animations run
-/// faster than in real time from the first stage on, frame by frame.
+/// faster than in real time from the first stage on.
 class Stage {
 public:
     /// `host` is the QML of another host's window, with a `stack` and a `bar` among its properties.
