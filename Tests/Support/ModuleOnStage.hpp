@@ -4,6 +4,7 @@
 #include "Quillet/Quillet.hpp"
 #include "Quillet/Testing.hpp"
 #include "Support/Stage.hpp"
+#include "Views/Animation/ViewAnimating.hpp"
 #include "Views/Covers/Cover.hpp"
 
 #include <gmock/gmock.h>
@@ -44,6 +45,14 @@ struct ModuleOnStage : ::testing::Test {
             ASSERT_TRUE(comesToShow(one)) << one.toStdString();
             stage->click(one);
         }
+    }
+
+    /// Lets as much time pass on the clock of the animations.
+    static void animateFor(std::chrono::milliseconds duration) {
+        bool isOver = false;
+        ViewAnimatingWrapper().animate(
+            duration, [](double) {}, [&] { isOver = true; });
+        ASSERT_TRUE(turnUntil([&] { return isOver; }));
     }
 
     const QString viewOrders = "Ver Pedidos";

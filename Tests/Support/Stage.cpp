@@ -199,6 +199,18 @@ void Stage::touchAt(QPointF point) {
     QTest::touchEvent(window_.get(), &fingers()).release(0, point.toPoint());
 }
 
+void Stage::tapRepeatedly(QPointF point, int times, bool byFinger) {
+    for (int tap = 0; byFinger && tap < times; ++tap) {
+        touchAt(point);
+    }
+    if (!byFinger && times > 1) {
+        QTest::mouseDClick(window_.get(), Qt::LeftButton, {}, point.toPoint());
+    }
+    if (!byFinger && times != 2) {
+        QTest::mouseClick(window_.get(), Qt::LeftButton, {}, point.toPoint());
+    }
+}
+
 void Stage::touchWhileResting(QPointF resting, QPointF tapped) {
     const QPoint still = resting.toPoint();
     const QPoint other = tapped.toPoint();

@@ -1,5 +1,4 @@
 #include "Support/ModuleOnStage.hpp"
-#include "Views/Animation/ViewAnimating.hpp"
 
 #include <QPointer>
 
@@ -118,13 +117,15 @@ TEST_P(Leaving, EndsAtOnceWhateverIsOnItsWay) {
         end();
         backend->clock()->advance(std::chrono::seconds(5));
         if (!moment.pressed.isEmpty() && (isMoving || !leaves)) {
+            for (const bool byFinger : {false, true}) {
+                if (isMoving) {
+                    stage->tapRepeatedly(stage->middle(moment.pressed), 1, byFinger);
+                }
+            }
             stage->pressByScreenReader(moment.pressed);
         }
         // As long as a dialog's fade, which has begun before.
-        bool hasFaded = false;
-        ViewAnimatingWrapper().animate(
-            std::chrono::milliseconds(710), [](double) {}, [&] { hasFaded = true; });
-        ASSERT_TRUE(turnUntil([&] { return hasFaded; }));
+        ASSERT_NO_FATAL_FAILURE(animateFor(std::chrono::milliseconds(710)));
         EXPECT_EQ(isMoving, stage && !settled());
         ASSERT_TRUE(turnUntil([&] { return !stage || (settled() && page.isNull() == leaves); }));
 
