@@ -23,11 +23,10 @@ struct ModuleOnStage : ::testing::Test {
     }
 
     /// Opens the module; only the stack owns the screen afterwards.
-    std::weak_ptr<platform::QuickViewController> open() { return open(*stage); }
-    std::weak_ptr<platform::QuickViewController> open(Stage& on) {
+    std::weak_ptr<platform::QuickViewController> open() {
         const auto starter = Starter::create("token", "idp", {"cart-1", 41052, "CL"}, host);
         const auto screen = starter->createRootViewController();
-        EXPECT_TRUE(present(screen, on.stack()));
+        EXPECT_TRUE(present(screen, stage->stack()));
         return screen;
     }
 
@@ -62,7 +61,7 @@ struct ModuleOnStage : ::testing::Test {
     const QString closeIcon = "dialogCloseIcon";
 
     Log log = makeLog();
-    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(log);
+    std::shared_ptr<QuilletNavigationDelegate> host = std::make_shared<RecordingNavigation>(log);
     std::shared_ptr<ScriptedBackend> backend = ScriptedBackend::install();
     std::unique_ptr<Stage> stage = std::make_unique<Stage>();
 };
