@@ -2,6 +2,8 @@
 
 #include "Quillet/Workers.hpp"
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <memory>
 #include <string>
@@ -15,6 +17,8 @@ class RecordingDelegate final : public AssociateConsultantToCartWorkerDelegate,
                                 public GetOpenOrdersWorkerDelegate,
                                 public CheckoutWorkerDelegate {
 public:
+    ~RecordingDelegate() override { EXPECT_FALSE(isBeingTold_) << "destroyed within its callback"; }
+
     void didAssociate(const std::shared_ptr<const OrderResult>& result) override {
         record("associate", result->response, *result);
     }
@@ -37,9 +41,13 @@ private:
                          (response ? " with a response" : "") +
                          (result.error ? ": " + description(*result.error) : ""));
         if (then) {
+            isBeingTold_ = true;
             then();
+            isBeingTold_ = false;
         }
     }
+
+    bool isBeingTold_ = false;
 };
 
 } // namespace quillet::testing
