@@ -5,9 +5,7 @@
 #include <malloc.h>
 #include <openssl/crypto.h>
 #include <pthread.h>
-#include <sys/eventfd.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 #include <array>
 #include <atomic>
@@ -172,17 +170,6 @@ int socket(int domain, int type, int protocol) noexcept {
 int socketpair(int domain, int type, int protocol, int* pair) noexcept {
     using namespace quillet::testing;
     return givenBySystem(Resource::sockets, "socketpair", domain, type, protocol, pair);
-}
-
-// What newer versions of libcurl wake up with.
-int eventfd(unsigned int value, int flags) noexcept {
-    using namespace quillet::testing;
-    return givenBySystem(Resource::sockets, "eventfd", value, flags);
-}
-
-int pipe2(int* ends, int flags) noexcept {
-    using namespace quillet::testing;
-    return givenBySystem(Resource::sockets, "pipe2", ends, flags);
 }
 
 // Libraries that take large files on every machine open them with this one.

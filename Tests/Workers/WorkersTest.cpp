@@ -16,6 +16,7 @@ namespace {
 using namespace std::chrono_literals;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
+using ::testing::HasSubstr;
 using ::testing::StartsWith;
 using Lines = std::vector<std::string>;
 
@@ -55,7 +56,7 @@ struct Workers : ::testing::TestWithParam<Call> {
         }
     }
 
-    void pass(std::chrono::seconds time) {
+    void pass(std::chrono::milliseconds time) {
         backend->clock()->advance(time);
         platform::mainQueue().drain();
     }
@@ -133,6 +134,25 @@ TEST_P(Workers, RememberTheLatestOutcomeOfSeveralRuns) {
     EXPECT_EQ(lines->size(), 3u);
 }
 
+TEST_P(Workers, AreAnsweredLateNeverAndByErrors) {
+    const platform::URLError offline{platform::URLError::Code::notConnectedToInternet, "There is no network"};
+    backend->script(GetParam(), {Reply{.body = sampleBody(GetParam()), .after = 59'999ms}, Reply::never(),
+                                 Reply{.error = offline}});
+    for (int run = 0; run < 4; ++run) {
+        worker->execute();
+    }
+    const auto told = [&](std::chrono::milliseconds time) {
+        lines->clear();
+        pass(time);
+        return *lines;
+    };
+    // The last reply of a script stays.
+    EXPECT_THAT(told(0ms), ElementsAre(name + " 0: There is no network", name + " 0: There is no network"));
+    EXPECT_THAT(told(59'998ms), ElementsAre());
+    EXPECT_THAT(told(1ms), ElementsAre(name + " 200 with a response"));
+    EXPECT_THAT(told(1ms), ElementsAre(name + " 0: The request timed out"));
+}
+
 INSTANTIATE_TEST_SUITE_P(, Workers, ::testing::Values(Call::associate, Call::getOpenOrders, Call::checkout),
                          [](const auto& parameter) {
                              return parameter.param == Call::associate       ? "Associate"
@@ -141,12 +161,15 @@ INSTANTIATE_TEST_SUITE_P(, Workers, ::testing::Values(Call::associate, Call::get
                          });
 
 // From execute() over a real session to the process's main queue, each worker on its own connection.
-TEST(WorkersOverTheNetwork, DeliverOnTheMainQueue) {
+TEST(WorkersOverTheNetwork, DeliverOnTheMainQueueAndLogNoSecrets) {
     SandboxedSession sandbox;
+    Lines log;
+    sandbox.configuration.log = [&](const platform::LoggedCall& call) { log.push_back(description(call)); };
     platform::URLSessionConfiguration::setDefaultConfiguration(sandbox.configuration);
     std::counting_semaphore waiting(0);
     platform::mainQueue().setWakeUp([&] { waiting.release(); });
-    const BackendClient client({"token", "provider"}, {"cart", 7, "PE"}, gatewayHost);
+    const BackendClient client(*authorize("secret access", "idp", "527308"), {"cart 1", 41052, "CL"},
+                               gatewayHost);
     const auto delegate = std::make_shared<RecordingDelegate>();
     int status = 200;
     for (const auto& worker :
@@ -159,11 +182,16 @@ TEST(WorkersOverTheNetwork, DeliverOnTheMainQueue) {
     }
     platform::mainQueue().setWakeUp(nullptr);
 
-    EXPECT_THAT(
-        sandbox.server.requests(),
-        ElementsAre(StartsWith("PATCH /quillet-bff/sell-out-carts/cart HTTP/1.1\r\n"),
-                    StartsWith("GET /quillet-bff/consultants/PE/7/sell-out-carts?status=OPEN HTTP/1.1\r\n"),
-                    StartsWith("POST /quillet-bff/consultants/PE/7/sell-out-carts/checkout HTTP/1.1\r\n")));
+    const Lines calls{"PATCH /quillet-bff/sell-out-carts/cart%201",
+                      "GET /quillet-bff/consultants/CL/41052/sell-out-carts?status=OPEN",
+                      "POST /quillet-bff/consultants/CL/41052/sell-out-carts/checkout"};
+    const auto requests = sandbox.server.requests();
+    ASSERT_EQ(requests.size(), 3u);
+    for (std::size_t index = 0; index < 3; ++index) {
+        EXPECT_THAT(requests[index], StartsWith(calls[index] + " HTTP/1.1\r\n"));
+        EXPECT_EQ(log.at(index), calls[index] + " " + std::to_string(201 + index) + ", 34 bytes, 0 ms");
+    }
+    EXPECT_THAT(requests.back(), HasSubstr("Authorization-Provider: idp\r\n"));
     EXPECT_EQ(sandbox.server.connections(), 3u);
     EXPECT_THAT(*delegate->lines, ElementsAre("associate 201", "open orders 202 with a response",
                                               "checking out", "checkout 203"));
