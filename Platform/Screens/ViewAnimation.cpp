@@ -14,8 +14,11 @@ void animateView(std::chrono::milliseconds duration, std::function<void(double p
     animation->setDuration(static_cast<int>(duration.count()));
     QObject::connect(animation, &QVariantAnimation::valueChanged, animation,
                      [step = std::move(step)](const QVariant& value) { step(value.toDouble()); });
-    QObject::connect(animation, &QAbstractAnimation::finished, animation,
-                     [completion = std::move(completion)] { completion(); });
+    // Not within the tick of the animation clock, which stands still until the tick is over: the completion
+    // may run an event loop, such as that of a host's modal dialog.
+    QObject::connect(
+        animation, &QAbstractAnimation::finished, QCoreApplication::instance(),
+        [completion = std::move(completion)] { completion(); }, Qt::QueuedConnection);
     animation->start(QAbstractAnimation::DeleteWhenStopped);
 }
 

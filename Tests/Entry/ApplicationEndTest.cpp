@@ -1,11 +1,16 @@
 #include "Platform/Screens/MainQueuePump.hpp"
 #include "Quillet/Platform/MainQueue.hpp"
+#include "Support/ModuleOnStage.hpp"
+#include "Support/SilentPort.hpp"
+
+#include <KelCommon/KelLocalized.hpp>
 
 #include <QAbstractEventDispatcher>
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include <gmock/gmock.h>
 
+#include <cstdlib>
 #include <future>
 #include <memory>
 #include <thread>
@@ -52,11 +57,67 @@ private:
     std::thread::id main_ = std::this_thread::get_id();
 };
 
-std::unique_ptr<QCoreApplication> makeApplication() {
+template <typename Application>
+std::unique_ptr<Application> makeApplication() {
     static int count = 1;
     static char name[] = "ApplicationEndTests";
     static char* arguments[] = {name, nullptr};
-    return std::make_unique<QCoreApplication>(count, arguments);
+    return std::make_unique<Application>(count, arguments);
+}
+
+/// Where the module is when its application ends.
+enum class Step { beforeStart, underWay, underWayOverTheNetwork, queued, delivered, fading };
+
+struct Module final : ModuleOnStage {
+    void TestBody() override {}
+
+    void reach(Step step) {
+        const SilentPort silence;
+        if (step == Step::underWayOverTheNetwork) {
+            platform::URLSessionConfiguration::setDefaultConfiguration(
+                {.hostMappings = {
+                     {Starter::create("", "", {}, nullptr)->domainUrl(), "127.0.0.1", silence.port()}}});
+        } else if (step < Step::delivered) {
+            backend->script(Call::associate, {Reply{.after = 5s}});
+        }
+        if (step > Step::beforeStart) {
+            open();
+        }
+        if (step == Step::queued) {
+            backend->clock()->advance(5s);
+        }
+        if (step > Step::queued) {
+            ASSERT_TRUE(comesToShow(viewOrders));
+        }
+        if (step == Step::fading) {
+            stage->click(viewOrders);
+            ASSERT_TRUE(turnUntil([&] { return stage->item("dialogBackground")->opacity() < 1; }));
+        }
+        log->clear();
+    }
+
+    std::shared_ptr<platform::QuickViewController> neverShown =
+        Starter::create("token", "idp", {"cart-1", 41052, "CL"}, host)->createRootViewController();
+};
+
+/// Ends the process with 0 where nothing was told to anybody after the end of the application. A process may
+/// also be left without any end of it, as exit() does.
+[[noreturn]] void end(Step step, bool inOrder) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    auto application = makeApplication<QGuiApplication>();
+    kel::setLanguage(QStringLiteral("es"));
+    auto& module = *new Module;
+    module.reach(step);
+    if (inOrder) {
+        module.stage.reset();
+        application.reset();
+    } else {
+        static_cast<void>(application.release());
+    }
+    module.backend->clock()->advance(60s);
+    const bool isQuiet = module.log->empty() && !::testing::Test::HasFailure();
+    std::exit(isQuiet ? EXIT_SUCCESS : EXIT_FAILURE);
 }
 
 } // namespace
@@ -64,7 +125,7 @@ std::unique_ptr<QCoreApplication> makeApplication() {
 TEST(ApplicationEnd, WaitsForTheThreadThatWakesItAndLeavesTheRestToTheNextApplication) {
     WakeUp wakeUp;
     QCoreApplication::setEventDispatcher(new SlowDispatcher(wakeUp));
-    auto application = makeApplication();
+    auto application = makeApplication<QCoreApplication>();
     platform::pumpMainQueue();
     int ran = 0;
     std::jthread session([&] { platform::mainQueue().async([&] { ++ran; }); });
@@ -75,7 +136,7 @@ TEST(ApplicationEnd, WaitsForTheThreadThatWakesItAndLeavesTheRestToTheNextApplic
     platform::mainQueue().async([&] { ++ran; });
     EXPECT_EQ(ran, 0);
     for (const int expected : {2, 3}) {
-        application = makeApplication();
+        application = makeApplication<QCoreApplication>();
         platform::pumpMainQueue();
         platform::pumpMainQueue();
         QCoreApplication::processEvents();
@@ -83,6 +144,19 @@ TEST(ApplicationEnd, WaitsForTheThreadThatWakesItAndLeavesTheRestToTheNextApplic
         application.reset();
         platform::mainQueue().async([&] { ++ran; });
     }
+}
+
+TEST(ApplicationEnd, MayComeAtAnyStep) {
+    int cases = 0;
+    for (const Step step : {Step::beforeStart, Step::underWay, Step::underWayOverTheNetwork, Step::queued,
+                            Step::delivered, Step::fading}) {
+        for (const bool inOrder : {true, false}) {
+            SCOPED_TRACE(std::to_string(static_cast<int>(step)) + (inOrder ? " in order" : " by exit()"));
+            EXPECT_EXIT(end(step, inOrder), ::testing::ExitedWithCode(EXIT_SUCCESS), "");
+            ++cases;
+        }
+    }
+    RecordProperty("cases", cases);
 }
 
 } // namespace quillet::testing

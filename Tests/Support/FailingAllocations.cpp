@@ -1,11 +1,16 @@
 #include "Support/FailingAllocations.hpp"
 
 #include <curl/curl.h>
+#include <dlfcn.h>
 #include <malloc.h>
 #include <openssl/crypto.h>
+#include <pthread.h>
+#include <sys/socket.h>
 
 #include <array>
 #include <atomic>
+#include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -14,13 +19,24 @@ namespace quillet::testing {
 
 namespace {
 
-// Counts down to the failing allocation; none fails after it.
-std::array<std::atomic<long>, 3> left{};
+// Counts down to the time that fails; none fails after it.
+std::array<std::atomic<long>, 6> left{};
 thread_local bool isSpared = false;
 
-bool fails(Allocator allocator) {
-    auto& counter = left[static_cast<std::size_t>(allocator)];
+bool fails(Resource resource) {
+    auto& counter = left[static_cast<std::size_t>(resource)];
     return !isSpared && counter.load() > 0 && counter.fetch_sub(1) == 1;
+}
+
+/// Calls the function that the program's own replaces.
+template <typename... Arguments>
+int givenBySystem(Resource resource, const char* function, Arguments... arguments) {
+    using Function = int(Arguments...);
+    if (fails(resource)) {
+        errno = EMFILE;
+        return -1;
+    }
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, function))(arguments...);
 }
 
 std::atomic<long> held = 0;
@@ -38,37 +54,37 @@ void release(void* memory) {
     std::free(memory);
 }
 
-template <Allocator allocator>
+template <Resource resource>
 void* allocate(std::size_t size) {
-    return fails(allocator) ? nullptr : std::malloc(size > 0 ? size : 1);
+    return fails(resource) ? nullptr : std::malloc(size > 0 ? size : 1);
 }
 
-template <Allocator allocator>
+template <Resource resource>
 void* reallocate(void* memory, std::size_t size) {
-    return fails(allocator) ? nullptr : std::realloc(memory, size);
+    return fails(resource) ? nullptr : std::realloc(memory, size);
 }
 
 void* allocateZeroed(std::size_t count, std::size_t size) {
-    return fails(Allocator::curl) ? nullptr : std::calloc(count, size);
+    return fails(Resource::curl) ? nullptr : std::calloc(count, size);
 }
 
 char* copyText(const char* text) {
-    return fails(Allocator::curl) ? nullptr : strdup(text);
+    return fails(Resource::curl) ? nullptr : strdup(text);
 }
 
 // Both libraries accept such functions only before their first allocation.
 const bool isInstalled = [] {
     const auto allocateForOpenSsl = [](std::size_t size, const char*, int) {
-        return allocate<Allocator::openSsl>(size);
+        return allocate<Resource::openSsl>(size);
     };
     const auto reallocateForOpenSsl = [](void* memory, std::size_t size, const char*, int) {
-        return reallocate<Allocator::openSsl>(memory, size);
+        return reallocate<Resource::openSsl>(memory, size);
     };
     const auto freeForOpenSsl = [](void* memory, const char*, int) { std::free(memory); };
     const bool isTaken =
         CRYPTO_set_mem_functions(allocateForOpenSsl, reallocateForOpenSsl, freeForOpenSsl) == 1 &&
-        curl_global_init_mem(CURL_GLOBAL_DEFAULT, &allocate<Allocator::curl>, &std::free,
-                             &reallocate<Allocator::curl>, &copyText, &allocateZeroed) == CURLE_OK;
+        curl_global_init_mem(CURL_GLOBAL_DEFAULT, &allocate<Resource::curl>, &std::free,
+                             &reallocate<Resource::curl>, &copyText, &allocateZeroed) == CURLE_OK;
     if (!isTaken) {
         std::abort();
     }
@@ -77,17 +93,17 @@ const bool isInstalled = [] {
 
 } // namespace
 
-FailingAllocation::FailingAllocation(Allocator allocator, std::size_t index) {
-    left[static_cast<std::size_t>(allocator)] = static_cast<long>(index);
+FailingResource::FailingResource(Resource resource, std::size_t index) {
+    left[static_cast<std::size_t>(resource)] = static_cast<long>(index);
 }
 
-FailingAllocation::~FailingAllocation() {
+FailingResource::~FailingResource() {
     for (auto& counter : left) {
         counter = 0;
     }
 }
 
-bool FailingAllocation::hasFailed() const {
+bool FailingResource::hasFailed() const {
     for (const auto& counter : left) {
         if (counter > 0) {
             return false;
@@ -96,7 +112,7 @@ bool FailingAllocation::hasFailed() const {
     return true;
 }
 
-void FailingAllocation::spareThisThread() {
+void FailingResource::spareThisThread() {
     isSpared = true;
 }
 
@@ -113,7 +129,7 @@ std::size_t PeakMemory::bytes() const {
 // The forms of `new` that are not replaced here call these.
 void* operator new(std::size_t size) {
     using namespace quillet::testing;
-    if (void* const memory = allocate<Allocator::cpp>(size)) {
+    if (void* const memory = allocate<Resource::cpp>(size)) {
         return hold(memory);
     }
     throw std::bad_alloc();
@@ -121,7 +137,7 @@ void* operator new(std::size_t size) {
 
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     using namespace quillet::testing;
-    void* const memory = allocate<Allocator::cpp>(size);
+    void* const memory = allocate<Resource::cpp>(size);
     return memory ? hold(memory) : nullptr;
 }
 
@@ -136,3 +152,34 @@ void operator delete(void* memory, std::size_t) noexcept {
 void operator delete(void* memory, const std::nothrow_t&) noexcept {
     quillet::testing::release(memory);
 }
+
+extern "C" {
+
+int pthread_create(pthread_t* thread, const pthread_attr_t* attributes, void* (*run)(void*),
+                   void* argument) noexcept {
+    using namespace quillet::testing;
+    const int result = givenBySystem(Resource::threads, "pthread_create", thread, attributes, run, argument);
+    return result < 0 ? EAGAIN : result;
+}
+
+int socket(int domain, int type, int protocol) noexcept {
+    using namespace quillet::testing;
+    return givenBySystem(Resource::sockets, "socket", domain, type, protocol);
+}
+
+int socketpair(int domain, int type, int protocol, int* pair) noexcept {
+    using namespace quillet::testing;
+    return givenBySystem(Resource::sockets, "socketpair", domain, type, protocol, pair);
+}
+
+// Libraries that take large files on every machine open them with this one.
+FILE* fopen64(const char* path, const char* mode) {
+    using namespace quillet::testing;
+    if (fails(Resource::files)) {
+        errno = EMFILE;
+        return nullptr;
+    }
+    return reinterpret_cast<FILE* (*)(const char*, const char*)>(dlsym(RTLD_NEXT, "fopen64"))(path, mode);
+}
+
+} // extern "C"

@@ -4,23 +4,24 @@
 
 namespace quillet::testing {
 
-/// The allocators: operator new, libcurl's and OpenSSL's.
-enum class Allocator { cpp, curl, openSsl };
+/// What can run short: what operator new, libcurl's and OpenSSL's allocators give, threads, sockets and the
+/// like, and files.
+enum class Resource { cpp, curl, openSsl, threads, sockets, files };
 
-/// Makes one allocation of the process fail while it exists. Linking it into a program replaces the program's
-/// allocation functions and those of the two libraries.
-class FailingAllocation {
+/// Refuses a resource once while it exists. Linking it into a program replaces the program's allocation
+/// functions, those of the two libraries, and the system's functions that give the other resources.
+class FailingResource {
 public:
-    /// Fails the `index`th allocation of `allocator`, counted from 1 over all threads that are not exempt.
-    FailingAllocation(Allocator allocator, std::size_t index);
-    ~FailingAllocation();
-    FailingAllocation(const FailingAllocation&) = delete;
-    FailingAllocation& operator=(const FailingAllocation&) = delete;
+    /// Refuses at the `index`th time, counted from 1 over all threads that are not exempt.
+    FailingResource(Resource resource, std::size_t index);
+    ~FailingResource();
+    FailingResource(const FailingResource&) = delete;
+    FailingResource& operator=(const FailingResource&) = delete;
 
-    /// Whether that allocation was reached.
+    /// Whether that time was reached.
     [[nodiscard]] bool hasFailed() const;
 
-    /// Exempts the calling thread: its allocations neither fail nor count.
+    /// Exempts the calling thread: it is refused nothing and not counted.
     static void spareThisThread();
 };
 

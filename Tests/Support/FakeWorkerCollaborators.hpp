@@ -4,7 +4,6 @@
 #include "Network/Services/SellOutCartServiceRequestable.hpp"
 #include "Network/Services/SellOutCartsStatusOpenServiceRequestable.hpp"
 #include "Quillet/Platform/MainQueue.hpp"
-#include "Quillet/Workers.hpp"
 #include "Workers/DispatchQueuing.hpp"
 
 #include <memory>
@@ -57,41 +56,6 @@ public:
 
 private:
     std::shared_ptr<Conversation<CheckoutResult>> talk_;
-};
-
-/// Records the status of each result that it gets.
-template <typename Result, typename Base>
-class FakeWorkerDelegate : public Base {
-public:
-    explicit FakeWorkerDelegate(std::shared_ptr<Conversation<Result>> talk) : talk_(std::move(talk)) {}
-
-protected:
-    void took(const Result& result) {
-        talk_->log.push_back("result " + std::to_string(result.httpStatusCode));
-    }
-
-    std::shared_ptr<Conversation<Result>> talk_;
-};
-
-class FakeAssociateDelegate final
-    : public FakeWorkerDelegate<OrderResult, AssociateConsultantToCartWorkerDelegate> {
-public:
-    using FakeWorkerDelegate::FakeWorkerDelegate;
-    void didAssociate(const std::shared_ptr<const OrderResult>& result) override { took(*result); }
-};
-
-class FakeOpenOrdersDelegate final
-    : public FakeWorkerDelegate<OpenOrdersResult, GetOpenOrdersWorkerDelegate> {
-public:
-    using FakeWorkerDelegate::FakeWorkerDelegate;
-    void didGetOpenOrders(const std::shared_ptr<const OpenOrdersResult>& result) override { took(*result); }
-};
-
-class FakeCheckoutDelegate final : public FakeWorkerDelegate<CheckoutResult, CheckoutWorkerDelegate> {
-public:
-    using FakeWorkerDelegate::FakeWorkerDelegate;
-    void willCheckout() override { talk_->log.push_back("starting"); }
-    void didCheckout(const std::shared_ptr<const CheckoutResult>& result) override { took(*result); }
 };
 
 /// A main queue that the test drains.

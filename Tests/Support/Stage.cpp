@@ -1,6 +1,8 @@
 #include "Support/Stage.hpp"
 
 #include <QAccessible>
+#include <QAnimationDriver>
+#include <QBasicTimer>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QQmlComponent>
@@ -44,6 +46,7 @@ std::vector<std::string>& collected() {
 }
 
 QtMessageHandler previousHandler = nullptr;
+int stages = 0;
 
 void collect(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     if (message.contains(QLatin1String("qrc:")) || message.contains(QLatin1String("QML")) ||
@@ -51,6 +54,40 @@ void collect(QtMsgType type, const QMessageLogContext& context, const QString& m
         collected().push_back(message.toStdString());
     }
     previousHandler(type, context, message);
+}
+
+/// Qt's animation clock made faster: a tick advances it by a twentieth of a second, however soon it comes.
+class HurriedAnimations final : public QAnimationDriver {
+public:
+    [[nodiscard]] qint64 elapsed() const override { return elapsed_; }
+
+protected:
+    void start() override {
+        elapsed_ = 0;
+        timer_.start(1, this);
+        QAnimationDriver::start();
+    }
+    void stop() override {
+        timer_.stop();
+        QAnimationDriver::stop();
+    }
+    void timerEvent(QTimerEvent*) override {
+        elapsed_ += 50;
+        advance();
+    }
+
+private:
+    QBasicTimer timer_;
+    qint64 elapsed_ = 0;
+};
+
+void hurryAnimations() {
+    static std::unique_ptr<HurriedAnimations> driver;
+    if (!driver) {
+        driver = std::make_unique<HurriedAnimations>();
+        driver->install();
+        qAddPostRoutine([] { driver.reset(); });
+    }
 }
 
 QPointingDevice& fingers() {
@@ -94,8 +131,11 @@ bool turnUntilFor(std::chrono::milliseconds longest, const std::function<bool()>
 }
 
 Stage::Stage(const char* host) : engine_(std::make_unique<QQmlEngine>()) {
-    collected().clear();
-    previousHandler = qInstallMessageHandler(collect);
+    hurryAnimations();
+    if (stages++ == 0) {
+        collected().clear();
+        previousHandler = qInstallMessageHandler(collect);
+    }
     QQmlComponent component(engine_.get());
     component.setData(host ? host : usualHost, QUrl());
     window_.reset(qobject_cast<QQuickWindow*>(component.create()));
@@ -107,7 +147,9 @@ Stage::Stage(const char* host) : engine_(std::make_unique<QQmlEngine>()) {
 Stage::~Stage() {
     window_.reset();
     engine_.reset();
-    qInstallMessageHandler(previousHandler);
+    if (--stages == 0) {
+        qInstallMessageHandler(previousHandler);
+    }
 }
 
 QQuickItem& Stage::stack() const {
@@ -155,6 +197,18 @@ void Stage::clickAt(QPointF point) {
 void Stage::touchAt(QPointF point) {
     QTest::touchEvent(window_.get(), &fingers()).press(0, point.toPoint());
     QTest::touchEvent(window_.get(), &fingers()).release(0, point.toPoint());
+}
+
+void Stage::tapRepeatedly(QPointF point, int times, bool byFinger) {
+    for (int tap = 0; byFinger && tap < times; ++tap) {
+        touchAt(point);
+    }
+    if (!byFinger && times > 1) {
+        QTest::mouseDClick(window_.get(), Qt::LeftButton, {}, point.toPoint());
+    }
+    if (!byFinger && times != 2) {
+        QTest::mouseClick(window_.get(), Qt::LeftButton, {}, point.toPoint());
+    }
 }
 
 void Stage::touchWhileResting(QPointF resting, QPointF tapped) {

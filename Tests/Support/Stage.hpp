@@ -19,7 +19,8 @@ namespace quillet::testing {
 /// The same within a given time.
 [[nodiscard]] bool turnUntilFor(std::chrono::milliseconds longest, const std::function<bool()>& condition);
 
-/// A host's window with a bar and a StackView below it, and the warnings of QML meanwhile.
+/// A host's window with a bar and a StackView below it, and the warnings of QML meanwhile. Qt's animations
+/// run faster than in real time from the first stage on.
 class Stage {
 public:
     /// `host` is the QML of another host's window, with a `stack` and a `bar` among its properties.
@@ -54,6 +55,8 @@ public:
     /// The same with a finger: down and up again.
     void touch(const QString& textOrName) { touchAt(middle(textOrName)); }
     void touchAt(QPointF point);
+    /// Several clicks or touches so fast that Qt takes two for a double click; up to three.
+    void tapRepeatedly(QPointF point, int times, bool byFinger);
     /// One finger stays down at the first point while another taps at the second.
     void touchWhileResting(QPointF resting, QPointF tapped);
     /// Presses as a screen reader does.

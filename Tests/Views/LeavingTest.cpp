@@ -1,196 +1,150 @@
-#include "Checkout/CheckoutFactory.hpp"
-#include "KelCommon/KelAnalyticsManager.hpp"
-#include "Models/Bodies.hpp"
-#include "Quillet/Quillet.hpp"
-#include "Quillet/Testing/RecordingHost.hpp"
-#include "Support/FaultServer.hpp"
-#include "Support/Stage.hpp"
-#include "Views/Animation/ViewAnimating.hpp"
-#include "Workers/CheckoutWorkerFactory.hpp"
+#include "Support/ModuleOnStage.hpp"
 
 #include <QPointer>
 
-#include <gmock/gmock.h>
-
-#include <atomic>
-#include <latch>
 #include <ostream>
 
 namespace quillet::testing {
 
 namespace {
 
+using ::testing::Each;
 using ::testing::IsEmpty;
-using namespace quillet::tests;
+using ::testing::Not;
+using ::testing::StartsWith;
 
-/// The number of ended calls.
-class EndCounter final : public platform::URLSessionObserving {
-public:
-    void willSend(std::uint64_t, const platform::URLRequest&) override {}
-    void didEnd(std::uint64_t, const platform::URLRequest&, const platform::URLSessionExchangeEnd&) override {
-        ++ends;
-    }
+/// What the host does away with.
+enum class Ending { page, allPages, window, delegate };
+const Ending endings[] = {Ending::page, Ending::allPages, Ending::window, Ending::delegate};
+const std::string names[] = {"Page", "AllPages", "Window", "Delegate"};
 
-    std::atomic<std::size_t> ends = 0;
-};
+/// What is on its way then.
+enum class Pending { answer, queuedAnswer, fadeOfATap, screenReader };
 
-/// What is pending when the host removes the screen.
-enum class Pending { answer, fadeOfATap, screenReader };
-
-struct Case {
+struct Moment {
     const char* name;
-    enum { summary, checkout } first;
-    /// The answers to the calls in order; the last may be pending.
-    std::vector<Answer> answers;
-    /// Clicked before.
-    std::vector<const char*> clicks;
     Pending pending;
-    /// Tapped just before the removal, or pressed by a screen reader after it: StackView blocks input on
-    /// moving pages, but not a screen reader.
-    const char* used = nullptr;
-
-    friend void PrintTo(const Case& testCase, std::ostream* stream) { *stream << testCase.name; }
+    /// Where the sample's answer is not the one.
+    std::vector<std::pair<Call, Reply>> replies;
+    /// The requests until then.
+    std::size_t requests;
+    /// Clicked until then.
+    std::vector<QString> clicks;
+    /// Pressed by a screen reader after the end: StackView blocks input on moving pages, but not this.
+    QString pressed = {};
 };
 
-std::vector<Case> cases() {
-    const auto order = Answer::complete(200, orderJson);
-    const auto openOrders = Answer::complete(200, openOrdersJson);
-    const auto result = Answer::complete(200, checkoutJson);
-    const auto timeOut = Answer::complete(504, "");
-    const auto failure = Answer::complete(500, "");
-    using enum Pending;
-    return {
-        {"SummaryAssociates", Case::summary, {order}, {}, answer},
-        {"SummaryGetsOrders", Case::summary, {order, openOrders}, {}, answer},
-        {"SummaryFails", Case::summary, {failure, failure}, {}, answer},
-        {"SummaryDialog", Case::summary, {order, openOrders}, {}, fadeOfATap, "Ver Pedidos"},
-        {"SummarySends",
-         Case::summary,
-         {order, openOrders},
-         {"Ver Pedidos"},
-         screenReader,
-         "Enviar productos a mi carrito"},
-        {"SummaryRetries", Case::summary, {timeOut, failure}, {}, screenReader, "Actualizar"},
-        {"CheckoutSucceeds", Case::checkout, {result}, {}, answer},
-        {"CheckoutFails", Case::checkout, {failure}, {}, answer},
-        {"CheckoutRetries", Case::checkout, {failure}, {}, fadeOfATap, "Actualizar"},
-        {"CheckoutGoesHome", Case::checkout, {failure}, {}, fadeOfATap, "dialogCloseIcon"},
-        {"ResultGoesToCart", Case::checkout, {result}, {}, screenReader, "Ir al carrito"},
-        {"ResultHidesSection", Case::checkout, {result}, {}, screenReader, "Productos enviados"},
-    };
-}
-
-struct Leaving : ::testing::TestWithParam<Case> {
-    Leaving() {
-        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<RecordingAnalytics>(log));
-        platform::URLSessionConfiguration::setDefaultConfiguration(
-            {.caBundleFile = authority.bundleFile(),
-             .hostMappings = {{.host = gateway, .address = "127.0.0.1", .port = server.port()}},
-             .observer = calls});
-    }
-    ~Leaving() override {
-        letAnswerGo();
-        kel::KelAnalyticsManager::shared()->setSink(nullptr);
-        platform::URLSessionConfiguration::setDefaultConfiguration({});
-        EXPECT_THAT(Stage::complaints(), IsEmpty());
+struct Leaving : ModuleOnStage, ::testing::WithParamInterface<Ending> {
+    std::vector<Moment> moments() {
+        using enum Pending;
+        const auto late = [](Call call, std::int64_t status) {
+            return std::pair(
+                call, Reply{.status = status, .body = sampleBody(call), .after = std::chrono::seconds(5)});
+        };
+        const std::pair fails(Call::checkout, Reply{.status = 500});
+        const std::pair timesOut(Call::associate, Reply{.status = 504});
+        std::vector<Moment> all;
+        for (const Pending pending : {answer, queuedAnswer}) {
+            all.push_back({"associates", pending, {late(Call::associate, 200)}, 1, {}});
+            all.push_back({"gets orders", pending, {late(Call::getOpenOrders, 200)}, 2, {}});
+            all.push_back({"fails", pending, {timesOut, late(Call::getOpenOrders, 500)}, 2, {}});
+            all.push_back({"checks out", pending, {late(Call::checkout, 200)}, 3, {viewOrders, send}});
+            all.push_back(
+                {"fails to check out", pending, {late(Call::checkout, 500)}, 3, {viewOrders, send}});
+        }
+        all.push_back({"summary's dialog", fadeOfATap, {}, 2, {viewOrders}});
+        all.push_back({"checkout's retry", fadeOfATap, {fails}, 3, {viewOrders, send, retry}});
+        all.push_back({"checkout's way home", fadeOfATap, {fails}, 3, {viewOrders, send, closeIcon}});
+        all.push_back({"sends", screenReader, {}, 2, {viewOrders}, send});
+        all.push_back({"retries", screenReader, {timesOut}, 2, {}, retry});
+        all.push_back({"goes to cart", screenReader, {}, 3, {viewOrders, send}, goToCart});
+        all.push_back({"hides section", screenReader, {}, 3, {viewOrders, send}, "Productos enviados"});
+        return all;
     }
 
-    void letAnswerGo() {
-        if (const auto gate = std::exchange(gate_, nullptr)) {
-            gate->count_down();
+    void reach(const Moment& moment) {
+        backend = ScriptedBackend::install();
+        host = std::make_shared<RecordingNavigation>(log);
+        stage = stage ? std::move(stage) : std::make_unique<Stage>();
+        for (const auto& [call, reply] : moment.replies) {
+            backend->script(call, {reply});
+        }
+        open();
+        clickThrough(moment.clicks);
+        ASSERT_TRUE(turnUntil([&] { return backend->requests().size() == moment.requests && settled(); }));
+        ASSERT_TRUE(moment.pressed.isEmpty() || comesToShow(moment.pressed));
+        if (moment.pending == Pending::queuedAnswer) {
+            backend->clock()->advance(std::chrono::seconds(5));
+        }
+        page = stage->stack()
+                   .property("currentItem")
+                   .value<QQuickItem*>()
+                   ->property("viewController")
+                   .value<QObject*>();
+        log->clear();
+    }
+
+    void end() {
+        switch (GetParam()) {
+        case Ending::page:
+            stage->popSlowly(std::chrono::seconds(1));
+            break;
+        case Ending::allPages:
+            stage->popAll();
+            break;
+        case Ending::window:
+            stage.reset();
+            break;
+        case Ending::delegate:
+            host.reset();
+            break;
         }
     }
 
-    void script(std::vector<Answer> answers) {
-        if (GetParam().pending == Pending::answer) {
-            std::string& whole = answers.back().pieces[0];
-            answers.back() = {.pieces = {whole.substr(0, 1), whole.substr(1)}, .gate = gate_};
-        }
-        for (Answer& answer : answers) {
-            server.enqueue(std::move(answer));
-        }
-    }
-
-    void open() {
-        const auto starter = Starter::create("token", "idp", {"cart-1", 41051, "CL"}, host);
-        const auto screen =
-            GetParam().first == Case::summary
-                ? starter->createRootViewController()
-                : CheckoutFactory(std::make_unique<CheckoutWorkerFactory>(
-                                      "CL", 41051, starter->authorization(), starter->domainUrl()),
-                                  std::make_unique<CheckoutConfigurator>(), host)
-                      .create();
-        ASSERT_TRUE(present(screen, stage.stack()));
-    }
-
-    [[nodiscard]] bool settled() const { return !stage.stack().property("busy").toBool(); }
-    [[nodiscard]] bool comesToShow(const char* text) const {
-        return turnUntil([&] { return stage.shows(text) && settled(); });
-    }
-
-    Log log = makeLog();
-    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(log);
-    std::string gateway = Starter::create("", "", {}, nullptr)->domainUrl();
-    TestAuthority authority;
-    FaultServer server{authority.serverContext(gateway)};
-    std::shared_ptr<EndCounter> calls = std::make_shared<EndCounter>();
-    Stage stage;
-
-private:
-    std::shared_ptr<std::latch> gate_ = std::make_shared<std::latch>(1);
+    QPointer<QObject> page;
 };
 
 } // namespace
 
-TEST_P(Leaving, EndsWithThePopAndNotWithItsAnimation) {
-    const Case& way = GetParam();
-    script(way.answers);
-    open();
-    for (const char* text : way.clicks) {
-        ASSERT_TRUE(comesToShow(text));
-        stage.click(text);
-        ASSERT_TRUE(turnUntil([&] { return !stage.shows(text); }));
-    }
-    ASSERT_TRUE(turnUntil([&] { return server.requests().size() == way.answers.size() && settled(); }));
-    ASSERT_TRUE(!way.used || comesToShow(way.used));
-    const QPointer<QObject> screen = stage.stack()
-                                         .property("currentItem")
-                                         .value<QQuickItem*>()
-                                         ->property("viewController")
-                                         .value<QObject*>();
-    const int depth = stage.depth();
-    log->clear();
+TEST_P(Leaving, EndsAtOnceWhateverIsOnItsWay) {
+    const auto all = moments();
+    for (const Moment& moment : all) {
+        SCOPED_TRACE(moment.name);
+        SCOPED_TRACE(static_cast<int>(moment.pending));
+        ASSERT_NO_FATAL_FAILURE(reach(moment));
+        const bool leaves = GetParam() != Ending::delegate;
+        const bool isMoving = GetParam() == Ending::page;
+        end();
+        backend->clock()->advance(std::chrono::seconds(5));
+        if (!moment.pressed.isEmpty() && (isMoving || !leaves)) {
+            for (const bool byFinger : {false, true}) {
+                if (isMoving) {
+                    stage->tapRepeatedly(stage->middle(moment.pressed), 1, byFinger);
+                }
+            }
+            stage->pressByScreenReader(moment.pressed);
+        }
+        // As long as a dialog's fade, which has begun before.
+        ASSERT_NO_FATAL_FAILURE(animateFor(std::chrono::milliseconds(710)));
+        EXPECT_EQ(isMoving, stage && !settled());
+        ASSERT_TRUE(turnUntil([&] { return !stage || (settled() && page.isNull() == leaves); }));
 
-    std::function<bool()> came = [] { return true; };
-    std::chrono::milliseconds wayOut(1'000);
-    bool faded = false;
-    if (way.pending == Pending::answer) {
-        came = [&] { return calls->ends == way.answers.size(); };
-    } else if (way.pending == Pending::fadeOfATap) {
-        stage.click(way.used);
-        // As long as the dialog's fade, and driven by the same clock.
-        ViewAnimatingWrapper().animate(
-            std::chrono::milliseconds(710), [](double) {}, [&] { faded = true; });
-        came = [&] { return faded; };
-        wayOut *= 2;
+        EXPECT_EQ(page.isNull(), leaves);
+        if (leaves) {
+            EXPECT_THAT(taken(log), IsEmpty());
+            EXPECT_EQ(backend->requests().size(), moment.requests);
+            EXPECT_FALSE(stage && stage->shows(closeIcon));
+        } else {
+            EXPECT_THAT(taken(log), Each(Not(StartsWith("navigate"))));
+        }
+        if (stage) {
+            stage->popAll();
+        }
     }
-    stage.popSlowly(wayOut);
-    ASSERT_FALSE(settled());
-    letAnswerGo();
-    if (way.pending == Pending::screenReader) {
-        stage.pressByScreenReader(way.used);
-    }
-    ASSERT_TRUE(turnUntil(came));
-    EXPECT_FALSE(settled());
-    ASSERT_TRUE(turnUntil([&] { return settled() && !screen; }));
-
-    EXPECT_THAT(*log, IsEmpty());
-    EXPECT_EQ(server.requests().size(), way.answers.size());
-    EXPECT_EQ(stage.depth(), depth - 1);
-    EXPECT_FALSE(stage.shows("dialogCloseIcon"));
+    RecordProperty("cases", static_cast<int>(all.size()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, Leaving, ::testing::ValuesIn(cases()),
-                         [](const auto& testCase) { return std::string(testCase.param.name); });
+INSTANTIATE_TEST_SUITE_P(, Leaving, ::testing::ValuesIn(endings),
+                         [](const auto& parameter) { return names[static_cast<int>(parameter.param)]; });
 
 } // namespace quillet::testing

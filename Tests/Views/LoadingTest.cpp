@@ -63,20 +63,6 @@ TEST(LoadingView, SaysThatItTakesLongAfterFiveSecondsOnScreen) {
     }
 }
 
-TEST(ProgressIndicator, MovesItsArcByTheFormula) {
-    LoadingView loading;
-    loading.startLoading();
-    loading.progressIndicator()->draw(item);
-    const SemiCircleLayer& arc = *loading.progressIndicator()->semiCircleLayer();
-    for (const auto& [time, start, end] : moments) {
-        SCOPED_TRACE(time);
-        const platform::LayerMoment moment = arc.at(time);
-        EXPECT_NEAR(moment.strokeStart, start, 1e-3);
-        EXPECT_NEAR(moment.strokeEnd, end, 1e-3);
-        EXPECT_NEAR(moment.rotation, turn * time / 4, 1e-9);
-    }
-}
-
 TEST(ProgressIndicator, DrawsTheArcWhereTheFormulaHasIt) {
     LoadingView loading;
     loading.startLoading();

@@ -2,9 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <atomic>
-#include <thread>
 #include <vector>
 
 namespace quillet {
@@ -52,33 +49,6 @@ TEST(MainQueue, WakesTheEventLoopForEveryBlock) {
     queue.setWakeUp(nullptr);
     queue.async([] {});
     EXPECT_EQ(wakeUps, 3);
-}
-
-TEST(MainQueue, LosesNothingThatThreadsQueueWhileItIsDrained) {
-    constexpr int each = 1000;
-    platform::MainQueue queue;
-    std::atomic<int> wakeUps = 0;
-    queue.setWakeUp([&] { ++wakeUps; });
-    std::vector<int> ran[2];
-    std::vector<std::thread> threads;
-    for (auto& list : ran) {
-        threads.emplace_back([&] {
-            for (int i = 0; i < each; ++i) {
-                queue.async([&list, i] { list.push_back(i); });
-            }
-        });
-    }
-    for (std::size_t done = 0; done < 2 * each;) {
-        done += queue.drain();
-    }
-    for (auto& thread : threads) {
-        thread.join();
-    }
-    EXPECT_EQ(wakeUps, 2 * each);
-    for (const auto& list : ran) {
-        EXPECT_TRUE(std::ranges::is_sorted(list));
-        EXPECT_EQ(list.size(), std::size_t{each});
-    }
 }
 
 TEST(MainQueue, DropsABlockThatItCannotWakeAnybodyFor) {

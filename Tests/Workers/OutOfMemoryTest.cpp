@@ -9,9 +9,7 @@
 #include <curl/curl.h>
 #include <gtest/gtest.h>
 
-#include <pthread.h>
-
-#include <limits>
+#include <filesystem>
 #include <semaphore>
 #include <thread>
 
@@ -19,19 +17,25 @@ namespace quillet {
 
 namespace {
 
-using testing::Allocator;
 using testing::Answer;
-using testing::FailingAllocation;
+using testing::FailingResource;
+using testing::Resource;
 
-/// Which allocator fails, and the step from one failing allocation to the next.
+/// What is refused, the step from one refused time to the next, and the order lines of the answer.
 struct Scarcity {
     std::string name;
-    Allocator allocator;
-    std::size_t step;
+    Resource resource;
+    std::size_t step = 1;
+    std::size_t items = 1;
 };
 
 std::ostream& operator<<(std::ostream& stream, const Scarcity& scarcity) {
     return stream << scarcity.name;
+}
+
+std::size_t openFiles() {
+    const std::filesystem::directory_iterator files("/proc/self/fd");
+    return static_cast<std::size_t>(std::distance(begin(files), end(files)));
 }
 
 // Only counts, since recording results would allocate as well.
@@ -51,10 +55,15 @@ public:
 /// A worker with its own server, which has two complete answers.
 class WorkerTrial {
 public:
-    explicit WorkerTrial(const testing::TestAuthority& authority)
-        : server(authority.serverContext("gateway.test"), {.onThread = &FailingAllocation::spareThisThread}) {
-        server.enqueue(Answer::complete(200, tests::orderJson));
-        server.enqueue(Answer::complete(200, tests::orderJson));
+    WorkerTrial(const testing::TestAuthority& authority, std::size_t items)
+        : server(authority.serverContext("gateway.test"), {.onThread = &FailingResource::spareThisThread}) {
+        std::string lines = tests::itemJson;
+        for (std::size_t line = 1; line < items; ++line) {
+            lines += "," + tests::itemJson;
+        }
+        const std::string body = tests::replaced(tests::orderJson, tests::itemJson, lines);
+        server.enqueue(Answer::complete(200, body));
+        server.enqueue(Answer::complete(200, body));
         platform::URLSessionConfiguration::setDefaultConfiguration(
             {.caBundleFile = authority.bundleFile(),
              .hostMappings = {{.host = "gateway.test", .address = "127.0.0.1", .port = server.port()}},
@@ -95,50 +104,35 @@ public:
     std::shared_ptr<AssociateConsultantToCartWorker> worker;
 };
 
-struct OutOfThreads : ::testing::Test {
-    OutOfThreads() { FailingAllocation::spareThisThread(); }
+struct OutOf : ::testing::TestWithParam<Scarcity> {
+    OutOf() { FailingResource::spareThisThread(); }
 
     testing::TestAuthority authority;
 };
 
-struct OutOfMemory : OutOfThreads, ::testing::WithParamInterface<Scarcity> {};
-
 // libcurl 8.22 passes a null pointer to OpenSSL, which crashes. 8.14 does not.
 constexpr unsigned firstThatCrashes = 0x080F00;
 
-// From here on no thread can start: its stack would be larger than the address space.
-class NoThreads {
-public:
-    NoThreads() {
-        pthread_getattr_default_np(&before_);
-        pthread_attr_t attributes;
-        pthread_attr_init(&attributes);
-        pthread_attr_setstacksize(&attributes, std::numeric_limits<std::size_t>::max() / 8 * 7);
-        pthread_setattr_default_np(&attributes);
-    }
-    ~NoThreads() { pthread_setattr_default_np(&before_); }
-
-private:
-    pthread_attr_t before_;
-};
-
 } // namespace
 
-// Each allocation fails once in turn. The call delivers its answer or an error exactly once, and the next
-// call delivers its answer.
-TEST_P(OutOfMemory, FailsTheCallAndNotTheNextOne) {
+// Each time is refused once in turn. The call delivers its answer or an error exactly once, and the next call
+// delivers its answer.
+TEST_P(OutOf, FailsTheCallAndNotTheNextOne) {
+    const auto& [name, resource, step, items] = GetParam();
     const auto* const libcurl = curl_version_info(CURLVERSION_NOW);
-    if (GetParam().allocator == Allocator::openSsl && libcurl->version_num >= firstThatCrashes) {
+    if (resource == Resource::openSsl && libcurl->version_num >= firstThatCrashes) {
         GTEST_SKIP() << "libcurl " << libcurl->version
                      << " uses the connection that OpenSSL had no memory for.";
     }
+    int cases = 0;
     std::size_t failed = 0;
     bool wasReached = true;
-    for (std::size_t index = 1; wasReached; index += GetParam().step) {
+    const std::size_t before = openFiles();
+    for (std::size_t index = 1; wasReached; index += step) {
         SCOPED_TRACE(index);
-        WorkerTrial trial(authority);
+        WorkerTrial trial(authority, items);
         {
-            const FailingAllocation failing(GetParam().allocator, index);
+            const FailingResource failing(resource, index);
             std::thread([&] { trial.worker->execute(); }).join();
             ASSERT_NO_FATAL_FAILURE(trial.deliver());
             wasReached = failing.hasFailed();
@@ -147,25 +141,25 @@ TEST_P(OutOfMemory, FailsTheCallAndNotTheNextOne) {
         EXPECT_LE(trial.server.requests().size(), 1u);
         failed += trial.delegate->failed;
         ASSERT_NO_FATAL_FAILURE(trial.expectNextCallComplete());
+        ++cases;
     }
     EXPECT_GT(failed, 0u);
-}
-
-TEST_F(OutOfThreads, FailsTheCallAndNotTheNextOne) {
-    WorkerTrial trial(authority);
-    {
-        const NoThreads none;
-        trial.worker->execute();
+    // The sessions' threads end, and close what they have, after the workers.
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    while (openFiles() > before && std::chrono::steady_clock::now() < deadline) {
+        std::this_thread::yield();
     }
-    ASSERT_NO_FATAL_FAILURE(trial.deliver());
-    EXPECT_EQ(trial.delegate->failed, 1u);
-    ASSERT_NO_FATAL_FAILURE(trial.expectNextCallComplete());
+    EXPECT_LE(openFiles(), before);
+    RecordProperty("cases", cases);
 }
 
-INSTANTIATE_TEST_SUITE_P(, OutOfMemory,
-                         ::testing::Values(Scarcity{"Cpp", Allocator::cpp, 1},
-                                           Scarcity{"Curl", Allocator::curl, 1},
-                                           Scarcity{"OpenSsl", Allocator::openSsl, 23}),
+INSTANTIATE_TEST_SUITE_P(, OutOf,
+                         ::testing::Values(Scarcity{"Memory", Resource::cpp},
+                                           Scarcity{"CurlsMemory", Resource::curl},
+                                           Scarcity{"OpenSslsMemory", Resource::openSsl, 23},
+                                           Scarcity{"Threads", Resource::threads, 1, 1000},
+                                           Scarcity{"Sockets", Resource::sockets},
+                                           Scarcity{"Files", Resource::files}),
                          [](const auto& parameter) { return parameter.param.name; });
 
 } // namespace quillet

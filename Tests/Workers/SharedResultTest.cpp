@@ -42,16 +42,4 @@ TEST(SharedResult, IsFreedOnAThreadOfItsOwnIfItIsLarge) {
     EXPECT_TRUE(isFreedElsewhere(1000));
 }
 
-TEST(SharedResult, CountsTheRecordsThatItHolds) {
-    Order order;
-    order.regularItems.resize(3);
-    order.benefitItems.resize(2);
-    EXPECT_EQ(records(OrderResult{OrderResponse{{}, order}, {}, 200}), 5);
-    EXPECT_EQ(records(OpenOrdersResult{OpenOrdersResponse{{}, {order, order}}, {}, 200}), 12);
-    CheckoutResponse response;
-    response.products.resize(7);
-    EXPECT_EQ(records(CheckoutResult{response, {}, 200}), 7);
-    EXPECT_EQ(records(OrderResult{}) + records(OpenOrdersResult{}) + records(CheckoutResult{}), 0);
-}
-
 } // namespace quillet::testing

@@ -1,130 +1,225 @@
-#include "Support/FakeWorkerCollaborators.hpp"
-#include "Workers/AssociateConsultantToCartWorker.hpp"
-#include "Workers/CheckoutWorker.hpp"
-#include "Workers/GetOpenOrdersWorker.hpp"
+#include "Quillet/Backend.hpp"
+#include "Quillet/Testing/ScriptedBackend.hpp"
+#include "Support/RecordingDelegate.hpp"
+#include "Support/SandboxedSession.hpp"
 
 #include <gmock/gmock.h>
 
-#include <optional>
+#include <latch>
+#include <semaphore>
+#include <thread>
 
-namespace quillet {
+namespace quillet::testing {
 
 namespace {
 
+using namespace std::chrono_literals;
 using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+using Lines = std::vector<std::string>;
 
-// One row per worker: how it is made and what its execution records.
-struct Associate {
-    static constexpr auto name = "Associate";
-    using Result = OrderResult;
-    using Delegate = testing::FakeAssociateDelegate;
-    static std::vector<std::string> started() { return {"call cart 7"}; }
-    static auto make(auto talk, auto queue) {
-        return std::make_shared<AssociateConsultantToCartWorker>(
-            std::make_unique<testing::FakeAssociateService>(talk), "cart", 7, std::move(queue));
-    }
-};
+/// What goes, and at which step of a call.
+enum class Gone { neither, theWorker, theDelegate, both };
+enum class Step { beforeStart, underWay, queued, inTheCallback };
 
-struct GetOpenOrders {
-    static constexpr auto name = "GetOpenOrders";
-    using Result = OpenOrdersResult;
-    using Delegate = testing::FakeOpenOrdersDelegate;
-    static std::vector<std::string> started() { return {"call"}; }
-    static auto make(auto talk, auto queue) {
-        return std::make_shared<GetOpenOrdersWorker>(std::make_unique<testing::FakeOpenOrdersService>(talk),
-                                                     std::move(queue));
-    }
-};
+struct Workers : ::testing::TestWithParam<Call> {
+    Workers() { worker = make(); }
+    ~Workers() override { ScriptedBackend::uninstall(); }
 
-struct Checkout {
-    static constexpr auto name = "Checkout";
-    using Result = CheckoutResult;
-    using Delegate = testing::FakeCheckoutDelegate;
-    static std::vector<std::string> started() { return {"starting", "call"}; }
-    static auto make(auto talk, auto queue) {
-        return std::make_shared<CheckoutWorker>(std::make_unique<testing::FakeCheckoutService>(talk),
-                                                std::move(queue));
-    }
-};
-
-template <typename Row>
-struct Worker : ::testing::Test {
-    using Result = typename Row::Result;
-
-    // A result with or without a response. Its error is not looked at.
-    static Result result(std::int64_t status, bool hasResponse) {
-        Result made{{}, HttpStatusCodeError{status}, status};
-        auto& [response, error, code] = made;
-        if (hasResponse) {
-            response.emplace();
+    [[nodiscard]] std::shared_ptr<Executable> make() const {
+        const BackendClient client({"token", "idp"}, {"cart", 41052, "CL"}, "gateway.test");
+        switch (GetParam()) {
+        case Call::associate:
+            return client.associate(delegate);
+        case Call::getOpenOrders:
+            return client.getOpenOrders(delegate);
+        case Call::checkout:
+            break;
         }
-        return made;
+        return client.checkout(delegate);
     }
 
-    std::shared_ptr<testing::Conversation<Result>> talk = std::make_shared<testing::Conversation<Result>>();
-    std::shared_ptr<platform::MainQueue> queue = std::make_shared<platform::MainQueue>();
-    decltype(Row::make(talk, std::make_unique<testing::DrainedQueue>(queue))) worker =
-        Row::make(talk, std::make_unique<testing::DrainedQueue>(queue));
-    std::shared_ptr<typename Row::Delegate> delegate = std::make_shared<typename Row::Delegate>(talk);
-
-    Worker() { worker->setDelegate(delegate); }
-};
-
-struct RowNames {
-    template <typename Row>
-    static std::string GetName(int) {
-        return Row::name;
+    void answer(std::int64_t status, std::chrono::seconds after) {
+        backend->script(GetParam(),
+                        {Reply{.status = status, .body = sampleBody(GetParam()), .after = after}});
+        worker->execute();
     }
-};
 
-using Rows = ::testing::Types<Associate, GetOpenOrders, Checkout>;
-TYPED_TEST_SUITE(Worker, Rows, RowNames);
+    void end(Gone gone) {
+        if (gone == Gone::theWorker || gone == Gone::both) {
+            worker.reset();
+        }
+        if (gone == Gone::theDelegate || gone == Gone::both) {
+            delegate.reset();
+        }
+    }
+
+    void pass(std::chrono::milliseconds time) {
+        backend->clock()->advance(time);
+        platform::mainQueue().drain();
+    }
+
+    std::string name = std::vector{"associate", "open orders", "checkout"}[static_cast<size_t>(GetParam())];
+    std::shared_ptr<ScriptedBackend> backend = ScriptedBackend::install();
+    std::shared_ptr<RecordingDelegate> delegate = std::make_shared<RecordingDelegate>();
+    std::shared_ptr<Lines> lines = delegate->lines;
+    std::shared_ptr<Executable> worker;
+};
 
 } // namespace
 
-TYPED_TEST(Worker, TakesTheResultToItsDelegateOnTheMainQueue) {
-    EXPECT_FALSE(this->worker->isFinishedSuccessfully());
-    this->worker->execute();
-    EXPECT_EQ(this->talk->log, TypeParam::started());
-    this->talk->log.clear();
-    this->talk->pending.at(0)(this->result(500, true));
-    EXPECT_TRUE(this->worker->isFinishedSuccessfully());
-    EXPECT_TRUE(this->talk->log.empty());
-    EXPECT_EQ(this->queue->drain(), 1u);
-    EXPECT_THAT(this->talk->log, ElementsAre("result 500"));
+TEST_P(Workers, CallNobodyOnceOneOfTheTwoIsGone) {
+    int cases = 0;
+    for (const Gone gone : {Gone::neither, Gone::theWorker, Gone::theDelegate, Gone::both}) {
+        for (const Step step : {Step::beforeStart, Step::underWay, Step::queued, Step::inTheCallback}) {
+            SCOPED_TRACE(std::to_string(static_cast<int>(gone)) + " at " +
+                         std::to_string(static_cast<int>(step)));
+            delegate = std::make_shared<RecordingDelegate>();
+            lines = delegate->lines;
+            worker = make();
+            const std::weak_ptr<Executable> watched = worker;
+            const std::size_t requests = backend->requests().size();
+            if (step == Step::beforeStart) {
+                end(gone);
+            }
+            const bool isStarted = worker != nullptr;
+            Lines told;
+            if (isStarted) {
+                if (GetParam() == Call::checkout && delegate) {
+                    told.push_back("checking out");
+                }
+                answer(200, 5s);
+            }
+            if (step == Step::underWay) {
+                end(gone);
+            }
+            backend->clock()->advance(5s);
+            if (step == Step::queued) {
+                end(gone);
+            }
+            if (step == Step::inTheCallback) {
+                delegate->then = [&] { end(gone); };
+            }
+            if (step == Step::inTheCallback || gone == Gone::neither) {
+                told.push_back(name + " 200 with a response");
+            }
+            pass(60s);
+
+            EXPECT_THAT(*lines, ElementsAreArray(told));
+            EXPECT_EQ(backend->requests().size(), requests + isStarted);
+            EXPECT_EQ(watched.expired(), !worker);
+            EXPECT_TRUE(!worker || worker->isFinishedSuccessfully());
+            ++cases;
+        }
+    }
+    RecordProperty("cases", cases);
 }
 
-TYPED_TEST(Worker, RemembersTheLatestOutcomeOfSeveralRuns) {
-    this->worker->execute();
-    this->worker->execute();
-    this->talk->log.clear();
-    this->talk->pending.at(1)(this->result(201, true));
-    EXPECT_TRUE(this->worker->isFinishedSuccessfully());
-    this->talk->pending.at(0)(this->result(200, false));
-    EXPECT_FALSE(this->worker->isFinishedSuccessfully());
-    this->queue->drain();
-    EXPECT_THAT(this->talk->log, ElementsAre("result 201", "result 200"));
+TEST_P(Workers, RememberTheLatestOutcomeOfSeveralRuns) {
+    answer(200, 5s);
+    backend->script(GetParam(), {Reply{.status = 504, .body = "", .after = 7s}});
+    worker->execute();
+    answer(201, 3s);
+    lines->clear();
+    EXPECT_FALSE(worker->isFinishedSuccessfully());
+    for (const std::string result :
+         {" 201 with a response", " 200 with a response",
+          " 504: The operation couldn’t be completed. (Quillet.HttpStatusCodeError error 1.)"}) {
+        pass(lines->empty() ? 3s : 2s);
+        EXPECT_EQ(lines->back(), name + result);
+        EXPECT_EQ(worker->isFinishedSuccessfully(), result.find("response") != std::string::npos);
+    }
+    EXPECT_EQ(lines->size(), 3u);
 }
 
-TYPED_TEST(Worker, DropsAResultThatComesAfterItsEnd) {
-    this->worker->execute();
-    this->worker->execute();
-    this->talk->log.clear();
-    this->talk->pending.at(0)(this->result(200, true));
-    this->worker.reset();
-    this->talk->pending.at(1)(this->result(200, true));
-    EXPECT_EQ(this->queue->drain(), 1u);
-    EXPECT_TRUE(this->talk->log.empty());
+TEST_P(Workers, AreAnsweredLateNeverAndByErrors) {
+    const platform::URLError offline{platform::URLError::Code::notConnectedToInternet, "There is no network"};
+    backend->script(GetParam(), {Reply{.body = sampleBody(GetParam()), .after = 59'999ms}, Reply::never(),
+                                 Reply{.error = offline}});
+    for (int run = 0; run < 4; ++run) {
+        worker->execute();
+    }
+    const auto told = [&](std::chrono::milliseconds time) {
+        lines->clear();
+        pass(time);
+        return *lines;
+    };
+    // The last reply of a script stays.
+    EXPECT_THAT(told(0ms), ElementsAre(name + " 0: There is no network", name + " 0: There is no network"));
+    EXPECT_THAT(told(59'998ms), ElementsAre());
+    EXPECT_THAT(told(1ms), ElementsAre(name + " 200 with a response"));
+    EXPECT_THAT(told(1ms), ElementsAre(name + " 0: The request timed out"));
 }
 
-TYPED_TEST(Worker, CallsNobodyWhenItsDelegateIsGone) {
-    this->worker->execute();
-    this->talk->log.clear();
-    this->delegate.reset();
-    this->talk->pending.at(0)(this->result(200, true));
-    EXPECT_TRUE(this->worker->isFinishedSuccessfully());
-    EXPECT_EQ(this->queue->drain(), 1u);
-    EXPECT_TRUE(this->talk->log.empty());
+INSTANTIATE_TEST_SUITE_P(, Workers, ::testing::Values(Call::associate, Call::getOpenOrders, Call::checkout),
+                         [](const auto& parameter) {
+                             return parameter.param == Call::associate       ? "Associate"
+                                    : parameter.param == Call::getOpenOrders ? "GetOpenOrders"
+                                                                             : "Checkout";
+                         });
+
+// From execute() over a real session to the process's main queue, each worker on its own connection.
+TEST(WorkersOverTheNetwork, DeliverOnTheMainQueueAndLogNoSecrets) {
+    SandboxedSession sandbox;
+    Lines log;
+    sandbox.configuration.log = [&](const platform::LoggedCall& call) { log.push_back(description(call)); };
+    platform::URLSessionConfiguration::setDefaultConfiguration(sandbox.configuration);
+    std::counting_semaphore waiting(0);
+    platform::mainQueue().setWakeUp([&] { waiting.release(); });
+    const BackendClient client(*authorize("secret access", "idp", "527308"), {"cart 1", 41052, "CL"},
+                               gatewayHost);
+    const auto delegate = std::make_shared<RecordingDelegate>();
+    int status = 200;
+    for (const auto& worker :
+         {client.associate(delegate), client.getOpenOrders(delegate), client.checkout(delegate)}) {
+        sandbox.server.enqueue(Answer::complete(++status, R"({"consultant":{"id":7},"carts":[]})"));
+        worker->execute();
+        ASSERT_TRUE(waiting.try_acquire_for(30s));
+        platform::mainQueue().drain();
+        EXPECT_EQ(worker->isFinishedSuccessfully(), status == 202);
+    }
+    platform::mainQueue().setWakeUp(nullptr);
+
+    const Lines calls{"PATCH /quillet-bff/sell-out-carts/cart%201",
+                      "GET /quillet-bff/consultants/CL/41052/sell-out-carts?status=OPEN",
+                      "POST /quillet-bff/consultants/CL/41052/sell-out-carts/checkout"};
+    const auto requests = sandbox.server.requests();
+    ASSERT_EQ(requests.size(), 3u);
+    for (std::size_t index = 0; index < 3; ++index) {
+        EXPECT_THAT(requests[index], StartsWith(calls[index] + " HTTP/1.1\r\n"));
+        EXPECT_EQ(log.at(index), calls[index] + " " + std::to_string(201 + index) + ", 34 bytes, 0 ms");
+    }
+    EXPECT_THAT(requests.back(), HasSubstr("Authorization-Provider: idp\r\n"));
+    EXPECT_EQ(sandbox.server.connections(), 3u);
+    EXPECT_THAT(*delegate->lines, ElementsAre("associate 201", "open orders 202 with a response",
+                                              "checking out", "checkout 203"));
 }
 
-} // namespace quillet
+// The worker owns its session, so the session's thread frees both.
+TEST(WorkersOverTheNetwork, MayBeReleasedLastOnTheirSessionsThread) {
+    SandboxedSession sandbox;
+    sandbox.server.enqueue(Answer::complete(200, "{}"));
+    platform::URLSessionConfiguration::setDefaultConfiguration(sandbox.configuration);
+    std::latch isHeld(1);
+    std::latch isReleased(1);
+    platform::mainQueue().setWakeUp([&] {
+        isHeld.count_down();
+        isReleased.wait();
+    });
+    auto worker = BackendClient({"token", "idp"}, {"cart", 7, "PE"}, gatewayHost).checkout({});
+    const std::weak_ptr<Executable> watched = worker;
+    worker->execute();
+    isHeld.wait();
+    worker.reset();
+    EXPECT_FALSE(watched.expired());
+    isReleased.count_down();
+    while (!watched.expired()) {
+        std::this_thread::yield();
+    }
+    platform::mainQueue().setWakeUp(nullptr);
+    EXPECT_EQ(platform::mainQueue().drain(), 1u);
+}
+
+} // namespace quillet::testing

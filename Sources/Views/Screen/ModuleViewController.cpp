@@ -42,9 +42,11 @@ void ModuleViewController::setDialog(std::unique_ptr<Dialog> dialog) {
 }
 
 DialogActions ModuleViewController::whileHere(DialogActions actions) const {
+    // Each of several quick touches dismisses the dialog, but it has one answer: that of the first.
+    const auto isAnswered = std::make_shared<bool>(false);
     for (auto* action : {&actions.didTapButton, &actions.didTapBackgroundView, &actions.didTapCloseIcon}) {
-        *action = [stay = stay(), act = std::move(*action)] {
-            if (const auto here = stay.lock(); here && act) {
+        *action = [stay = stay(), isAnswered, act = std::move(*action)] {
+            if (const auto here = stay.lock(); here && !std::exchange(*isAnswered, true) && act) {
                 act();
             }
         };

@@ -39,8 +39,8 @@ protected:
 
     void showLoading();
     void hideLoading();
-    /// Shows a dialog in place of the previous one. Its actions run after its fade, and not at all if the
-    /// screen has left its stack by then.
+    /// Shows a dialog in place of the previous one. The action of the first touch runs after its fade, and
+    /// not at all if the screen has left its stack by then; those of further touches do not run.
     template <typename Presenter>
     void presentDialog(const Presenter& presenter, DialogActions actions) {
         setDialog(std::make_unique<Dialog>(presenter, std::make_shared<ViewAnimatingWrapper>(),

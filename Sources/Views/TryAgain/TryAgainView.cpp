@@ -2,6 +2,9 @@
 
 #include "Resources/ModuleBundle.hpp"
 
+#include <QGuiApplication>
+#include <QStyleHints>
+
 #include <utility>
 
 namespace quillet {
@@ -22,6 +25,16 @@ Button TryAgainView::submitButton() const {
 
 QUrl TryAgainView::icon() const {
     return moduleImage(presenter_.iconName);
+}
+
+void TryAgainView::tap() {
+    // The view may stay for some time after a tap, where it is the host that leaves.
+    const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+    const bool isNew = !sinceLastTap_.isValid() || sinceLastTap_.hasExpired(interval);
+    sinceLastTap_.start();
+    if (isNew) {
+        didTapButton_();
+    }
 }
 
 std::unique_ptr<TryAgainScreen> TryAgainFactory::create(TryAgainPresenter presenter,

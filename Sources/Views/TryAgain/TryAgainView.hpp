@@ -6,6 +6,7 @@
 #include "Views/Tokens/Spacing.hpp"
 #include "Views/Tokens/ThemedView.hpp"
 
+#include <QElapsedTimer>
 #include <QUrl>
 
 #include <functional>
@@ -58,7 +59,8 @@ public:
     [[nodiscard]] QColor labelColor() const { return colors_->highEmphasis(); }
     /// The image is five of the size token semiX wide and high.
     [[nodiscard]] int iconSize() const { return 5 * sizing_->semiX(); }
-    Q_INVOKABLE void tap() override { didTapButton_(); }
+    /// Taps that follow each other as fast as a double click are one tap.
+    Q_INVOKABLE void tap() override;
 
 private:
     std::unique_ptr<ButtonCreating> buttonFactory_;
@@ -69,6 +71,7 @@ private:
     std::unique_ptr<Sizing> sizing_;
     TryAgainPresenter presenter_;
     std::function<void()> didTapButton_;
+    QElapsedTimer sinceLastTap_;
 };
 
 /// Makes try-again views.

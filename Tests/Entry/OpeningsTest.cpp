@@ -1,0 +1,119 @@
+#include "Support/FaultServer.hpp"
+#include "Support/ModuleOnStage.hpp"
+#include "Support/Thorough.hpp"
+
+#include <algorithm>
+#include <atomic>
+#include <filesystem>
+#include <functional>
+
+// Where Qt lets a program see each object that is made and destroyed.
+extern quintptr qtHookData[];
+
+namespace quillet::testing {
+
+namespace {
+
+enum Hook { objectMade = 3, objectDestroyed = 4 };
+
+std::atomic<int> objects = 0;
+
+int entries(const char* folder) {
+    const std::filesystem::directory_iterator all(folder);
+    return static_cast<int>(std::distance(begin(all), end(all)));
+}
+
+/// What the process has of everything that could be left behind.
+struct Possessions {
+    int objects = testing::objects.load();
+    int threads = entries("/proc/self/task");
+    int files = entries("/proc/self/fd");
+
+    bool operator<=(const Possessions& other) const {
+        return objects <= other.objects && threads <= other.threads && files <= other.files;
+    }
+    friend void PrintTo(const Possessions& one, std::ostream* stream) {
+        *stream << one.objects << " objects, " << one.threads << " threads, " << one.files << " files";
+    }
+};
+
+struct Openings : ModuleOnStage {
+    Openings() {
+        qtHookData[objectMade] = reinterpret_cast<quintptr>(+[](QObject*) { ++objects; });
+        qtHookData[objectDestroyed] = reinterpret_cast<quintptr>(+[](QObject*) { --objects; });
+    }
+    ~Openings() override {
+        qtHookData[objectMade] = 0;
+        qtHookData[objectDestroyed] = 0;
+        platform::URLSessionConfiguration::setDefaultConfiguration({});
+    }
+
+    /// Opens the module as often and removes it, each time at another step.
+    void open(std::size_t rounds) {
+        const std::vector<QString> steps{viewOrders, send, goToCart};
+        for (std::size_t round = 0; round < rounds; ++round) {
+            SCOPED_TRACE(round);
+            const auto screen = ModuleOnStage::open();
+            if (const auto step = round % 4; step > 0) {
+                clickThrough({steps.begin(), steps.begin() + static_cast<std::ptrdiff_t>(step - 1)});
+                ASSERT_TRUE(comesToShow(steps[step - 1]));
+            }
+            stage->popAll();
+            ASSERT_TRUE(turnUntil([&] { return screen.expired(); }));
+        }
+    }
+
+    /// The first few rounds make what is then kept.
+    void expectNothingLeft(std::size_t rounds, const std::function<void(std::size_t)>& play) {
+        ASSERT_NO_FATAL_FAILURE(play(8));
+        // Sessions' threads end by themselves, after their screens; contexts of QML are garbage before they
+        // go.
+        QQmlEngine& engine = *qmlEngine(&stage->stack());
+        const auto current = [&] {
+            engine.collectGarbage();
+            return Possessions();
+        };
+        Possessions before;
+        ASSERT_TRUE(turnUntil([&] {
+            const auto earlier = std::exchange(before, current());
+            return earlier <= before && before <= earlier;
+        }));
+        ASSERT_NO_FATAL_FAILURE(play(rounds));
+        EXPECT_TRUE(turnUntil([&] { return current() <= before; }))
+            << ::testing::PrintToString(current()) << " in place of " << ::testing::PrintToString(before);
+        RecordProperty("cases", static_cast<int>(rounds));
+    }
+};
+
+} // namespace
+
+TEST_F(Openings, LeaveNothingBehind) {
+    expectNothingLeft(thorough(50, 10'000), [&](std::size_t rounds) { open(rounds); });
+}
+
+TEST_F(Openings, LeaveNothingBehindOverTheNetwork) {
+    const std::string gateway = Starter::create("", "", {}, nullptr)->domainUrl();
+    const TestAuthority authority;
+    // One answer for all calls: those of a screen that was removed at once may come when the next one has
+    // called.
+    std::string answer = sampleBody(Call::associate);
+    for (const Call call : {Call::getOpenOrders, Call::checkout}) {
+        answer.back() = ',';
+        answer += sampleBody(call).substr(1);
+    }
+    expectNothingLeft(thorough(20, 300), [&](std::size_t rounds) {
+        // A server keeps its connections to its end.
+        for (std::size_t round = 0; round < rounds; round += 10) {
+            FaultServer server(authority.serverContext(gateway));
+            for (int request = 0; request < 40; ++request) {
+                server.enqueue(Answer::complete(200, answer));
+            }
+            platform::URLSessionConfiguration::setDefaultConfiguration(
+                {.caBundleFile = authority.bundleFile(),
+                 .hostMappings = {{.host = gateway, .address = "127.0.0.1", .port = server.port()}}});
+            open(std::min<std::size_t>(10, rounds - round));
+        }
+    });
+}
+
+} // namespace quillet::testing
