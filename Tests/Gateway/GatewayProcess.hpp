@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -9,18 +9,19 @@
 
 namespace quillet::gateway {
 
-/// The result of a run of the program.
+/// The result of a run of the program. Death by a signal is the status 128 plus the signal's number.
 struct Ended {
     int status = -1;
     std::string output;
-    std::string errors;
 };
 
-/// The program as a child process with its three standard streams as pipes. The destructor ends it if it
-/// still runs.
+/// The program as a child process, whose standard input has ended. The destructor kills it if it still runs.
 class GatewayProcess {
 public:
-    explicit GatewayProcess(const std::vector<std::string>& arguments);
+    /// `launcher` is a command that is followed by the program and its arguments. The streams are a shell's:
+    /// what goes to its standard output is kept.
+    explicit GatewayProcess(std::vector<std::string> arguments, std::vector<std::string> launcher = {},
+                            const std::string& streams = "2>&1");
     ~GatewayProcess();
     GatewayProcess(const GatewayProcess&) = delete;
     GatewayProcess& operator=(const GatewayProcess&) = delete;
@@ -28,24 +29,17 @@ public:
     /// Waits for the line with the port; 0 if the program ended without one.
     std::uint16_t port();
 
-    void signal(int number) const;
-    void closeInput();
+    [[nodiscard]] pid_t id() const { return id_; }
 
-    /// Reads the rest of the output and waits for the end. Death by a signal is 128 plus the signal's number.
-    Ended wait();
+    /// Sends a signal, unless it is 0, reads the rest of the output and waits for the end.
+    Ended end(int signal = 0);
 
 private:
-    pid_t process_ = -1;
-    int input_ = -1;
-    int output_ = -1;
-    int errors_ = -1;
-    std::string firstLine_;
+    std::FILE* output_ = nullptr;
+    pid_t id_ = -1;
 };
 
 /// Runs the program to its end.
-Ended runGateway(const std::vector<std::string>& arguments);
-
-/// The lines of a text file.
-std::vector<std::string> linesOf(const std::filesystem::path& file);
+Ended runGateway(const std::vector<std::string>& arguments, const std::string& streams = "2>&1");
 
 } // namespace quillet::gateway

@@ -23,17 +23,23 @@ struct Exchange {
 /// authority. Consecutive requests share a connection if the server keeps it open.
 class HttpsClient {
 public:
-    HttpsClient(std::uint16_t port, std::filesystem::path authority);
+    HttpsClient(std::uint16_t port, const std::filesystem::path& authority);
 
     Exchange send(const Request& request, std::chrono::milliseconds deadline = std::chrono::seconds(20));
 
+    /// Connects, up to the end of the TLS handshake or without one, and says nothing.
+    CURLcode connect(bool withTls);
+
 private:
-    struct Cleaner {
+    struct Freer {
         void operator()(CURL* curl) const { curl_easy_cleanup(curl); }
+        void operator()(curl_slist* list) const { curl_slist_free_all(list); }
     };
-    std::unique_ptr<CURL, Cleaner> curl_{curl_easy_init()};
-    std::uint16_t port_;
-    std::filesystem::path authority_;
+    using List = std::unique_ptr<curl_slist, Freer>;
+    static void add(List& list, const std::string& text);
+
+    List mapping_;
+    std::unique_ptr<CURL, Freer> curl_{curl_easy_init()};
 };
 
 } // namespace quillet::gateway

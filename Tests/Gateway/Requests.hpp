@@ -3,6 +3,7 @@
 #include "Gateway/RequestCheck.hpp"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace quillet::gateway {
@@ -20,7 +21,8 @@ Request checkoutRequest(std::uint64_t consultant, const std::string& country = "
 /// The seeded cart of one of the consultants 41051 to 41068.
 std::string cartOf(std::uint64_t consultant);
 
-void setHeader(Request& request, const std::string& name, const std::string& value);
-void removeHeader(Request& request, const std::string& name);
+/// The request with another ":method", ":target", ":body" or header of exactly this spelling. Without a value
+/// the header is left out.
+Request with(Request request, const std::string& part, const std::optional<std::string>& value);
 
 } // namespace quillet::gateway
