@@ -87,7 +87,7 @@ TEST_F(GatewayReliability, AnswersThatTheDatabaseIsLockedAndGoesOnOnceItIsNot) {
     EXPECT_EQ(client.send(associateRequest(41051, cartOf(41051))).status, 200);
     Database other(folder.path() / "gateway.sqlite");
     other.script("BEGIN EXCLUSIVE");
-    expectServerError(client.send(checkoutRequest(41051), 4s));
+    expectServerError(client.send(checkoutRequest(41051), 10s));
     other.script("ROLLBACK");
     EXPECT_EQ(client.send(checkoutRequest(41051)).status, 200);
 }
