@@ -60,12 +60,18 @@ TEST_F(GatewayFaults, HappenOnTheWireAndAreLoggedOnce) {
         const auto log = readLog(folder.path() / "gateway.log");
         ASSERT_EQ(log.size(), before + 1);
         EXPECT_EQ(log.back()["method"], "POST");
+        EXPECT_EQ(log.back()["path"], "/quillet-bff/consultants/CL/41051/sell-out-carts/checkout");
+        EXPECT_EQ(log.back()["headers"]["Consultant-Token"], goodToken().size());
         EXPECT_EQ(log.back()["status"], isAnswered ? Json(status) : Json());
         EXPECT_EQ(log.back()["fault"], kind.substr(0, kind.find(' ')));
         EXPECT_EQ(log.back()["consultant"], 41051);
         // The fault is used up. The order's state now tells whether the request was carried out.
         EXPECT_EQ(client.send(checkoutRequest(41051)).status, isSent ? 400 : 200);
     }
+    const auto log = readLog(folder.path() / "gateway.log");
+    EXPECT_EQ(log[0]["bytesIn"], 27);
+    // The two went over one connection, kept open between them.
+    EXPECT_EQ(log[0]["connection"], log[2]["connection"]);
     adjust({"--fault", "consultant=41051 call=open kind=status value=500", "--fault",
             "consultant=41051 call=open kind=none"});
     EXPECT_EQ(client.send(openRequest(41051)).status, 200);

@@ -94,7 +94,9 @@ TEST_F(GatewayState, CountsWhatIsSentAndWhatIsNot) {
 }
 
 TEST_F(GatewayState, DecidesAProductsStatusByCatalogueStockAndQuota) {
-    EXPECT_EQ(associate(41068, cartOf(41068)), "200");
+    const auto cart = ask(associateRequest(41068, cartOf(41068)))["cart"];
+    EXPECT_EQ(cart["totalItems"], 18);
+    EXPECT_EQ(cart["benefitItems"][0]["origin"], "BENEFIT");
     // The lipstick changes from unavailable to added and the cream the other way round; the shampoo has a
     // quota for one consultant.
     adjust(parseStock("90318=4"));
@@ -115,6 +117,10 @@ TEST_F(GatewayState, SendsACartOnceAndCountsItAgainstTheQuota) {
     EXPECT_EQ(associate(41051, cartOf(41051)), "422 ERROR_CART_ALREADY_SUBMITTED");
     EXPECT_EQ(associate(41051, cartOf(41060)), "200");
     EXPECT_EQ(checkOut(41051), "200 CART_SUBMITTED_PARTIAL_SUCCESS, 70412 QUANTITY_ERROR, 81190 OK");
+    // What one consultant sent does not count against another's.
+    EXPECT_EQ(associate(41066, cartOf(41061)), "504 ERROR_ON_REQUEST");
+    EXPECT_EQ(associate(41066, cartOf(41061)), "200");
+    EXPECT_EQ(checkOut(41066), sent);
 }
 
 TEST_F(GatewayState, LeavesEverythingAsItWasWhenNothingCanBeSent) {
