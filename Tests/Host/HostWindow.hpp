@@ -9,32 +9,36 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace demo::testing {
 
-/// The texts that are visible, in the order of the tree.
-inline QList<QQuickItem*> textsIn(const QQuickItem& item) {
-    QList<QQuickItem*> texts;
+/// All that is in the item, in the order of the tree. Items made by views have no parent but a visual one.
+inline QList<QQuickItem*> itemsIn(const QQuickItem& item) {
+    QList<QQuickItem*> items;
     for (QQuickItem* child : item.childItems()) {
-        if (child->property("truncated").isValid() && child->isVisible() &&
-            !child->property("text").toString().isEmpty()) {
-            texts << child;
-        }
-        texts << textsIn(*child);
+        items << child << itemsIn(*child);
     }
+    return items;
+}
+
+inline QList<QQuickItem*> textsIn(const QQuickItem& item) {
+    QList<QQuickItem*> texts = itemsIn(item);
+    texts.removeIf([](const QQuickItem* text) {
+        return !text->property("truncated").isValid() || !text->isVisible() ||
+               text->property("text").toString().isEmpty();
+    });
     return texts;
 }
 
 inline std::string wordsIn(const QQuickItem& item) {
     QStringList words;
     for (const QQuickItem* text : textsIn(item)) {
-        // An icon is a letter of a font of its own.
-        if (const QString shown = text->property("text").toString();
-            shown[0].category() != QChar::Other_PrivateUse) {
-            words << shown;
-        }
+        words << text->property("text").toString();
     }
+    // An icon is a letter of a font of its own.
+    words.removeIf([](const QString& word) { return word[0].category() == QChar::Other_PrivateUse; });
     return words.join(QStringLiteral(" | ")).toStdString();
 }
 
@@ -47,16 +51,8 @@ struct HostWindow : ::testing::Test {
     }
 
     [[nodiscard]] QQuickItem& item(const char* name) const {
-        // Items made by views have no parent but a visual one.
-        QList<QQuickItem*> items{host->phone()};
-        for (qsizetype i = 0; i < items.size(); ++i) {
-            if (items[i]->objectName() == QLatin1String(name)) {
-                return *items[i];
-            }
-            items << items[i]->childItems();
-        }
-        ADD_FAILURE() << "no " << name;
-        return *host->phone();
+        const auto items = itemsIn(*host->phone());
+        return **std::ranges::find(items, name, &QQuickItem::objectName);
     }
     [[nodiscard]] QQuickItem& stack() const {
         return *host->window()->property("stack").value<QQuickItem*>();

@@ -8,30 +8,28 @@ namespace demo::testing {
 
 namespace {
 
-auto parsed(const QStringList& arguments) {
-    return parseOptions(QStringList{"quillet-host"} + arguments);
+auto parsed(const QString& arguments) {
+    return parseOptions(QString("quillet-host " + arguments).trimmed().split(' '));
 }
 
 } // namespace
 
 TEST(Options, SayWhatIsWrong) {
-    const std::pair<QStringList, std::string> cases[] = {
-        {{"--play", "a.play"}, "--play needs --out DIR"},
-        {{"--tour", "d", "--play", "a"}, "--tour, --play, --controls and --gallery do not go together"},
-        {{"--gallery", "g", "--size", "320x568"}, "--size does not go with --gallery"},
-        {{"--controls", "c", "--rtl"}, "--rtl does not go with --controls"},
-        {{"--play", "a", "--out", "d", "--gateway", "h:65536", "--ca", "/"},
-         "--gateway is HOST:PORT, not h:65536"},
-        {{"--language", "fi"}, "--language is es, pt, en, xa or xb, not fi"},
-        {{"--size", "4294967616x568"}, "--size is WxH, each from 320 to 1280, not 4294967616x568"},
-        {{"--theme", "contrast", "--dark"}, "--dark and --theme do not go together"},
-        {{"--text-scale", "99"}, "--text-scale is a whole number of percent, from 100 to 200, not 99"},
-        {{"stray"}, "not understood: stray"},
+    const std::pair<QString, std::string> cases[] = {
+        {"--play a.play", "--play needs --out DIR"},
+        {"--tour d --play a", "--tour, --play, --controls and --gallery do not go together"},
+        {"--gallery g --size 320x568", "--size does not go with --gallery"},
+        {"--controls c --rtl", "--rtl does not go with --controls"},
+        {"--play a --out d --gateway h:65536 --ca /", "--gateway is HOST:PORT, not h:65536"},
+        {"--language fi", "--language is es, pt, en, xa or xb, not fi"},
+        {"--size 4294967616x568", "--size is WxH, each from 320 to 1280, not 4294967616x568"},
+        {"--theme contrast --dark", "--dark and --theme do not go together"},
+        {"--text-scale 99", "--text-scale is a whole number of percent, from 100 to 200, not 99"},
+        {"stray", "not understood: stray"},
     };
     for (const auto& [arguments, complaint] : cases) {
         const auto options = parsed(arguments);
-        ASSERT_FALSE(options) << complaint;
-        EXPECT_EQ(options.error().toStdString(), complaint);
+        EXPECT_EQ((options ? QString() : options.error()).toStdString(), complaint);
     }
 }
 
@@ -40,30 +38,28 @@ TEST(Options, TakeAServerByNameOrAddress) {
     ASSERT_TRUE(ca.open());
     ca.write("-----BEGIN CERTIFICATE-----\n");
     ca.flush();
-    const std::pair<QString, QString> servers[] = {
-        {"127.0.0.1:8443", "127.0.0.1"}, {"[::1]:8443", "::1"}, {"gateway.test:8443", "gateway.test"}};
-    for (const auto& [typed, host] : servers) {
-        const auto options = parsed({"--play", "a", "--out", "d", "--gateway", typed, "--ca", ca.fileName()});
+    for (const auto& [typed, host] :
+         {std::pair("[::1]:8443", "::1"), {"gateway.test:8443", "gateway.test"}}) {
+        const auto options =
+            parsed(QStringLiteral("--play a --out d --gateway %1 --ca %2").arg(typed, ca.fileName()));
         ASSERT_TRUE(options) << options.error().toStdString();
         EXPECT_EQ(options->gatewayHost, host);
         EXPECT_EQ(options->gatewayPort, 8443);
         EXPECT_EQ(options->caFile, ca.fileName());
     }
-    EXPECT_EQ(parsed({})->mode, Options::Mode::window);
-    EXPECT_EQ(parsed({})->size, QSize(390, 844));
+    EXPECT_EQ(parsed("")->mode, Options::Mode::window);
+    EXPECT_EQ(parsed("")->size, QSize(390, 844));
 }
 
 TEST(Options, TakeAnAppearanceAndNameItAgain) {
-    const std::pair<QStringList, std::string> cases[] = {
-        {{}, "--theme light --text-scale 100"},
-        {{"--dark", "--text-scale", "200"}, "--theme dark --text-scale 200"},
-        {{"--theme", "contrast", "--rtl"}, "--theme contrast --text-scale 100 --rtl"},
-        {{"--reduced-motion"}, "--theme light --text-scale 100 --reduced-motion"},
+    const std::pair<QString, std::string> cases[] = {
+        {"", "--theme light --text-scale 100"},
+        {"--dark --text-scale 200", "--theme dark --text-scale 200"},
+        {"--theme contrast --rtl", "--theme contrast --text-scale 100 --rtl"},
+        {"--reduced-motion", "--theme light --text-scale 100 --reduced-motion"},
     };
     for (const auto& [arguments, named] : cases) {
-        const auto options = parsed(arguments);
-        ASSERT_TRUE(options) << options.error().toStdString();
-        EXPECT_EQ(optionsFor(options->appearance).join(' ').toStdString(), named);
+        EXPECT_EQ(optionsFor(parsed(arguments)->appearance).join(' ').toStdString(), named);
     }
 }
 

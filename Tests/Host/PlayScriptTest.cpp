@@ -17,7 +17,6 @@ TEST(PlayScript, ReadsTheWordsOfAStep) {
         {R"(tap "say \"yes\" \\ no" by=touch)", Tap{R"(say "yes" \ no)", Device::touch}},
         {R"(  expect "# 1")", Expect{"# 1", 10s}},
         {"expect \"\" within=0.5\r", Expect{"", 500ms}},
-        {"close-icon by=key", CloseIcon{Device::key}},
         {"insets 44 0 34  200", Insets{{200, 44, 0, 34}}},
     };
     for (const auto& [line, expected] : lines) {
@@ -39,10 +38,7 @@ TEST(PlayScript, NamesTheLineAndWhatIsWrongWithIt) {
         {"tap x by=key by=touch", "tap takes one text, and by=touch or by=key if wanted"},
         {"title a b", "this step takes a text, and within=SECONDS if wanted"},
         {"expect a within=nan", "within takes seconds, from 0 to 3600"},
-        {"back now", "this step takes nothing"},
-        {"background by=key", "background takes nothing but by=touch"},
         {"shot ../a", "shot takes a name of letters, digits, points and dashes"},
-        {"size 1281x800", "size takes WxH, each from 320 to 1280"},
         {"insets 0 0 0 201", "insets takes top, right, bottom and left, each from 0 to 200"},
         {"open cart=a cart=b consultant=1 country=CL",
          "open takes cart=UUID consultant=N country=CC, and token=, provider= and environment= if wanted"},
