@@ -2,8 +2,6 @@
 #include "Gateway/Requests.hpp"
 #include "Gateway/Token.hpp"
 
-#include <vector>
-
 #include <gtest/gtest.h>
 
 namespace quillet::gateway {
@@ -13,20 +11,28 @@ namespace {
 constexpr auto header = R"({"alg":"HS256","typ":"JWT"})";
 constexpr auto payload = R"({"access_token":"abc"})";
 
-struct WrongRequest {
-    int status;
-    Request request;
-    std::string part;
-    std::optional<std::string> value;
-};
+} // namespace
 
-std::vector<WrongRequest> wrongRequests() {
+TEST(GatewayRequests, AreTakenAsTheModuleSendsThem) {
+    const auto associate =
+        checkRequest(associateRequest(18446744073709551615u, "a%20b/%C3%B1"), builtInIdentity());
+    ASSERT_TRUE(associate);
+    EXPECT_EQ(associate->cart, "a b/ñ");
+    EXPECT_EQ(associate->consultant, 18446744073709551615u);
+    const auto open = checkRequest(openRequest(0, "C%2FL"), builtInIdentity());
+    ASSERT_TRUE(open);
+    EXPECT_EQ(open->country, "C/L");
+    EXPECT_EQ(open->consultant, 0u);
+    EXPECT_TRUE(checkRequest(checkoutRequest(41051), builtInIdentity()));
+}
+
+TEST(GatewayRequests, ThatAreWrongGetAClientErrorWithAllItsKeys) {
     const auto associate = associateRequest(41051, cartOf(41051));
     const auto open = openRequest(41051);
     const auto checkout = checkoutRequest(41051);
     const auto token = goodToken();
     const std::string consultants = "/quillet-bff/consultants/CL/";
-    return {
+    const std::tuple<int, Request, std::string, std::optional<std::string>> cases[] = {
         {421, open, "Host", "elsewhere.example"},
         {400, open, "Host", {}},
         {404, open, ":target", consultants + "41051/carts?status=OPEN"},
@@ -64,25 +70,7 @@ std::vector<WrongRequest> wrongRequests() {
         {422, associate, ":body", R"({"consultant":{"id":41051},"cart":"x"})"},
         {422, associate, ":body", R"({"id":41051})"},
     };
-}
-
-} // namespace
-
-TEST(GatewayRequests, AreTakenAsTheModuleSendsThem) {
-    const auto associate =
-        checkRequest(associateRequest(18446744073709551615u, "a%20b/%C3%B1"), builtInIdentity());
-    ASSERT_TRUE(associate);
-    EXPECT_EQ(associate->cart, "a b/ñ");
-    EXPECT_EQ(associate->consultant, 18446744073709551615u);
-    const auto open = checkRequest(openRequest(0, "C%2FL"), builtInIdentity());
-    ASSERT_TRUE(open);
-    EXPECT_EQ(open->country, "C/L");
-    EXPECT_EQ(open->consultant, 0u);
-    EXPECT_TRUE(checkRequest(checkoutRequest(41051), builtInIdentity()));
-}
-
-TEST(GatewayRequests, ThatAreWrongGetAClientErrorWithAllItsKeys) {
-    for (const auto& [status, good, part, value] : wrongRequests()) {
+    for (const auto& [status, good, part, value] : cases) {
         SCOPED_TRACE(good.target + " with " + part + " " + value.value_or("left out"));
         const auto request = with(good, part, value);
         const auto checked = checkRequest(request, builtInIdentity());

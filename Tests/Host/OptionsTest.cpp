@@ -34,18 +34,18 @@ TEST(Options, SayWhatIsWrong) {
 }
 
 TEST(Options, TakeAServerByNameOrAddress) {
-    QTemporaryFile ca;
-    ASSERT_TRUE(ca.open());
-    ca.write("-----BEGIN CERTIFICATE-----\n");
-    ca.flush();
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    file.write("-----BEGIN CERTIFICATE-----\n");
+    file.flush();
+    const QString ca = file.fileName();
     for (const auto& [typed, host] :
          {std::pair("[::1]:8443", "::1"), {"gateway.test:8443", "gateway.test"}}) {
-        const auto options =
-            parsed(QStringLiteral("--play a --out d --gateway %1 --ca %2").arg(typed, ca.fileName()));
+        const auto options = parsed(QStringLiteral("--play a --out d --gateway %1 --ca %2").arg(typed, ca));
         ASSERT_TRUE(options) << options.error().toStdString();
         EXPECT_EQ(options->gatewayHost, host);
         EXPECT_EQ(options->gatewayPort, 8443);
-        EXPECT_EQ(options->caFile, ca.fileName());
+        EXPECT_EQ(options->caFile, ca);
     }
     EXPECT_EQ(parsed("")->mode, Options::Mode::window);
     EXPECT_EQ(parsed("")->size, QSize(390, 844));

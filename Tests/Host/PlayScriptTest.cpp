@@ -35,14 +35,11 @@ TEST(PlayScript, NamesTheLineAndWhatIsWrongWithIt) {
     const std::pair<QString, std::string> lines[] = {
         {"dance", "unknown step \"dance\""},
         {R"(tap "Ver Pedidos)", "a quotation mark is left open"},
-        {"tap x by=key by=touch", "tap takes one text, and by=touch or by=key if wanted"},
-        {"title a b", "this step takes a text, and within=SECONDS if wanted"},
         {"expect a within=nan", "within takes seconds, from 0 to 3600"},
         {"shot ../a", "shot takes a name of letters, digits, points and dashes"},
         {"insets 0 0 0 201", "insets takes top, right, bottom and left, each from 0 to 200"},
         {"open cart=a cart=b consultant=1 country=CL",
          "open takes cart=UUID consultant=N country=CC, and token=, provider= and environment= if wanted"},
-        {"open cart=a consultant=-1 country=CL", "not a consultant's number: -1"},
     };
     for (const auto& [line, complaint] : lines) {
         const auto play = parsePlay("p", "close\n" + line);
