@@ -79,8 +79,9 @@ Connection::Connection(std::uint64_t number, asio::ip::tcp::socket socket, asio:
 void Connection::run() {
     try {
         serve();
-    } catch (const boost::system::system_error&) {
-        // The client disconnected in the middle of a request, so there is nobody to report to.
+    } catch (const std::exception&) {
+        // The client disconnected in the middle of a request, so there is nobody to report to. Whatever else
+        // it is, it ends no other connection.
     }
     // Closing without close_notify makes the body look cut. An orderly end has already sent it.
     const std::lock_guard lock(mutex_);
@@ -110,6 +111,7 @@ void Connection::serve() {
         parser.body_limit(bodyLimit);
         Failure failure;
         http::read(stream_, buffer, parser, failure);
+        waitingSince_ = busy;
         if (failure) {
             if (const auto reply = replyTo(failure, std::string(parser.get().target()))) {
                 send(bytesOf(*reply, false, true));
@@ -123,7 +125,9 @@ void Connection::serve() {
         if (then == Then::drop) {
             return;
         }
+        waitingSince_ = Clock::now();
     }
+    waitingSince_ = Clock::now();
     endPolitely();
 }
 

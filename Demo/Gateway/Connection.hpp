@@ -3,6 +3,8 @@
 #include "Gateway/Log.hpp"
 #include "Gateway/Router.hpp"
 
+#include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <cstdint>
 #include <mutex>
@@ -17,6 +19,9 @@ namespace quillet::gateway {
 /// so that the code states what happens on the wire in its order.
 class Connection {
 public:
+    using Clock = std::chrono::steady_clock;
+    static constexpr auto busy = Clock::time_point::max();
+
     Connection(std::uint64_t number, boost::asio::ip::tcp::socket socket, boost::asio::ssl::context& tls,
                const Router& router, Log& log);
 
@@ -26,6 +31,10 @@ public:
 
     /// Ends `run` soon, wherever it is. May be called from any thread, also after `run` has ended.
     void interrupt();
+
+    /// Since when it has waited for its client to say something; `busy` while a request is carried out or
+    /// answered. From any thread.
+    [[nodiscard]] Clock::time_point waitingSince() const { return waitingSince_; }
 
 private:
     // What follows an answer: the next request, an orderly TLS close, or a cut.
@@ -42,6 +51,7 @@ private:
     boost::asio::ssl::stream<boost::asio::ip::tcp::socket> stream_;
     const Router& router_;
     Log& log_;
+    std::atomic<Clock::time_point> waitingSince_ = Clock::now();
 
     std::mutex mutex_;
     std::condition_variable interruption_;

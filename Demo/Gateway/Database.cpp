@@ -6,7 +6,7 @@ namespace quillet::gateway {
 
 namespace {
 
-constexpr int lockWaitMilliseconds = 5000;
+constexpr int lockWaitMilliseconds = 1500;
 
 void check(int code, sqlite3* database) {
     if (code != SQLITE_OK && code != SQLITE_ROW && code != SQLITE_DONE) {

@@ -9,6 +9,9 @@
 #include <cstring>
 #include <ctime>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace quillet::gateway {
 
 namespace {
@@ -43,12 +46,22 @@ Json headersOf(const Request& request) {
 
 } // namespace
 
+struct Log::File {
+    explicit File(int opened) : descriptor(opened) {}
+    ~File() { ::close(descriptor); }
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+
+    const int descriptor;
+    std::mutex mutex;
+};
+
 std::expected<Log, std::string> Log::open(const std::filesystem::path& file) {
-    std::ofstream stream(file, std::ios::app);
-    if (!stream) {
+    const int descriptor = ::open(file.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
+    if (descriptor < 0) {
         return std::unexpected("cannot write the log " + file.string() + ": " + std::strerror(errno));
     }
-    return Log(std::move(stream));
+    return Log(std::make_shared<File>(descriptor));
 }
 
 void Log::write(std::uint64_t connection, const Request& request, const Outcome& outcome) {
@@ -72,10 +85,15 @@ void Log::write(std::uint64_t connection, const Request& request, const Outcome&
         line["consultant"] = *outcome.consultant;
     }
     line["headers"] = headersOf(request);
-    const auto text = line.dump(-1, ' ', false, Json::error_handler_t::replace);
+    const auto text = line.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
 
-    const std::lock_guard lock(*mutex_);
-    stream_ << text << '\n' << std::flush;
+    const std::lock_guard lock(file_->mutex);
+    const auto end = ::lseek(file_->descriptor, 0, SEEK_END);
+    const auto written = ::write(file_->descriptor, text.data(), text.size());
+    if (written > 0 && static_cast<std::size_t>(written) < text.size()) {
+        // Half a line would spoil the next one. Where this fails too, there is nobody to tell.
+        [[maybe_unused]] const int failure = ::ftruncate(file_->descriptor, end);
+    }
 }
 
 } // namespace quillet::gateway

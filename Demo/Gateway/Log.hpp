@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <expected>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -14,7 +13,7 @@ namespace quillet::gateway {
 
 /// The log: one JSON object a line, appended and flushed for each completely read request before it is
 /// answered, so it also counts requests whose reply is then cut, delayed or dropped. It holds the token's
-/// length and never its value. Thread-safe.
+/// length and never its value. What a full disk cannot take is left out, by whole lines. Thread-safe.
 class Log {
 public:
     /// Opens the file for appending. The error is one line for a person.
@@ -23,11 +22,11 @@ public:
     void write(std::uint64_t connection, const Request& request, const Outcome& outcome);
 
 private:
-    explicit Log(std::ofstream stream) : stream_(std::move(stream)) {}
+    struct File;
 
-    std::ofstream stream_;
-    // A mutex cannot be moved, and `open` returns the log by value.
-    std::unique_ptr<std::mutex> mutex_ = std::make_unique<std::mutex>();
+    explicit Log(std::shared_ptr<File> file) : file_(std::move(file)) {}
+
+    std::shared_ptr<File> file_;
 };
 
 } // namespace quillet::gateway

@@ -141,6 +141,9 @@ std::expected<Call, Wrong> check(const Request& request, const Identity& identit
     if (!target && target.error() == TargetError::badEncoding) {
         return std::unexpected(Wrong{400, "The path is not percent-encoded as it should be."});
     }
+    if (!target && target.error() == TargetError::dotSegment) {
+        return std::unexpected(Wrong{400, "The path has a segment of dots."});
+    }
     if (!target) {
         return std::unexpected(Wrong{404, "There is nothing under this path."});
     }

@@ -34,7 +34,8 @@ Outcome Router::handle(const Request& request) const {
     }
     try {
         return carryOut(*call, request.target);
-    } catch (const DatabaseError& error) {
+    } catch (const std::exception& error) {
+        // Whatever cannot be done is the database's fault: what it holds, or that it cannot be reached.
         return {.reply = serverError(500, request.target, "ERROR_DATABASE", error.what()),
                 .fault = {},
                 .consultant = call->consultant};

@@ -2,6 +2,7 @@
 
 #include "Gateway/Connection.hpp"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <list>
@@ -10,7 +11,9 @@
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/posix/stream_descriptor.hpp>
 #include <boost/asio/signal_set.hpp>
+#include <boost/asio/steady_timer.hpp>
 
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace quillet::gateway {
@@ -20,15 +23,27 @@ namespace {
 namespace asio = boost::asio;
 using Failure = boost::system::error_code;
 
-constexpr std::size_t mostConnections = 256;
+constexpr rlim_t mostConnections = 256;
+/// Handles that connections leave to the database, the log and the standard streams.
+constexpr rlim_t keptHandles = 32;
+/// How long to wait for a handle.
+constexpr std::chrono::milliseconds breath{100};
 
 struct Session {
     explicit Session(auto&&... parts) : connection(std::forward<decltype(parts)>(parts)...) {}
 
     Connection connection;
     std::atomic<bool> ended = false;
+    /// Whether it was asked to end, to make room for another one.
+    bool leaves = false;
     std::jthread thread;
 };
+
+std::size_t connectionLimit() {
+    rlimit handles{};
+    ::getrlimit(RLIMIT_NOFILE, &handles);
+    return std::clamp(handles.rlim_cur, keptHandles + 1, keptHandles + mostConnections) - keptHandles;
+}
 
 void usePair(asio::ssl::context& tls, const Credentials& credentials) {
     auto* const context = tls.native_handle();
@@ -51,20 +66,47 @@ struct Server::Implementation {
                 return;
             }
             sessions.remove_if([](const Session& session) { return session.ended.load(); });
-            // Above the limit the accepted socket is closed here.
-            if (!failure && sessions.size() < mostConnections) {
+            const bool full = std::ranges::count(sessions, false, &Session::leaves) >= limit;
+            const bool hasRoom = (!failure && !full) || makeRoom();
+            if (failure) {
+                // No handle is left. The client stays in the queue, so trying again at once would only spin.
+                pause.expires_after(breath);
+                pause.async_wait([this](const Failure&) { accept(); });
+                return;
+            }
+            // Without room the accepted socket is closed here.
+            if (hasRoom) {
                 start(std::move(socket));
             }
             accept();
         });
     }
 
+    /// Ends the connection that has waited longest for its client. False if each of them has something to do.
+    bool makeRoom() {
+        const auto waiting = [](const Session& session) {
+            return session.leaves ? Connection::busy : session.connection.waitingSince();
+        };
+        const auto longest = std::ranges::min_element(sessions, {}, waiting);
+        if (longest == sessions.end() || waiting(*longest) == Connection::busy) {
+            return false;
+        }
+        longest->leaves = true;
+        longest->connection.interrupt();
+        return true;
+    }
+
     void start(asio::ip::tcp::socket socket) {
         auto& session = sessions.emplace_back(++number, std::move(socket), tls, router, log);
-        session.thread = std::jthread([&session] {
-            session.connection.run();
-            session.ended = true;
-        });
+        try {
+            session.thread = std::jthread([&session] {
+                session.connection.run();
+                session.ended = true;
+            });
+        } catch (const std::system_error&) {
+            // The machine has no thread for it, which must not end the others.
+            sessions.pop_back();
+        }
     }
 
     void readStdin() {
@@ -77,11 +119,13 @@ struct Server::Implementation {
     asio::io_context loop{1};
     asio::ssl::context tls{asio::ssl::context::tls_server};
     asio::ip::tcp::acceptor acceptor;
+    asio::steady_timer pause{loop};
     asio::signal_set signals{loop, SIGTERM, SIGINT};
     asio::posix::stream_descriptor input{loop};
     std::array<char, 256> ignored{};
     const Router& router;
     Log& log;
+    const std::ptrdiff_t limit = connectionLimit();
     std::uint64_t number = 0;
     // Only the loop's thread uses the list. A connection's thread uses its own connection only.
     std::list<Session> sessions;

@@ -34,6 +34,13 @@ std::optional<std::string> percentDecode(std::string_view text) {
     return decoded;
 }
 
+// Whether another server, which tidies paths up, would see another path than is written here.
+bool hasDotSegment(std::string path) {
+    std::ranges::replace(path, '\\', '/');
+    path += '/';
+    return path.find("/./") != std::string::npos || path.find("/../") != std::string::npos;
+}
+
 bool take(std::string_view& text, std::string_view prefix) {
     if (!text.starts_with(prefix)) {
         return false;
@@ -65,15 +72,17 @@ std::expected<Target, TargetError> parseTarget(std::string_view target) {
         query = target.substr(mark + 1);
         target = target.substr(0, mark);
     }
+    const auto decoded = percentDecode(target);
+    if (!decoded) {
+        return std::unexpected(TargetError::badEncoding);
+    }
+    if (hasDotSegment(*decoded)) {
+        return std::unexpected(TargetError::dotSegment);
+    }
     const auto make = [&](CallKind kind, std::string_view cart, std::string_view country,
-                          std::string_view consultant) -> std::expected<Target, TargetError> {
-        auto cartText = percentDecode(cart);
-        auto countryText = percentDecode(country);
-        auto consultantText = percentDecode(consultant);
-        if (!cartText || !countryText || !consultantText) {
-            return std::unexpected(TargetError::badEncoding);
-        }
-        return Target{kind, std::move(*cartText), std::move(*countryText), std::move(*consultantText), query};
+                          std::string_view consultant) {
+        return Target{kind, percentDecode(cart).value_or(""), percentDecode(country).value_or(""),
+                      percentDecode(consultant).value_or(""), query};
     };
 
     if (take(target, "/quillet-bff/sell-out-carts/")) {

@@ -23,9 +23,11 @@ struct Target {
     std::optional<std::string> query;
 };
 
-enum class TargetError { unknown, badEncoding };
+enum class TargetError { unknown, badEncoding, dotSegment };
 
-/// Parses a request target. Everything after "/quillet-bff/sell-out-carts/" names a cart, slashes included.
+/// Parses a request target. Everything after "/quillet-bff/sell-out-carts/" names a cart, slashes included. A
+/// path with a segment "." or "..", also a percent-encoded one, is refused: it could steer to another
+/// resource.
 [[nodiscard]] std::expected<Target, TargetError> parseTarget(std::string_view target);
 
 } // namespace quillet::gateway

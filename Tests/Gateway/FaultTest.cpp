@@ -1,12 +1,8 @@
-#include "Gateway/GatewayProcess.hpp"
-#include "Gateway/HttpsClient.hpp"
-#include "Gateway/Json.hpp"
-#include "Gateway/Requests.hpp"
-#include "Gateway/TemporaryFolder.hpp"
+#include "Gateway/Adjustment.hpp"
+#include "Gateway/RunningGateway.hpp"
+#include "Gateway/Store.hpp"
 
 #include <csignal>
-
-#include <gmock/gmock.h>
 
 namespace quillet::gateway {
 
@@ -14,126 +10,108 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class GatewayFaults : public testing::Test {
-protected:
-    Ended errand(const std::string& option, const std::string& value) const {
-        return runGateway({"--data", folder.path(), option, value});
-    }
-    std::vector<Json> log() const {
-        std::vector<Json> entries;
-        for (const auto& line : linesOf(folder.path() / "gateway.log")) {
-            entries.push_back(Json::parse(line));
-        }
-        return entries;
-    }
-
-    TemporaryFolder folder;
-    GatewayProcess gateway{{"--data", folder.path()}};
-    std::uint16_t port = gateway.port();
-    HttpsClient client{port, folder.path() / "ca.pem"};
-};
+using GatewayFaults = RunningGateway;
 
 // In both the TLS stream ends without close_notify, which libcurl 8.14 reports as a receive error and 7.88
 // did not.
 const testing::Matcher<CURLcode> isCut = testing::AnyOf(CURLE_PARTIAL_FILE, CURLE_RECV_ERROR);
 const testing::Matcher<CURLcode> isClosed = testing::AnyOf(CURLE_GOT_NOTHING, CURLE_RECV_ERROR);
 
-struct FaultCase {
-    std::string fault;
-    testing::Matcher<CURLcode> code;
-    long status;
-    /// The status in the log; -1 if there is no line.
-    int logged;
-    /// Whether the order is submitted afterwards.
-    bool isSent;
-};
-
-const std::vector<FaultCase> faultCases{
-    {"kind=delay value=30", CURLE_OK, 200, 200, true},
-    {"kind=status value=503", CURLE_OK, 503, 503, false},
-    {"kind=status value=404", CURLE_OK, 404, 404, false},
-    {"kind=status value=302", CURLE_OK, 302, 302, false},
-    {"kind=status value=204", CURLE_OK, 204, 204, false},
-    {"kind=malformed", CURLE_OK, 200, 200, false},
-    {"kind=malformed value=empty", CURLE_OK, 200, 200, false},
-    {"kind=cut", isCut, 200, 200, true},
-    {"kind=silence", CURLE_OPERATION_TIMEDOUT, 0, -1, false},
-    {"kind=close", isClosed, 0, -1, true},
-};
-
 } // namespace
 
 TEST_F(GatewayFaults, HappenOnTheWireAndAreLoggedOnce) {
-    for (const auto& wanted : faultCases) {
-        SCOPED_TRACE(wanted.fault);
-        ASSERT_EQ(runGateway({"--data", folder.path(), "--reset", "--fault",
-                              "consultant=41051 call=checkout times=1 " + wanted.fault})
-                      .status,
-                  0);
+    const struct {
+        std::string kind;
+        testing::Matcher<CURLcode> code;
+        long status;
+        std::string body;
+        // Whether it stands in the log as answered, and whether the order is submitted afterwards.
+        bool isAnswered;
+        bool isSent;
+    } cases[] = {
+        {"delay value=0", CURLE_OK, 200, R"({"submittedOrderId":)", true, true},
+        {"status value=503", CURLE_OK, 503, R"({"error":{"response":)", true, false},
+        {"status value=404", CURLE_OK, 404, R"({"details":"This failure)", true, false},
+        {"status value=302", CURLE_OK, 302, "{}", true, false},
+        {"status value=204", CURLE_OK, 204, "", true, false},
+        {"malformed", CURLE_OK, 200, R"({"consultant":{"id":)", true, false},
+        {"malformed value=empty", CURLE_OK, 200, "", true, false},
+        {"malformed value=null", CURLE_OK, 200, "null", true, false},
+        {"malformed value=shape", CURLE_OK, 200, R"({"result":"ok",)", true, false},
+        {"malformed value=html", CURLE_OK, 200, "<!DOCTYPE html>", true, false},
+        {"cut", isCut, 200, R"({"submittedOrderId":)", true, true},
+        {"silence", CURLE_OPERATION_TIMEDOUT, 0, "", false, false},
+        {"close", isClosed, 0, "", false, true},
+    };
+    for (const auto& [kind, code, status, body, isAnswered, isSent] : cases) {
+        SCOPED_TRACE(kind);
+        auto database = openStore(folder.path(), true);
+        ASSERT_TRUE(
+            gateway::apply(database, *parseFault("consultant=41051 call=checkout times=1 kind=" + kind)));
         ASSERT_EQ(client.send(associateRequest(41051, cartOf(41051))).status, 200);
-        const auto before = log().size();
-        const auto deadline = wanted.fault == "kind=silence" ? 300ms : 20s;
+        const auto before = readLog(folder.path() / "gateway.log").size();
         // On a reused connection curl itself would repeat a POST that gets no answer.
-        const auto exchange =
-            HttpsClient(port, folder.path() / "ca.pem").send(checkoutRequest(41051), deadline);
-        EXPECT_THAT(exchange.code, wanted.code) << curl_easy_strerror(exchange.code);
-        EXPECT_EQ(exchange.status, wanted.status);
+        const auto exchange = newClient().send(checkoutRequest(41051), kind == "silence" ? 300ms : 20s);
+        EXPECT_THAT(exchange.code, code) << curl_easy_strerror(exchange.code);
+        EXPECT_EQ(exchange.status, status);
+        EXPECT_EQ(exchange.body.substr(0, body.size()), body);
+        EXPECT_EQ(exchange.body.empty(), body.empty());
 
-        const auto entries = log();
-        ASSERT_EQ(entries.size(), before + 1);
-        EXPECT_EQ(entries.back()["method"], "POST");
-        EXPECT_EQ(entries.back()["status"], wanted.logged < 0 ? Json() : Json(wanted.logged));
-        EXPECT_EQ(entries.back()["consultant"], 41051);
+        const auto log = readLog(folder.path() / "gateway.log");
+        ASSERT_EQ(log.size(), before + 1);
+        EXPECT_EQ(log.back()["method"], "POST");
+        EXPECT_EQ(log.back()["path"], "/quillet-bff/consultants/CL/41051/sell-out-carts/checkout");
+        EXPECT_EQ(log.back()["headers"]["Consultant-Token"], goodToken().size());
+        EXPECT_EQ(log.back()["status"], isAnswered ? Json(status) : Json());
+        EXPECT_EQ(log.back()["fault"], kind.substr(0, kind.find(' ')));
+        EXPECT_EQ(log.back()["consultant"], 41051);
         // The fault is used up. The order's state now tells whether the request was carried out.
-        EXPECT_EQ(client.send(checkoutRequest(41051)).status, wanted.isSent ? 400 : 200);
+        EXPECT_EQ(client.send(checkoutRequest(41051)).status, isSent ? 400 : 200);
     }
-}
-
-TEST_F(GatewayFaults, SpoilTheBodyTheyAreAskedTo) {
-    const std::vector<std::pair<std::string, std::string>> bodies{{"", "{\"consultant\":{\"id\""},
-                                                                  {" value=null", "null"},
-                                                                  {" value=shape", "{\"result\""},
-                                                                  {" value=html", "<!DOCTYPE"}};
-    for (const auto& [value, start] : bodies) {
-        ASSERT_EQ(errand("--fault", "consultant=41051 call=open kind=malformed" + value).status, 0);
-        EXPECT_TRUE(client.send(openRequest(41051)).body.starts_with(start)) << value;
-    }
-    ASSERT_EQ(errand("--fault", "consultant=41051 call=open kind=none").status, 0);
-    EXPECT_TRUE(Json::accept(client.send(openRequest(41051)).body));
+    const auto log = readLog(folder.path() / "gateway.log");
+    EXPECT_EQ(log[0]["bytesIn"], 27);
+    // The two went over one connection, kept open between them.
+    EXPECT_EQ(log[0]["connection"], log[2]["connection"]);
+    adjust({"--fault", "consultant=41051 call=open kind=status value=500", "--fault",
+            "consultant=41051 call=open kind=none"});
+    EXPECT_EQ(client.send(openRequest(41051)).status, 200);
 }
 
 TEST_F(GatewayFaults, AreSeededForEachOutcome) {
-    const auto associated = [&](std::uint64_t consultant) {
-        return client.send(associateRequest(consultant, cartOf(consultant))).status;
+    // What the first and the second call are answered with; 0 for an answer that is none.
+    const std::tuple<Request, long, long> cases[] = {
+        {associateRequest(41055, cartOf(41055)), 504, 504},
+        {associateRequest(41056, cartOf(41056)), 500, 500},
+        {associateRequest(41059, cartOf(41059)), 0, 0},
+        {associateRequest(41066, cartOf(41066)), 504, 200},
+        {openRequest(41064), 500, 500},
+        {checkoutRequest(41060), 0, 0},
+        {checkoutRequest(41061), 0, 0},
+        {checkoutRequest(41062), 0, 0},
+        {checkoutRequest(41063), 0, 0},
+        {checkoutRequest(41065), 500, 400},
     };
-    EXPECT_EQ(associated(41055), 504);
-    EXPECT_EQ(associated(41055), 504);
-    EXPECT_EQ(associated(41056), 500);
-    EXPECT_EQ(associated(41064), 200);
-    EXPECT_EQ(client.send(openRequest(41064)).status, 500);
-    EXPECT_EQ(associated(41066), 504);
-    EXPECT_EQ(associated(41066), 200);
-    EXPECT_EQ(associated(41065), 200);
-    EXPECT_EQ(client.send(checkoutRequest(41065)).status, 500);
-    EXPECT_EQ(client.send(checkoutRequest(41065)).status, 200);
-    EXPECT_FALSE(Json::accept(client.send(associateRequest(41059, cartOf(41059))).body));
-    EXPECT_FALSE(Json::accept(client.send(checkoutRequest(41060)).body));
-    EXPECT_EQ(associated(41061), 200);
-    EXPECT_THAT(client.send(checkoutRequest(41061)).code, isCut);
-    EXPECT_EQ(client.send(checkoutRequest(41062), 300ms).code, CURLE_OPERATION_TIMEDOUT);
-    EXPECT_THAT(HttpsClient(port, folder.path() / "ca.pem").send(checkoutRequest(41063)).code, isClosed);
+    for (const auto& [request, first, second] : cases) {
+        SCOPED_TRACE(request.target);
+        for (const long status : {first, second}) {
+            const auto exchange = newClient().send(request, status == 0 ? 300ms : 20s);
+            const bool isAnswer = exchange.code == CURLE_OK && Json::accept(exchange.body);
+            EXPECT_EQ(isAnswer ? exchange.status : 0, status);
+        }
+    }
 }
 
 TEST_F(GatewayFaults, DoNotStandInTheWayOfStopping) {
-    // One client in a silence fault, one in a long delay, one with only a TCP connection, and one idle.
-    ASSERT_EQ(errand("--fault", "consultant=41051 call=open kind=delay value=600000").status, 0);
-    HttpsClient delayed(port, folder.path() / "ca.pem");
+    // One client in a silence fault, one in a long delay, one with a TCP connection only, and one idle.
+    adjust({"--fault", "consultant=41051 call=open kind=delay value=600000"});
+    auto delayed = newClient();
     EXPECT_EQ(client.send(checkoutRequest(41062), 300ms).code, CURLE_OPERATION_TIMEDOUT);
     EXPECT_EQ(delayed.send(openRequest(41051), 300ms).code, CURLE_OPERATION_TIMEDOUT);
-    HttpsClient idle(port, folder.path() / "ca.pem");
+    auto connected = newClient();
+    EXPECT_EQ(connected.connect(false), CURLE_OK);
+    auto idle = newClient();
     EXPECT_EQ(idle.send(openRequest(41052)).status, 200);
-    gateway.signal(SIGTERM);
-    EXPECT_EQ(gateway.wait().status, 0);
+    EXPECT_EQ(gateway.end(SIGTERM).status, 0);
 }
 
 } // namespace quillet::gateway

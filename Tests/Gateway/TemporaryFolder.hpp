@@ -1,7 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 
 #include <stdlib.h>
@@ -11,24 +10,16 @@ namespace quillet::gateway {
 /// A temporary folder, removed with its contents by the destructor.
 class TemporaryFolder {
 public:
-    TemporaryFolder() {
-        std::string pattern = std::filesystem::temp_directory_path() / "quillet-gateway-XXXXXX";
-        if (!::mkdtemp(pattern.data())) {
-            throw std::runtime_error("no temporary folder");
-        }
-        path_ = pattern;
-    }
     ~TemporaryFolder() {
         std::error_code ignored;
         std::filesystem::remove_all(path_, ignored);
     }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
 private:
-    std::filesystem::path path_;
+    std::string pattern_ = std::filesystem::temp_directory_path() / "quillet-gateway-XXXXXX";
+    const std::filesystem::path path_ = ::mkdtemp(pattern_.data());
 };
 
 } // namespace quillet::gateway

@@ -9,14 +9,13 @@
 namespace demo::testing {
 
 /// The sample host as a person starts it, and a folder for what it writes.
-class HostProgram {
-public:
+struct HostProgram {
+    // Qt warns where this variable is unset, which it is not in a desktop session.
+    HostProgram() { environment.insert("XDG_RUNTIME_DIR", runtime.path()); }
+
     /// Runs the program to its end and returns its exit status, or -1 if it crashed.
     int run(const QStringList& arguments) {
         QProcess host;
-        // Qt warns where this variable is unset, which it is not in a desktop session.
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("XDG_RUNTIME_DIR", runtime_.path());
         host.setProcessEnvironment(environment);
         host.start(QUILLET_HOST_PROGRAM, arguments);
         EXPECT_TRUE(host.waitForFinished(50'000));
@@ -24,12 +23,11 @@ public:
         return host.exitStatus() == QProcess::NormalExit ? host.exitCode() : -1;
     }
 
-    QTemporaryDir folder;
+    const QTemporaryDir folder;
+    const QTemporaryDir runtime;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     /// What the program wrote to standard error.
     QString complaint;
-
-private:
-    QTemporaryDir runtime_;
 };
 
 } // namespace demo::testing

@@ -1,35 +1,21 @@
 #include "Code/HostCode.hpp"
+#include "HostWindow.hpp"
 #include "KelDS/KelDesignSystem.hpp"
-#include "PhoneArea.hpp"
+#include "KelDSIcons/KelDSIcons.hpp"
 #include "Play/Hands.hpp"
-#include "Play/WarningCounter.hpp"
-#include "Sandbox/Journal.hpp"
-#include "Sandbox/LiveStatus.hpp"
 
 #include <QFile>
-#include <QQuickItem>
 #include <QQuickView>
-#include <QtTest/qtestsystem.h>
-
-#include <gtest/gtest.h>
+#include <QRegularExpression>
 
 extern void qml_register_types_Demo();
 
 namespace demo::testing {
 
-TEST(Live, HasTheCodeThatEmbedsTheModuleAsItStandsInTheHost) {
-    QFile source(QUILLET_PROJECT_FOLDER "/" + HostCode::file());
-    ASSERT_TRUE(source.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(QString::fromUtf8(source.readAll()).contains("\n" + HostCode::text() + "\n"));
-    for (const char* call : {"QuilletConfiguration::shared().configure(", "Starter::create(",
-                             "quillet::present(", "::navigateToCart()"}) {
-        EXPECT_TRUE(HostCode::text().contains(call)) << call;
-    }
-}
-
-TEST(Live, ShowsTheHostCodeToWhomeverOpensItsCard) {
+TEST(Live, TellsWhatHappensInItsOrderAndShowsTheHostCode) {
+    using namespace std::chrono_literals;
+    using namespace quillet::platform;
     const WarningCounter warnings;
-    const int before = WarningCounter::count();
     Journal journal;
     LiveStatus status;
     PhoneArea area(usualPhoneSize, true);
@@ -39,20 +25,50 @@ TEST(Live, ShowsTheHostCodeToWhomeverOpensItsCard) {
     view.setInitialProperties({{"journal", QVariant::fromValue<QObject*>(&journal)},
                                {"status", QVariant::fromValue<QObject*>(&status)},
                                {"area", QVariant::fromValue(&area)},
-                               {"moduleOpen", false}});
+                               {"moduleOpen", true}});
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     view.resize(usualLiveSize);
     view.setSource(QUrl("qrc:/qt/qml/Demo/Live.qml"));
     view.show();
+
+    status.gatewayStarted();
+    status.opened({"7f3c9a10-52e1", 41052, "CL"}, quillet::Environment::hml);
+    const URLRequest patch{.url = {"a.test", "/one"}, .httpMethod = "PATCH"};
+    const URLRequest get{.url = {"a.test", "/two?x=y"}};
+    journal.requestStarted(1, patch);
+    journal.requestStarted(2, get);
+    journal.requestStarted(3, get);
+    journal.requestEnded(1, patch, {422, {}, 12ms});
+    journal.requestEnded(2, get, {0, URLError::Code::timedOut, 60s});
+    journal.screenTracked("Orders of my customers");
+    journal.navigated("navigateToCart", kel::KelIconNumber::cart);
+    status.gatewayEnded();
+    const std::string expected =
+        "Live | Consultant 41052 · Chile · cart 7f3c9a10 | 390 × 844 | hml | gateway down | "
+        "Requests | 3 | T | PATCH | /one | 422 | 12 ms | T | GET | /two?x=y | -1001 | 60000 ms | "
+        "T | GET | /two?x=y | … | Analytics | 1 | Orders of my customers | screen | T | "
+        "Navigation | 1 | Waiting for the module to hand over | navigateToCart | T | "
+        "Host code | Demo/Host/HostApplication.cpp";
+    static const QRegularExpression time("[0-9]{2}:[0-9]{2}:[0-9]{2}(\\.[0-9]{3})?");
+    const auto words = [&] {
+        return QString::fromStdString(wordsIn(*view.rootObject())).replace(time, "T").toStdString();
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return words() == expected; })) << words();
+
     auto* head = view.rootObject()->findChild<QQuickItem*>("hostCodeHead");
     auto* code = view.rootObject()->findChild<QQuickItem*>("hostCode");
     ASSERT_TRUE(head && code);
-    EXPECT_FALSE(code->isVisible());
-
     Hands(view).tap(head->mapToScene({8, 8}), Device::mouse);
     EXPECT_TRUE(QTest::qWaitFor([&] { return code->isVisible(); }));
-    EXPECT_EQ(code->property("text").toString().toStdString(), HostCode::text().toStdString());
-    EXPECT_EQ(WarningCounter::count(), before);
+    const QString shown = code->property("text").toString();
+    QFile source(QUILLET_PROJECT_FOLDER "/" + HostCode::file());
+    ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(QString::fromUtf8(source.readAll()).contains("\n" + shown + "\n")) << shown.toStdString();
+    for (const char* call : {"QuilletConfiguration::shared().configure(", "Starter::create(",
+                             "quillet::present(", "::navigateToCart()"}) {
+        EXPECT_TRUE(shown.contains(call)) << call;
+    }
+    EXPECT_EQ(WarningCounter::count(), 0);
 }
 
 } // namespace demo::testing

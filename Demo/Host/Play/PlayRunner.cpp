@@ -140,13 +140,13 @@ QString PlayRunner::perform(const steps::Expect& step) {
 }
 
 QString PlayRunner::perform(const steps::Absent& step) {
-    return Stage::wait(patience, [&] { return stage_.settled() && !reader_.shows(step.text); })
+    return Stage::wait(step.within, [&] { return stage_.settled() && !reader_.shows(step.text); })
                ? QString()
                : QStringLiteral("still on the screen: \"%1\"").arg(step.text);
 }
 
 QString PlayRunner::perform(const steps::Title& step) {
-    return Stage::wait(patience, [&] { return stage_.settled() && stage_.title() == step.text; })
+    return Stage::wait(step.within, [&] { return stage_.settled() && stage_.title() == step.text; })
                ? QString()
                : QStringLiteral("the title is \"%1\"").arg(stage_.title());
 }

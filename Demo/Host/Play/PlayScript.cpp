@@ -75,12 +75,6 @@ Parsed parseWaiting(const Words& words) {
     return WaitingStep{words.first(), within};
 }
 
-template <typename TextStep>
-Parsed parseText(const Words& words) {
-    return words.size() == 1 ? Parsed(TextStep{words.first()})
-                             : std::unexpected(QStringLiteral("this step takes one text"));
-}
-
 /// The device in "by=DEVICE", the mouse by default; nothing if the device is unknown.
 std::optional<Device> parseDevice(const Words& words, const QHash<QString, Device>& others) {
     if (words.isEmpty()) {
@@ -224,8 +218,8 @@ Parsed parseStep(const QString& line) {
         {QStringLiteral("close"), parseBare<steps::Close>},
         {QStringLiteral("tap"), parseTap},
         {QStringLiteral("expect"), parseWaiting<steps::Expect>},
-        {QStringLiteral("absent"), parseText<steps::Absent>},
-        {QStringLiteral("title"), parseText<steps::Title>},
+        {QStringLiteral("absent"), parseWaiting<steps::Absent>},
+        {QStringLiteral("title"), parseWaiting<steps::Title>},
         {QStringLiteral("background"), parseBackground},
         {QStringLiteral("close-icon"), parseCloseIcon},
         {QStringLiteral("scroll"), parseScroll},

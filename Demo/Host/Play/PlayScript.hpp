@@ -47,10 +47,12 @@ struct Expect {
 };
 struct Absent {
     QString text;
+    std::chrono::milliseconds within;
     bool operator==(const Absent&) const = default;
 };
 struct Title {
     QString text;
+    std::chrono::milliseconds within;
     bool operator==(const Title&) const = default;
 };
 struct Background {

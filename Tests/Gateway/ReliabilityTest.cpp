@@ -1,0 +1,153 @@
+#include "Gateway/Database.hpp"
+#include "Gateway/RunningGateway.hpp"
+#include "Support/Thorough.hpp"
+
+#include <csignal>
+#include <ctime>
+#include <future>
+#include <list>
+
+#include <sys/resource.h>
+
+namespace quillet::gateway {
+
+namespace {
+
+using namespace std::chrono_literals;
+namespace fs = std::filesystem;
+
+struct GatewayReliability : RunningGateway {
+    static void expectServerError(const Exchange& exchange) {
+        EXPECT_EQ(exchange.code, CURLE_OK) << curl_easy_strerror(exchange.code);
+        EXPECT_EQ(exchange.status, 500);
+        const auto body = Json::parse(exchange.body, nullptr, false);
+        ASSERT_TRUE(body.is_object()) << exchange.body;
+        EXPECT_EQ(body["error"]["message"], "ERROR_DATABASE");
+    }
+};
+
+// Consultant 41051's order gets forty products more. There is as much of each as she may send once, so that
+// half an order could not be sent again.
+constexpr auto largeOrder = R"(
+    CREATE TEMP TABLE numbers AS
+        WITH RECURSIVE n(i) AS (SELECT 900001 UNION ALL SELECT i + 1 FROM n WHERE i < 900040) SELECT i FROM n;
+    INSERT INTO catalogue SELECT i, 'x', 1, 1, 100, 10, 0, 5 FROM numbers;
+    INSERT INTO quotas SELECT i, 0, 2 FROM numbers;
+    INSERT INTO cart_lines SELECT uuid, i, 0, i, 'x', 2, 1, 2, 100, 10, 0 FROM carts, numbers WHERE number = 300051;
+    UPDATE carts SET consultant = 41051 WHERE number = 300051)";
+
+constexpr auto stateOfLargeOrder = R"(
+    SELECT printf('%s, %d lines in %d, %d left', (SELECT status FROM carts WHERE number = 300051), count(*),
+                  count(DISTINCT order_id), (SELECT sum(stock) FROM catalogue WHERE code > 900000)) FROM sent)";
+
+} // namespace
+
+TEST_F(GatewayReliability, KeepsAnOrderWholeOrNotAtAllWhenItIsKilled) {
+    const auto file = folder.path() / "gateway.sqlite";
+    const auto prepared = folder.path() / "prepared";
+    Database(file).script(largeOrder);
+    gateway.end(SIGKILL);
+    fs::copy_file(file, prepared);
+    // Starts the gateway, and kills it when it has answered or this time is over.
+    const auto checkOut = [&](std::chrono::microseconds deadline, const std::string& fault) {
+        GatewayProcess serving({"--data", folder.path()});
+        HttpsClient caller(serving.port(), folder.path() / "ca.pem");
+        EXPECT_EQ(caller.send(openRequest(41051)).status, 200);
+        Database(file).script(fault);
+        const auto begun = std::chrono::steady_clock::now();
+        const auto exchange =
+            caller.send(checkoutRequest(41051), std::chrono::ceil<std::chrono::milliseconds>(deadline));
+        const auto taken = std::chrono::steady_clock::now() - begun;
+        EXPECT_EQ(serving.end(SIGKILL).status, 128 + SIGKILL);
+        return std::pair(exchange.status, std::chrono::ceil<std::chrono::microseconds>(taken));
+    };
+    const auto [status, usual] = checkOut(20s, "");
+    ASSERT_EQ(status, 200);
+
+    int kept = 0;
+    const auto moments = static_cast<int>(quillet::testing::thorough(6, 60));
+    for (int moment = 1; moment <= moments; ++moment) {
+        fs::copy_file(prepared, file, fs::copy_options::overwrite_existing);
+        // With the answer held back, the later moments come after the order was sent.
+        checkOut(2 * usual * moment / moments,
+                 "INSERT INTO faults VALUES (41051, 'checkout', 'delay', '600000', 1)");
+        const auto again = checkOut(20s, "DELETE FROM faults").first;
+        EXPECT_THAT(again, ::testing::AnyOf(200, 400));
+        kept += again == 400 ? 1 : 0;
+        Database database(file);
+        auto state = database.query(stateOfLargeOrder);
+        ASSERT_TRUE(state.next());
+        EXPECT_EQ(state.text(0), "SUBMITTED, 42 lines in 1, 120 left") << "killed at moment " << moment;
+    }
+    RecordProperty("cases", moments);
+    RecordProperty("kept", kept);
+}
+
+TEST_F(GatewayReliability, AnswersThatTheDatabaseIsLockedAndGoesOnOnceItIsNot) {
+    EXPECT_EQ(client.send(associateRequest(41051, cartOf(41051))).status, 200);
+    Database other(folder.path() / "gateway.sqlite");
+    other.script("BEGIN EXCLUSIVE");
+    expectServerError(client.send(checkoutRequest(41051), 10s));
+    other.script("ROLLBACK");
+    EXPECT_EQ(client.send(checkoutRequest(41051)).status, 200);
+}
+
+TEST_F(GatewayReliability, AnswersThatTheDiskIsFullAndGoesOnOnceItIsNot) {
+    const auto disk = folder.path() / "disk";
+    const auto ca = folder.path() / "trust.pem";
+    fs::create_directory(disk);
+    GatewayProcess confined({"--data", disk, "--ca", ca},
+                            {"unshare", "--map-root-user", "--mount", "sh", "-c",
+                             "mount -t tmpfs -o size=1m none \"$0\" && exec \"$@\"", disk});
+    const auto itsPort = confined.port();
+    if (itsPort == 0) {
+        GTEST_SKIP() << "This machine does not let its users mount: " << confined.end().output;
+    }
+    const auto seen = "/proc/" + std::to_string(confined.id()) + "/root" + disk.string();
+    HttpsClient caller(itsPort, ca);
+    EXPECT_EQ(caller.send(associateRequest(41051, cartOf(41051))).status, 200);
+    std::ofstream(seen + "/filling") << std::string(1 << 20, 'x');
+    for (int request = 0; request < 12; ++request) {
+        expectServerError(caller.send(checkoutRequest(41051)));
+    }
+    EXPECT_EQ(caller.send(openRequest(41051)).status, 200);
+    fs::remove(seen + "/filling");
+    EXPECT_EQ(caller.send(checkoutRequest(41051)).status, 200);
+    EXPECT_EQ(readLog(seen + "/gateway.log").back()["status"], 200);
+}
+
+TEST_F(GatewayReliability, ServesTheNextClientAmongManyThatSayNothing) {
+    adjust({"--fault", "consultant=41052 call=open kind=delay value=1000"});
+    auto waiting =
+        std::async(std::launch::async, [&] { return newClient().send(openRequest(41052)).status; });
+    std::list<HttpsClient> idle;
+    for (int number = 0; number < 300; ++number) {
+        EXPECT_EQ(idle.emplace_back(newClient()).connect(number % 10 == 0), CURLE_OK);
+    }
+    EXPECT_EQ(client.send(openRequest(41051)).status, 200);
+    // Whoever waits for an answer gets it.
+    EXPECT_EQ(waiting.get(), 200);
+    RecordProperty("cases", 300);
+}
+
+TEST_F(GatewayReliability, WaitsForAHandleInsteadOfSpinning) {
+    rlimit usual{};
+    ASSERT_EQ(::prlimit(gateway.id(), RLIMIT_NOFILE, nullptr, &usual), 0);
+    const rlimit none{.rlim_cur = 3, .rlim_max = usual.rlim_max};
+    ASSERT_EQ(::prlimit(gateway.id(), RLIMIT_NOFILE, &none, nullptr), 0);
+    clockid_t clock{};
+    timespec before{};
+    timespec after{};
+    ASSERT_EQ(::clock_getcpuclockid(gateway.id(), &clock), 0);
+    ::clock_gettime(clock, &before);
+    EXPECT_EQ(client.send(openRequest(41051), 1s).code, CURLE_OPERATION_TIMEDOUT);
+    ::clock_gettime(clock, &after);
+    const auto milliseconds =
+        (after.tv_sec - before.tv_sec) * 1000 + (after.tv_nsec - before.tv_nsec) / 1'000'000;
+    EXPECT_LT(milliseconds, 50);
+    RecordProperty("milliseconds", static_cast<int>(milliseconds));
+    ASSERT_EQ(::prlimit(gateway.id(), RLIMIT_NOFILE, &usual, nullptr), 0);
+    EXPECT_EQ(client.send(openRequest(41051)).status, 200);
+}
+
+} // namespace quillet::gateway
