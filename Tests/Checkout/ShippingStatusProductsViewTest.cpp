@@ -30,31 +30,16 @@ private:
     Log log_;
 };
 
-std::vector<Product> products(std::size_t count) {
-    std::vector<Product> result(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        result[i].productCode = i + 1;
-    }
-    return result;
-}
-
-std::optional<ExpansionPanel> sent(std::vector<Product> products) {
-    return ProductsViewFactory::shippedProductsView(
-        {std::make_shared<const std::vector<Product>>(std::move(products)), ProductList::Kind::added});
-}
 std::optional<ExpansionPanel> sent(std::size_t count) {
-    return sent(products(count));
+    return ProductsViewFactory::shippedProductsView(
+        {std::make_shared<const std::vector<Product>>(count), ProductList::Kind::added});
 }
 
-std::optional<ExpansionPanel> notSent(std::vector<Product> products) {
-    for (Product& product : products) {
-        product.status = ProductErrorStatus::unavailable;
-    }
-    return ProductsViewFactory::unshippedProductsView(
-        {std::make_shared<const std::vector<Product>>(std::move(products)), ProductList::Kind::notAdded});
-}
 std::optional<ExpansionPanel> notSent(std::size_t count) {
-    return notSent(products(count));
+    Product product;
+    product.status = ProductErrorStatus::unavailable;
+    return ProductsViewFactory::unshippedProductsView(
+        {std::make_shared<const std::vector<Product>>(count, product), ProductList::Kind::notAdded});
 }
 
 /// The list's rows, one letter each: head open (o) or closed (c), product (p), moving product (m). A capital
@@ -229,21 +214,6 @@ TEST_F(Sections, IgnoreTapsBesideTheHeadsAndADelegateThatHasGone) {
     animating->running[0].finish();
     EXPECT_EQ(shape(list), "CoP");
     EXPECT_THAT(taken(log), IsEmpty());
-}
-
-TEST_F(Sections, WriteNumbersOfAllSixtyFourBits) {
-    constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
-    Product one;
-    one.productCode = one.quantity = largest;
-    one.description = "Champú";
-    one.totalPoints = 1;
-    Product many;
-    many.totalPoints = largest;
-    auto& list = show(sent(std::vector{one}), notSent(std::vector{many}));
-    const auto row = [&](int index) { return list.index(index).data(Role::ProductRole).value<ProductRow>(); };
-    EXPECT_EQ(row(1), (ProductRow{"18446744073709551615", "Champú", "Code: 18446744073709551615", "1 punto",
-                                  false, ""}));
-    EXPECT_EQ(row(3), (ProductRow{"0", "", "Code: 0", "18446744073709551615 puntos", true, ""}));
 }
 
 } // namespace quillet::testing

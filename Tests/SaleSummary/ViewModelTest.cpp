@@ -148,11 +148,4 @@ TEST_F(SaleSummaryViewModelTest, GoesOnWithoutItsScreen) {
                 ElementsAre("associate", "associate", "open orders", "open orders", "show second"));
 }
 
-TEST_F(SaleSummaryViewModelTest, TracksItsScreenAndTheSendTap) {
-    viewModel.trackAnalyticsScreen();
-    viewModel.trackSendOrdersToCart();
-    EXPECT_THAT(taken(log), ElementsAre("screen Pedidos de mis clientes",
-                                        event("My Clients Orders", "Send Orders to Cart - Click")));
-}
-
 } // namespace quillet::testing

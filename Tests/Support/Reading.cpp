@@ -41,7 +41,7 @@ std::string reading(const QAccessibleInterface& element) {
         return {};
     }
     const QAccessible::State state = element.state();
-    std::string line = role + (": " + element.text(QAccessible::Name).toStdString());
+    std::string line = role + (" \"" + element.text(QAccessible::Name).toStdString() + '"');
     const std::pair<bool, const char*> states[] = {
         {state.expandable, state.expanded ? ", open" : ", closed"},
         {state.busy, ", busy"},
