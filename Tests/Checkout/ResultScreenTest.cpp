@@ -30,21 +30,6 @@ int itemsBelow(const QQuickItem& item) {
     return count;
 }
 
-/// Shows the overlay and records when.
-class LoggingDisplayer final : public LoadingDisplayable {
-public:
-    explicit LoggingDisplayer(Log log) : log_(std::move(log)) {}
-    void showLoading() override {
-        log_->push_back("overlay");
-        loadingView_.startLoading();
-    }
-    [[nodiscard]] LoadingView& loadingView() override { return loadingView_; }
-
-private:
-    Log log_;
-    LoadingView loadingView_;
-};
-
 struct ResultScreen : ::testing::Test {
     ResultScreen() { useQuilletViews(*qmlEngine(&stage.stack())); }
     ~ResultScreen() override { EXPECT_THAT(stage.complaints(), IsEmpty()); }
@@ -62,7 +47,8 @@ struct ResultScreen : ::testing::Test {
     void show(std::vector<Product> list) {
         const auto products = std::make_shared<const std::vector<Product>>(std::move(list));
         const auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
-            std::make_unique<LoggingDisplayer>(log), std::make_shared<RecordingAnalytics>(log));
+            std::make_unique<LoadingDisplayer>(std::make_unique<LoadingView>()),
+            std::make_shared<RecordingAnalytics>(log));
         screen->setView(ProductsPartiallyAddedFactory({}).view({"05", 1, 1, 1, products, products}, *screen));
         screen->setNavigationDelegate(host);
         ASSERT_TRUE(platform::NavigationController::of(stage.stack()).push(screen));
@@ -80,8 +66,7 @@ TEST_F(ResultScreen, CoversItselfForGoodWhenItAsksTheHostForTheCart) {
     show(0);
     log->clear();
     stage.click("Ir al carrito");
-    EXPECT_THAT(taken(log),
-                ElementsAre(event("My Clients Orders", "Go to Cart"), "overlay", "navigateToCart"));
+    EXPECT_THAT(taken(log), ElementsAre(event("My Clients Orders", "Go to Cart"), "navigateToCart"));
     stage.click("Ir al carrito");
     stage.clickBar();
     EXPECT_THAT(taken(log), IsEmpty());

@@ -99,10 +99,11 @@ TEST_F(Accessibility, SaysWhatWentWrongOnce) {
               1);
 }
 
-TEST_F(Accessibility, ScrollsByKeysAsSoonAsAPageIsShown) {
+TEST_F(Accessibility, ScrollsByKeysAndByTheWheelAsSoonAsAPageIsShown) {
     stage.window().resize(320, 400);
-    ASSERT_TRUE(openSummary());
+    // The dialog takes the keys, and gives them back.
     stage.stack().forceActiveFocus();
+    ASSERT_TRUE(openSummary());
     const auto y = [&] { return stage.middle("En Curso").y(); };
     const double top = y();
     const struct {
@@ -114,6 +115,8 @@ TEST_F(Accessibility, ScrollsByKeysAsSoonAsAPageIsShown) {
         stage.key(key);
         EXPECT_EQ(y() == top, atTop) << key;
     }
+    stage.wheelAt({160, 200});
+    EXPECT_TRUE(turnUntilFor(std::chrono::seconds(5), [&] { return y() < top; }));
 }
 
 TEST_F(Accessibility, ShowsWhereTheKeysAreToThoseWhoUseKeys) {
