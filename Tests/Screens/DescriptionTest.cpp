@@ -4,10 +4,9 @@
 #include "Looks.hpp"
 #include "Support/Reading.hpp"
 
-#include <QProcess>
-
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <ostream>
 
 namespace demo::testing {
@@ -90,27 +89,6 @@ QStringList heardOn(const GalleryStage& stage) {
         quillet::testing::readingOrder(*QAccessible::queryAccessibleInterface(stage.host().window())));
 }
 
-/// Texts are looked up once a process, so a test in another language starts one of its own. True where this
-/// is it.
-bool isInProcessFor(const QString& language) {
-    static const char* const mark = "QUILLET_DESCRIBED_LANGUAGE";
-    if (qEnvironmentVariable(mark) == language) {
-        return true;
-    }
-    const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedChannels);
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QLatin1String(mark), language);
-    process.setProcessEnvironment(environment);
-    process.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--gtest_filter=%1.%2").arg(test->test_suite_name(), test->name()),
-                   QStringLiteral("--gtest_brief=1")});
-    EXPECT_TRUE(process.waitForFinished(60'000));
-    EXPECT_EQ(process.exitCode(), 0);
-    return false;
-}
-
 template <typename Param>
 std::string testName(const ::testing::TestParamInfo<Param>& instance) {
     QString name = QString::fromStdString(::testing::PrintToString(instance.param));
@@ -135,16 +113,19 @@ TEST_P(Descriptions, SayWhatIsSeenAndHeard) {
 INSTANTIATE_TEST_SUITE_P(All, Descriptions, ::testing::ValuesIn(described), testName<Described>);
 
 TEST_P(Translations, SayWhatIsHeard) {
-    const auto& [screen, language] = GetParam();
-    if (!isInProcessFor(language)) {
-        return;
-    }
-    useLanguage(language);
-    GalleryStage stage;
-    const auto opened = stage.open(galleryScreen(screen), {390, height});
-    ASSERT_TRUE(opened) << opened.error().toStdString();
-    ASSERT_TRUE(stage.picture(themeCalled("light"), {100, false}));
-    expectKept(QStringLiteral("%1.%2").arg(screen, language), heardOn(stage));
+    const auto describe = [] {
+        const auto& [screen, language] = GetParam();
+        useLanguage(language);
+        GalleryStage stage;
+        if (stage.open(galleryScreen(screen), {390, height}) &&
+            stage.picture(themeCalled("light"), {100, false})) {
+            expectKept(QStringLiteral("%1.%2").arg(screen, language), heardOn(stage));
+            std::exit(HasFailure() ? 1 : 0);
+        }
+    };
+    // Texts are looked up once a process, so each language has its own.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(describe(), ::testing::ExitedWithCode(0), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Translations, ::testing::ValuesIn(translated()), testName<Translated>);

@@ -10,11 +10,12 @@ namespace {
 
 const char* roleOf(const QAccessibleInterface& element) {
     static const std::map<QAccessible::Role, const char*> roles{
-        {QAccessible::Heading, "heading"}, {QAccessible::StaticText, "text"},
-        {QAccessible::Button, "button"},   {QAccessible::List, "list"},
-        {QAccessible::ListItem, "item"},   {QAccessible::Dialog, "dialog"},
-        {QAccessible::Pane, "page"},       {QAccessible::PageTab, "tab"},
-        {QAccessible::Grouping, "group"},  {QAccessible::Animation, "animation"}};
+        {QAccessible::Heading, "heading"},    {QAccessible::StaticText, "text"},
+        {QAccessible::Button, "button"},      {QAccessible::List, "list"},
+        {QAccessible::ListItem, "item"},      {QAccessible::Dialog, "dialog"},
+        {QAccessible::Pane, "page"},          {QAccessible::PageTab, "tab"},
+        {QAccessible::PageTabList, "tabs"},   {QAccessible::Grouping, "group"},
+        {QAccessible::Animation, "animation"}};
     const auto found = roles.find(element.role());
     return found == roles.end() ? nullptr : found->second;
 }
@@ -46,6 +47,7 @@ std::string reading(const QAccessibleInterface& element) {
         {state.expandable, state.expanded ? ", open" : ", closed"},
         {state.busy, ", busy"},
         {state.modal, ", modal"},
+        {state.selected, ", selected"},
         {state.disabled, ", disabled"},
     };
     for (const auto& [holds, word] : states) {
