@@ -1,15 +1,10 @@
 #include "Checkout/CheckoutFactory.hpp"
-#include "KelCommon/KelAnalyticsManager.hpp"
-#include "Platform/Screens/NavigationController.hpp"
-#include "Quillet/Testing/RecordingHost.hpp"
-#include "Support/FakeWorkerCollaborators.hpp"
-#include "Support/Stage.hpp"
-#include "Views/QuilletViews.hpp"
-#include "Workers/CheckoutWorker.hpp"
+#include "Checkout/Screen/CheckoutViewModel.hpp"
+#include "Support/ModuleTest.hpp"
+#include "Workers/CheckoutWorkerFactory.hpp"
 
+#include <QCoreApplication>
 #include <QPointer>
-
-#include <gmock/gmock.h>
 
 namespace quillet::testing {
 
@@ -17,26 +12,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-/// Makes real workers with the test's service and main queue.
-class WorkerFactory final : public CheckoutWorkerCreating {
-public:
-    WorkerFactory(std::shared_ptr<Conversation<CheckoutResult>> talk,
-                  std::shared_ptr<platform::MainQueue> queue,
-                  std::vector<std::weak_ptr<CheckoutWorker>>& made)
-        : talk_(std::move(talk)), queue_(std::move(queue)), made_(made) {}
-    [[nodiscard]] std::shared_ptr<CheckoutWorker> create() const override {
-        auto worker = std::make_shared<CheckoutWorker>(std::make_unique<FakeCheckoutService>(talk_),
-                                                       std::make_unique<DrainedQueue>(queue_));
-        made_.push_back(worker);
-        return worker;
-    }
-
-private:
-    std::shared_ptr<Conversation<CheckoutResult>> talk_;
-    std::shared_ptr<platform::MainQueue> queue_;
-    std::vector<std::weak_ptr<CheckoutWorker>>& made_;
-};
+using Lines = std::vector<std::string>;
 
 /// A host that runs an action of the test at each screen view.
 class ActingAnalytics final : public kel::KelAnalyticsManagerType {
@@ -49,63 +25,77 @@ private:
     std::function<void()> act_;
 };
 
-struct CheckoutScreen : ::testing::Test {
-    CheckoutScreen() {
-        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<RecordingAnalytics>(log));
-        useQuilletViews(*qmlEngine(&stage.stack()));
-    }
-    ~CheckoutScreen() override {
-        kel::KelAnalyticsManager::shared()->setSink(nullptr);
-        EXPECT_THAT(stage.complaints(), IsEmpty());
-    }
+Reply verdict(const QString& message, std::int64_t status = 200) {
+    return {.status = status,
+            .body = QString::fromStdString(sampleBody(Call::checkout))
+                        .replace("CART_SUBMITTED_PARTIAL_SUCCESS", message)
+                        .toStdString()};
+}
 
-    std::weak_ptr<platform::QuickViewController> open() {
-        const auto screen = CheckoutFactory(std::make_unique<WorkerFactory>(talk, queue, workers),
+struct CheckoutScreen : ModuleTest {
+    /// Opens a checkout whose call is answered by `answer()`.
+    std::weak_ptr<platform::QuickViewController> open(Reply reply) {
+        reply.after = std::chrono::seconds(5);
+        backend->script(Call::checkout, {reply});
+        const auto screen = CheckoutFactory(std::make_unique<CheckoutWorkerFactory>(
+                                                "CL", 41052, Authorization{"jwt", "idp"}, "gateway.test"),
                                             std::make_unique<CheckoutConfigurator>(), host)
                                 .create();
-        EXPECT_TRUE(platform::NavigationController::of(stage.stack()).push(screen));
+        EXPECT_TRUE(present(screen, stage.stack()));
         return screen;
     }
-
-    /// Answers the call with that index.
-    void answer(CheckoutResult result, std::size_t call = 0) {
-        std::exchange(talk->pending.at(call), nullptr)(std::move(result));
-        queue->drain();
+    void answer() const {
+        backend->clock()->advance(std::chrono::seconds(5));
+        QCoreApplication::processEvents();
+    }
+    [[nodiscard]] bool settles(int depth) const {
+        return turnUntil([&] { return stage.depth() == depth && settled(stage.stack()); });
     }
 
-    static CheckoutResult success() {
-        CheckoutResponse response;
-        response.message = CheckoutResponseMessage::cartSubmittedSuccess;
-        return {.checkoutResponse = response, .error = {}, .httpStatusCode = 200};
-    }
-    static CheckoutResult failure() {
-        return {.checkoutResponse = {}, .error = HttpStatusCodeError{500}, .httpStatusCode = 500};
-    }
-
-    [[nodiscard]] bool settled() const { return !stage.stack().property("busy").toBool(); }
-
-    Log log = makeLog();
-    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(log);
-    std::shared_ptr<platform::MainQueue> queue = std::make_shared<platform::MainQueue>();
-    std::shared_ptr<Conversation<CheckoutResult>> talk = std::make_shared<Conversation<CheckoutResult>>();
-    std::vector<std::weak_ptr<CheckoutWorker>> workers;
+    const Reply failure{.status = 500};
     Stage stage;
 };
 
 } // namespace
 
-TEST_F(CheckoutScreen, TakesEverythingAlongWhenItIsClosedBeforeTheAnswer) {
-    const auto screen = open();
-    ASSERT_EQ(talk->pending.size(), 1u);
-    EXPECT_FALSE(workers[0].expired());
-    stage.popAll();
-    ASSERT_TRUE(turnUntil([&] { return screen.expired(); }));
-    EXPECT_TRUE(workers[0].expired());
-    // The service held the other end.
-    EXPECT_EQ(talk.use_count(), 1);
-    answer(failure());
-    EXPECT_EQ(stage.depth(), 1);
-    EXPECT_THAT(*log, IsEmpty());
+TEST_F(CheckoutScreen, ShowsTheVerdictsResultAndLooksAtTheStatusForErrorsOnly) {
+    const QString all = "Vea los productos que fueron enviados al carrito.";
+    const QString none = "Infelizmente niguno de los productos fue enviado al carrito.";
+    const QString generic = "¡Ups, tuvimos un problema!";
+    const platform::URLError offline{platform::URLError::Code::notConnectedToInternet, ""};
+    const struct {
+        Reply reply;
+        QString shown;
+    } cases[] = {
+        {verdict("CART_SUBMITTED_SUCCESS"), all},
+        {verdict("CART_SUBMITTED_SUCCESS", 422), all},
+        {verdict("CART_SUBMITTED_PARTIAL_SUCCESS"), someSent},
+        {verdict("CART_SUBMITTED_PARTIAL_SUCCESS", 500), someSent},
+        {verdict("CART_SUBMITTED_ERROR", 422), none},
+        {verdict("CART_SUBMITTED_ERROR", 200), generic},
+        {verdict("CART_SUBMITTED_ERROR", 400), generic},
+        {failure, generic},
+        {{.error = offline}, generic},
+    };
+    for (const auto& transition : {"pushEnter", "pushExit"}) {
+        stage.stack().setProperty(transition, QVariant::fromValue<QObject*>(nullptr));
+    }
+    for (const auto& [reply, shown] : cases) {
+        open(reply);
+        answer();
+        EXPECT_TRUE(stage.shows(shown)) << shown.toStdString() << " after " << reply.status;
+        EXPECT_THAT(taken(log),
+                    ElementsAre(shown == generic ? "screen Error" : "screen Feedback de produtos"));
+        stage.popAll();
+    }
+    EXPECT_EQ(backend->requests().size(), std::size(cases));
+}
+
+TEST_F(CheckoutScreen, TracksAnErrorThatNoScreenShows) {
+    CheckoutViewModel(nullptr, std::make_shared<RecordingAnalytics>(log))
+        .didCheckout(
+            std::make_shared<const CheckoutResult>(CheckoutResult{{}, HttpStatusCodeError{500}, 500}));
+    EXPECT_THAT(taken(log), ElementsAre("screen Error"));
 }
 
 TEST_F(CheckoutScreen, HearsNoAnswerOnceTheHostHasTakenItOff) {
@@ -113,27 +103,26 @@ TEST_F(CheckoutScreen, HearsNoAnswerOnceTheHostHasTakenItOff) {
         [&] { stage.pop(); },
         [&] { stage.popAll(); },
         // It lies below another screen.
-        [&] { open(), stage.popAll(); },
+        [&] { open(failure), stage.popAll(); },
     };
     for (const auto& takeOff : ways) {
-        for (const CheckoutResult& result : {success(), failure()}) {
-            talk->pending.clear();
-            const auto screen = open();
-            ASSERT_TRUE(turnUntil([&] { return settled(); }));
+        for (const Reply& reply : {verdict("CART_SUBMITTED_SUCCESS"), failure}) {
+            const auto screen = open(reply);
+            ASSERT_TRUE(settles(2));
             takeOff();
             // The page is still there.
             ASSERT_FALSE(screen.expired());
-            answer(result);
+            answer();
             EXPECT_EQ(stage.depth(), 1);
-            ASSERT_TRUE(turnUntil([&] { return settled() && screen.expired(); }));
-            EXPECT_EQ(stage.depth(), 1);
+            ASSERT_TRUE(turnUntil([&] { return screen.expired(); }));
+            ASSERT_TRUE(settles(1));
             EXPECT_THAT(taken(log), IsEmpty());
         }
     }
 }
 
 TEST_F(CheckoutScreen, LivesToTheEndOfAnAnswerInWhoseMiddleTheHostTakesItOff) {
-    const auto screen = open();
+    const auto screen = open(failure);
     const QPointer<QQuickItem> page = stage.stack().property("currentItem").value<QQuickItem*>();
     bool lives = false;
     kel::KelAnalyticsManager::shared()->setSink(std::make_shared<ActingAnalytics>([&] {
@@ -141,41 +130,34 @@ TEST_F(CheckoutScreen, LivesToTheEndOfAnAnswerInWhoseMiddleTheHostTakesItOff) {
         EXPECT_TRUE(turnUntil([&] { return !page; }));
         lives = !screen.expired();
     }));
-    answer(failure());
+    answer();
     EXPECT_TRUE(lives);
     EXPECT_TRUE(screen.expired());
 }
 
-TEST_F(CheckoutScreen, GoesOnUnderAPageThatCoversIt) {
-    open();
-    open();
-    ASSERT_TRUE(turnUntil([&] { return settled(); }));
-    answer(failure());
-    EXPECT_THAT(taken(log), ElementsAre("screen Error"));
-    EXPECT_FALSE(stage.shows("Actualizar"));
+TEST_F(CheckoutScreen, GoesOnUnderAPageThatCoversItAndDoesNothingWithoutAHost) {
+    open(failure);
+    open(failure);
+    ASSERT_TRUE(settles(3));
+    answer();
+    EXPECT_THAT(taken(log), ElementsAre("screen Error", "screen Error"));
     stage.pop();
-    ASSERT_TRUE(turnUntil([&] { return settled(); }));
-    stage.click("Actualizar");
-    EXPECT_TRUE(turnUntil([&] { return talk->pending.size() == 3; }));
-    // The window is destroyed while its overlay still has the keyboard focus to give back.
+    ASSERT_TRUE(settles(2));
+    host.reset();
+    stage.key(Qt::Key_Escape);
+    ASSERT_TRUE(turnUntil([&] { return !stage.shows("Actualizar"); }));
+    EXPECT_THAT(taken(log), IsEmpty());
 }
 
 TEST_F(CheckoutScreen, SetsItsTitleOnEachAppearanceAndChecksOutOnce) {
-    const auto screen = open();
-    EXPECT_EQ(screen.lock()->title(), "Envío al carrito");
-    EXPECT_TRUE(screen.lock()->hidesBackButton());
-    answer(success());
-    ASSERT_TRUE(turnUntil([&] { return stage.depth() == 3 && settled(); }));
-    const auto* result = stage.stack().property("currentItem").value<QQuickItem*>();
-    const auto* shown = result->property("viewController").value<QObject*>();
-    EXPECT_EQ(shown->property("title").toString(), "Comentarios sobre los envíos");
-    EXPECT_TRUE(shown->property("hidesBackButton").toBool());
+    const auto screen = open(verdict("CART_SUBMITTED_SUCCESS"));
+    answer();
+    ASSERT_TRUE(settles(3));
     screen.lock()->setTitle({});
     stage.pop();
-    ASSERT_TRUE(turnUntil([&] { return stage.depth() == 2 && settled(); }));
+    ASSERT_TRUE(settles(2));
     EXPECT_EQ(screen.lock()->title(), "Envío al carrito");
-    EXPECT_EQ(talk->log.size(), 1u);
-    EXPECT_THAT(taken(log), ElementsAre("screen Feedback de produtos"));
+    EXPECT_EQ(backend->requests().size(), 1u);
 }
 
 } // namespace quillet::testing

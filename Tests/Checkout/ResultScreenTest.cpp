@@ -6,7 +6,6 @@
 #include "Support/Stage.hpp"
 #include "Views/QuilletViews.hpp"
 
-#include <QAccessible>
 #include <QQuickItem>
 
 #include <gmock/gmock.h>
@@ -31,35 +30,6 @@ int itemsBelow(const QQuickItem& item) {
     return count;
 }
 
-/// The elements below this one as a screen reader goes through them, with a role that matters in front.
-void walk(QAccessibleInterface& element, std::vector<std::string>& heard) {
-    const std::string name = element.text(QAccessible::Name).toStdString();
-    const bool isItem = element.role() == QAccessible::ListItem;
-    if (!name.empty()) {
-        heard.push_back((isItem ? "item: " : "") + name);
-    }
-    for (int i = 0; i < element.childCount(); ++i) {
-        if (QAccessibleInterface* child = element.child(i)) {
-            walk(*child, heard);
-        }
-    }
-}
-
-/// Shows the overlay and records when.
-class LoggingDisplayer final : public LoadingDisplayable {
-public:
-    explicit LoggingDisplayer(Log log) : log_(std::move(log)) {}
-    void showLoading() override {
-        log_->push_back("overlay");
-        loadingView_.startLoading();
-    }
-    [[nodiscard]] LoadingView& loadingView() override { return loadingView_; }
-
-private:
-    Log log_;
-    LoadingView loadingView_;
-};
-
 struct ResultScreen : ::testing::Test {
     ResultScreen() { useQuilletViews(*qmlEngine(&stage.stack())); }
     ~ResultScreen() override { EXPECT_THAT(stage.complaints(), IsEmpty()); }
@@ -77,7 +47,8 @@ struct ResultScreen : ::testing::Test {
     void show(std::vector<Product> list) {
         const auto products = std::make_shared<const std::vector<Product>>(std::move(list));
         const auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
-            std::make_unique<LoggingDisplayer>(log), std::make_shared<RecordingAnalytics>(log));
+            std::make_unique<LoadingDisplayer>(std::make_unique<LoadingView>()),
+            std::make_shared<RecordingAnalytics>(log));
         screen->setView(ProductsPartiallyAddedFactory({}).view({"05", 1, 1, 1, products, products}, *screen));
         screen->setNavigationDelegate(host);
         ASSERT_TRUE(platform::NavigationController::of(stage.stack()).push(screen));
@@ -91,40 +62,11 @@ struct ResultScreen : ::testing::Test {
 
 } // namespace
 
-TEST_F(ResultScreen, IsReadProductByProduct) {
-    Product cream;
-    cream.productCode = 70412;
-    cream.description = "Crema";
-    cream.quantity = 2;
-    cream.totalPoints = 24;
-    show({cream});
-    std::vector<std::string> heard;
-    walk(*QAccessible::queryAccessibleInterface(&stage.window()), heard);
-    EXPECT_THAT(heard, ::testing::Contains("item: 2, Crema, Code: 70412, 24 puntos"));
-    EXPECT_THAT(heard, Not(::testing::Contains("Crema")));
-    EXPECT_THAT(heard, ::testing::Contains("Productos enviados"));
-}
-
-TEST_F(ResultScreen, TracksItselfOnceAndEachTapOnASection) {
-    show(2);
-    EXPECT_THAT(taken(log), ElementsAre("screen Feedback de produtos"));
-    ASSERT_TRUE(stage.shows("Code: 1"));
-    stage.click("Productos enviados");
-    EXPECT_TRUE(turnUntil([&] { return !stage.shows("Code: 1"); }));
-    stage.click("Productos enviados");
-    EXPECT_TRUE(turnUntil([&] { return stage.shows("Code: 1"); }));
-    stage.click("Productos no enviados");
-    EXPECT_THAT(taken(log), ElementsAre(event("My Clients Orders", "Products Sent - Hide"),
-                                        event("My Clients Orders", "Products Sent - Expand"),
-                                        event("My Clients Orders", "Products Not Sent - Hide")));
-}
-
 TEST_F(ResultScreen, CoversItselfForGoodWhenItAsksTheHostForTheCart) {
     show(0);
     log->clear();
     stage.click("Ir al carrito");
-    EXPECT_THAT(taken(log),
-                ElementsAre(event("My Clients Orders", "Go to Cart"), "overlay", "navigateToCart"));
+    EXPECT_THAT(taken(log), ElementsAre(event("My Clients Orders", "Go to Cart"), "navigateToCart"));
     stage.click("Ir al carrito");
     stage.clickBar();
     EXPECT_THAT(taken(log), IsEmpty());

@@ -30,31 +30,16 @@ private:
     Log log_;
 };
 
-std::vector<Product> products(std::size_t count) {
-    std::vector<Product> result(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        result[i].productCode = i + 1;
-    }
-    return result;
-}
-
-std::optional<ExpansionPanel> sent(std::vector<Product> products) {
-    return ProductsViewFactory::shippedProductsView(
-        {std::make_shared<const std::vector<Product>>(std::move(products)), ProductList::Kind::added});
-}
 std::optional<ExpansionPanel> sent(std::size_t count) {
-    return sent(products(count));
+    return ProductsViewFactory::shippedProductsView(
+        {std::make_shared<const std::vector<Product>>(count), ProductList::Kind::added});
 }
 
-std::optional<ExpansionPanel> notSent(std::vector<Product> products) {
-    for (Product& product : products) {
-        product.status = ProductErrorStatus::unavailable;
-    }
-    return ProductsViewFactory::unshippedProductsView(
-        {std::make_shared<const std::vector<Product>>(std::move(products)), ProductList::Kind::notAdded});
-}
 std::optional<ExpansionPanel> notSent(std::size_t count) {
-    return notSent(products(count));
+    Product product;
+    product.status = ProductErrorStatus::unavailable;
+    return ProductsViewFactory::unshippedProductsView(
+        {std::make_shared<const std::vector<Product>>(count, product), ProductList::Kind::notAdded});
 }
 
 /// The list's rows, one letter each: head open (o) or closed (c), product (p), moving product (m). A capital
@@ -131,29 +116,6 @@ TEST_F(Sections, OpenAndCloseAtOnceWithReducedMotionAndTellOncePerTap) {
     }
 }
 
-TEST_F(Sections, MoveOnlyTheRowsThatAreInView) {
-    auto& list = show(sent(5), notSent(1));
-    list.toggle(0, 2);
-    EXPECT_EQ(shape(list), "cmMoP");
-    EXPECT_THAT(taken(log), ElementsAre("sent hidden"));
-    ASSERT_EQ(animating->running.size(), 1u);
-    EXPECT_EQ(animating->running[0].duration, std::chrono::milliseconds(200));
-    EXPECT_EQ(list.reveal(), 1);
-    animating->running[0].step(0.5);
-    EXPECT_DOUBLE_EQ(list.reveal(), 0.125);
-    animating->running[0].finish();
-    EXPECT_EQ(shape(list), "CoP");
-
-    list.toggle(0, 3);
-    EXPECT_EQ(shape(list), "ommMoP");
-    EXPECT_EQ(list.reveal(), 0);
-    animating->running[1].step(0.5);
-    EXPECT_DOUBLE_EQ(list.reveal(), 0.875);
-    animating->running[1].finish();
-    EXPECT_EQ(shape(list), "oppppPoP");
-    EXPECT_EQ(list.reveal(), 1);
-}
-
 TEST_F(Sections, ShowWhatIsAboveTheCutWhileTheyMove) {
     auto& list = show(sent(3), notSent(1));
     int changes = 0;
@@ -187,35 +149,60 @@ TEST_F(Sections, ShowWhatIsAboveTheCutWhileTheyMove) {
     EXPECT_DOUBLE_EQ(list.shownHeight(2, 0.5), 40);
 }
 
-TEST_F(Sections, TurnRoundAtATapInTheMiddleOfAMove) {
-    auto& list = show(sent(3), notSent(2));
-    list.toggle(0, 2);
-    animating->running[0].step(0.5);
-    EXPECT_EQ(shape(list), "cmMopP");
-    list.toggle(0, 2);
-    EXPECT_EQ(shape(list), "omMopP");
-    EXPECT_DOUBLE_EQ(list.reveal(), 0.125);
-    animating->running[0].finish();
-    EXPECT_DOUBLE_EQ(list.reveal(), 0.125);
-    animating->running[1].step(0.5);
-    EXPECT_DOUBLE_EQ(list.reveal(), 0.125 + 0.875 * 0.875);
-    animating->running[1].finish();
-    EXPECT_EQ(shape(list), "oppPopP");
-    EXPECT_THAT(taken(log), ElementsAre("sent hidden", "sent expanded"));
-}
-
-TEST_F(Sections, ComeToRestWhenAnotherIsTappedAndOutliveNothing) {
-    auto& list = show(sent(3), notSent(2));
-    list.toggle(0, 2);
-    // The row of the lower section's head at this moment.
-    list.toggle(3, 1);
-    EXPECT_EQ(shape(list), "CcM");
-    animating->running[0].finish();
-    EXPECT_EQ(shape(list), "CcM");
-    EXPECT_THAT(taken(log), ElementsAre("sent hidden", "not sent hidden"));
+TEST_F(Sections, MoveTheRowsInViewAndTurnRoundOrComeToRestAtTheNextTap) {
+    enum Act { tap, move, finish };
+    struct Step {
+        Act act;
+        /// The row that is tapped, or which of the moves goes on.
+        std::size_t index;
+        /// How many rows there is room for, or how far the move is.
+        double share;
+        std::string shape;
+        double reveal;
+    };
+    const std::pair<std::size_t, std::vector<Step>> cases[] = {
+        {5,
+         {{tap, 0, 2, "cmMopP", 1},
+          {move, 0, 0.5, "cmMopP", 0.125},
+          {finish, 0, 1, "CopP", 1},
+          {tap, 0, 3, "ommMopP", 0},
+          {move, 1, 0.5, "ommMopP", 0.875},
+          {finish, 1, 1, "oppppPopP", 1}}},
+        {3,
+         {{tap, 0, 2, "cmMopP", 1},
+          {move, 0, 0.5, "cmMopP", 0.125},
+          {tap, 0, 2, "omMopP", 0.125},
+          {finish, 0, 1, "omMopP", 0.125},
+          {move, 1, 0.5, "omMopP", 0.125 + 0.875 * 0.875},
+          {finish, 1, 1, "oppPopP", 1}}},
+        // The row of the lower section's head at this moment.
+        {3,
+         {{tap, 0, 2, "cmMopP", 1},
+          {tap, 3, 1, "CcM", 1},
+          {finish, 0, 1, "CcM", 1},
+          {finish, 1, 1, "CC", 1}}},
+    };
+    for (const auto& [products, steps] : cases) {
+        auto& list = show(sent(products), notSent(2));
+        animating->running.clear();
+        for (const auto& [act, index, share, rows, reveal] : steps) {
+            if (act == tap) {
+                list.toggle(static_cast<int>(index), static_cast<int>(share));
+                EXPECT_EQ(animating->running.back().duration, std::chrono::milliseconds(200));
+            } else {
+                animating->running[index].step(share);
+            }
+            if (act == finish) {
+                animating->running[index].completion();
+            }
+            EXPECT_EQ(shape(list), rows);
+            EXPECT_DOUBLE_EQ(list.reveal(), reveal) << rows;
+        }
+    }
+    view->toggle(0, 2);
     tester.reset();
     view.reset();
-    animating->running[1].finish();
+    animating->running.back().finish();
 }
 
 TEST_F(Sections, IgnoreTapsBesideTheHeadsAndADelegateThatHasGone) {
@@ -229,21 +216,6 @@ TEST_F(Sections, IgnoreTapsBesideTheHeadsAndADelegateThatHasGone) {
     animating->running[0].finish();
     EXPECT_EQ(shape(list), "CoP");
     EXPECT_THAT(taken(log), IsEmpty());
-}
-
-TEST_F(Sections, WriteNumbersOfAllSixtyFourBits) {
-    constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
-    Product one;
-    one.productCode = one.quantity = largest;
-    one.description = "Champú";
-    one.totalPoints = 1;
-    Product many;
-    many.totalPoints = largest;
-    auto& list = show(sent(std::vector{one}), notSent(std::vector{many}));
-    const auto row = [&](int index) { return list.index(index).data(Role::ProductRole).value<ProductRow>(); };
-    EXPECT_EQ(row(1), (ProductRow{"18446744073709551615", "Champú", "Code: 18446744073709551615", "1 punto",
-                                  false, ""}));
-    EXPECT_EQ(row(3), (ProductRow{"0", "", "Code: 0", "18446744073709551615 puntos", true, ""}));
 }
 
 } // namespace quillet::testing

@@ -1,12 +1,4 @@
-#include "Quillet/Quillet.hpp"
-#include "Quillet/Testing.hpp"
-#include "Support/Stage.hpp"
-
-#include <KelCommon/KelAnalyticsManager.hpp>
-
-#include <QQmlEngine>
-
-#include <gmock/gmock.h>
+#include "Support/ModuleTest.hpp"
 
 namespace quillet::testing {
 
@@ -14,173 +6,144 @@ namespace {
 
 using ::testing::IsEmpty;
 
-const char* const barInHeader = R"(
-    import QtQuick
-    import QtQuick.Controls
-    ApplicationWindow {
-        width: 390; height: 844; visible: true
-        property alias stack: stack
-        property alias bar: bar
-        header: Rectangle {
-            id: bar
-            property int clicks: 0
-            implicitHeight: 64
-            MouseArea { anchors.fill: parent; onClicked: bar.clicks++ }
-        }
-        StackView { id: stack; objectName: "stack"; anchors.fill: parent; initialItem: Item {} }
-    })";
-
-// The bar and the module's page in a layout, and below it a part of the window that the host names for covers
-// or not.
-const char* const stackInLayout = R"(
+/// A window with `bars` in it, and around the stack what the host has there. Where a tap is to reach a bar
+/// this counts it.
+std::string windowOf(const std::string& bars, const std::string& around) {
+    return R"(
     import QtQuick
     import QtQuick.Controls
     import QtQuick.Layouts
-    Window {
+    ApplicationWindow {
+        id: window
         width: 390; height: 844; visible: true
-        property alias stack: stack
-        property alias bar: bar
-        property alias pane: pane
-        Rectangle {
-            id: bar
+        property Item stack: null
+        property Item bar: null
+        property Item right: null
+        component Bar: Rectangle {
             property int clicks: 0
-            width: parent.width; height: 64
-            MouseArea { anchors.fill: parent; onClicked: bar.clicks++ }
+            implicitHeight: 64; implicitWidth: 200
+            MouseArea { anchors.fill: parent; onClicked: parent.clicks++ }
         }
+        component Stack: StackView {
+            Layout.fillWidth: true; Layout.fillHeight: true
+            initialItem: Item {}
+        }
+        )" +
+           bars + around + "}";
+}
+
+const std::string stackAlone = "Stack { anchors.fill: parent; Component.onCompleted: window.stack = this }";
+const std::string barAbove = "Bar { width: parent.width; Component.onCompleted: window.bar = this }";
+
+/// Whether the module covers the host's bar while it loads, in hosts of other shapes.
+struct Shape {
+    const char* name;
+    std::string window;
+    bool coversBar;
+    /// Whether the host names the whole window for covers.
+    bool namesWindow = false;
+
+    friend void PrintTo(const Shape& shape, std::ostream* stream) { *stream << shape.name; }
+};
+
+const std::string inLayout = R"(
         Item {
-            id: pane
             anchors.fill: parent; anchors.topMargin: 64
             ColumnLayout {
                 anchors.fill: parent
-                StackView {
-                    id: stack
-                    objectName: "stack"
-                    Layout.fillWidth: true; Layout.fillHeight: true
-                    initialItem: Item {}
-                }
+                Stack { Component.onCompleted: window.stack = this }
             }
-        }
-    })";
+        })";
 
-const char* const sideBySide = R"(
-    import QtQuick
-    import QtQuick.Controls
-    import QtQuick.Layouts
-    ApplicationWindow {
-        width: 800; height: 844; visible: true
-        property alias stack: left
-        property alias right: right
-        property alias bar: bar
-        Item { id: bar; property int clicks: 0 }
+const std::string inDrawer = R"(
+        Drawer {
+            width: 300; height: parent.height; visible: true; modal: false; interactive: false
+            enter: null
+            Stack { anchors.fill: parent; Component.onCompleted: window.stack = this }
+        })";
+
+std::vector<Shape> shapes() {
+    return {
+        {"header", windowOf("header: Bar { Component.onCompleted: window.bar = this }", stackAlone), true},
+        {"footer", windowOf("footer: Bar { Component.onCompleted: window.bar = this }", stackAlone), true},
+        {"layout", windowOf(barAbove, inLayout), false},
+        {"layoutWithinAnAreaThatIsNamed", windowOf(barAbove, inLayout), true, true},
+        {"drawer", windowOf(barAbove, inDrawer), false},
+        {"besideAnotherStack", windowOf(barAbove + "Stack { y: 700; width: parent.width; height: 144 }", R"(
+        Stack { y: 64; width: parent.width; height: 636; Component.onCompleted: window.stack = this })"),
+         false},
+    };
+}
+
+struct CoveredShapes : ModuleTest, ::testing::WithParamInterface<Shape> {};
+struct HostShapes : ModuleTest {};
+
+const std::string sideBySide = windowOf(barAbove, R"(
         RowLayout {
-            anchors.fill: parent
-            StackView { id: left; Layout.fillWidth: true; Layout.fillHeight: true; initialItem: Item {} }
-            StackView { id: right; Layout.fillWidth: true; Layout.fillHeight: true; initialItem: Item {} }
-        }
-    })";
+            anchors.fill: parent; anchors.topMargin: 64
+            Stack { Component.onCompleted: window.stack = this }
+            Stack { Component.onCompleted: window.right = this }
+        })");
 
-struct HostShapes : ::testing::Test {
-    HostShapes() { kel::KelAnalyticsManager::shared()->setSink(std::make_shared<RecordingAnalytics>(log)); }
-    ~HostShapes() override {
-        kel::KelAnalyticsManager::shared()->setSink(nullptr);
-        ScriptedBackend::uninstall();
-        EXPECT_THAT(Stage::complaints(), IsEmpty());
-    }
-
-    // The dialog of an order that was taken over comes first.
-    [[nodiscard]] bool showOrder(Stage& stage) const {
-        if (!turnUntil([&] { return stage.shows(viewOrders); })) {
-            return false;
-        }
-        stage.click(viewOrders);
-        return turnUntil([&] { return !stage.shows(viewOrders); });
-    }
-
-    [[nodiscard]] bool open(QQuickItem& stack, QQuickItem* covered = nullptr) const {
-        const auto starter = Starter::create("token", "idp", {"cart-1", 41052, "CL"}, host);
-        // The window and its layouts get their sizes in the event loop.
-        return turnUntil([&] { return stack.height() > 0 && stack.window()->isExposed(); }) &&
-               present(starter->createRootViewController(), stack, covered) &&
-               turnUntil([&] { return !stack.property("busy").toBool(); });
-    }
-
-    static QQuickItem* part(const Stage& stage, const char* name) {
-        return stage.window().property(name).value<QQuickItem*>();
-    }
-
-    static bool isUnder(const QQuickItem* item, const QQuickItem& ancestor) {
-        return item && ancestor.isAncestorOf(item);
-    }
-
-    Log log = makeLog();
-    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(log);
-    std::shared_ptr<ScriptedBackend> backend = ScriptedBackend::install();
-    const QString viewOrders = "Ver Pedidos";
-    const QString send = "Enviar productos a mi carrito";
-};
+bool isUnder(const QQuickItem* item, const QQuickItem& ancestor) {
+    return item && ancestor.isAncestorOf(item);
+}
 
 } // namespace
 
-TEST_F(HostShapes, CoverABarInTheWindowsHeader) {
+TEST_P(CoveredShapes, AreCoveredAsFarAsTheModuleReaches) {
     backend->script(Call::associate,
                     {Reply{.body = sampleBody(Call::associate), .after = std::chrono::seconds(5)}});
-    Stage stage(barInHeader);
-    ASSERT_TRUE(open(stage.stack()));
-    stage.clickBar();
-    EXPECT_EQ(stage.barClicks(), 0);
+    Stage stage(GetParam().window.c_str());
+    ASSERT_TRUE(open(stage.stack(), GetParam().namesWindow ? stage.window().contentItem() : nullptr));
+    const QSizeF size = stage.stack().size();
+    // The bar of the drawer's window begins beside the drawer.
+    const auto clickBar = [&] { stage.clickAt(stage.bar().mapToScene({stage.bar().width() - 20, 32})); };
+    clickBar();
+    EXPECT_EQ(stage.barClicks(), GetParam().coversBar ? 0 : 1);
+    EXPECT_EQ(stage.stack().size(), size);
     backend->clock()->advance(std::chrono::seconds(5));
-    ASSERT_TRUE(showOrder(stage));
-    stage.clickBar();
-    EXPECT_EQ(stage.barClicks(), 1);
+    ASSERT_TRUE(showSummary(stage));
+    clickBar();
+    EXPECT_EQ(stage.barClicks(), GetParam().coversBar ? 1 : 2);
+    EXPECT_TRUE(showResult(stage, stage.stack()));
 }
 
-TEST_F(HostShapes, CoverNoMoreThanTheItemThatIsNamed) {
-    backend->script(Call::associate, {Reply::never()});
-    for (const bool isNamed : {false, true}) {
-        SCOPED_TRACE(isNamed);
-        Stage stage(stackInLayout);
-        QQuickItem* const pane = part(stage, "pane");
-        ASSERT_TRUE(open(stage.stack(), isNamed ? stage.window().contentItem() : nullptr));
-        stage.clickBar();
-        EXPECT_EQ(stage.barClicks(), isNamed ? 0 : 1);
-        EXPECT_EQ(stage.stack().size(), pane->size());
-    }
-}
+INSTANTIATE_TEST_SUITE_P(All, CoveredShapes, ::testing::ValuesIn(shapes()),
+                         [](const auto& instance) { return std::string(instance.param.name); });
 
 TEST_F(HostShapes, KeepTwoModulesApart) {
     backend->script(Call::associate, {Reply::never(), Reply::sample(Call::associate)});
-    Stage stage(sideBySide);
-    QQuickItem& right = *part(stage, "right");
+    Stage stage(sideBySide.c_str());
+    stage.window().setWidth(800);
+    QQuickItem& right = *stage.window().property("right").value<QQuickItem*>();
     ASSERT_TRUE(open(stage.stack()));
     ASSERT_TRUE(open(right));
-    ASSERT_TRUE(showOrder(stage));
+    ASSERT_TRUE(showSummary(stage));
     ASSERT_TRUE(isUnder(stage.item(send), right));
     right.forceActiveFocus();
 
     // The left one still waits; the right one works by mouse, by key and for a screen reader.
-    stage.click(send);
-    ASSERT_TRUE(
-        turnUntil([&] { return stage.shows("Algunos productos no fueron enviados al carrito. ¡Vea!"); }));
-    EXPECT_TRUE(isUnder(stage.item("Algunos productos no fueron enviados al carrito. ¡Vea!"), right));
+    ASSERT_TRUE(showResult(stage, right));
+    EXPECT_TRUE(isUnder(stage.item(someSent), right));
     log->clear();
     stage.pressByScreenReader("Ir al carrito");
     EXPECT_THAT(*log, ::testing::Contains("navigateToCart"));
 
     // Its end puts an outcome on the left, and leaves the right one its focus.
-    EXPECT_TRUE(right.isAncestorOf(stage.focus()) || stage.focus() == &right);
+    EXPECT_TRUE(isUnder(stage.focus(), right) || stage.focus() == &right);
     backend->clock()->advance(std::chrono::seconds(60));
     ASSERT_TRUE(turnUntil([&] {
         return isUnder(stage.item("Lo sentimos, pero esta información ya no está disponible."),
                        stage.stack());
     }));
-    EXPECT_TRUE(right.isAncestorOf(stage.focus()) || stage.focus() == &right);
+    EXPECT_TRUE(isUnder(stage.focus(), right) || stage.focus() == &right);
 }
 
 TEST_F(HostShapes, HideAndShowAPageWithADialogThatKeepsTheKeys) {
     backend->script(Call::checkout, {Reply{.status = 500}});
     Stage stage;
-    ASSERT_TRUE(open(stage.stack()));
-    ASSERT_TRUE(showOrder(stage));
+    ASSERT_TRUE(open(stage.stack()) && showSummary(stage));
     stage.click(send);
     ASSERT_TRUE(turnUntil([&] { return stage.shows("dialogCloseIcon"); }));
     stage.stack().parentItem()->setVisible(false);
@@ -194,8 +157,7 @@ TEST_F(HostShapes, HideAndShowAPageWithADialogThatKeepsTheKeys) {
 TEST_F(HostShapes, GetTheKeysBackOnlyWhereTheyAreSeen) {
     backend->script(Call::checkout, {Reply{.status = 500}});
     Stage stage;
-    ASSERT_TRUE(open(stage.stack()));
-    ASSERT_TRUE(showOrder(stage));
+    ASSERT_TRUE(open(stage.stack()) && showSummary(stage));
     // The focus stays behind on the button of the page that the checkout covers.
     stage.item(send)->forceActiveFocus();
     stage.key(Qt::Key_Return);

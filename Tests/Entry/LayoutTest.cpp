@@ -1,14 +1,9 @@
 #include "KelDS/KelDS.hpp"
-#include "Quillet/Quillet.hpp"
-#include "Quillet/Testing.hpp"
-#include "Support/Stage.hpp"
+#include "Support/ModuleTest.hpp"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QMarginsF>
-#include <QQuickItem>
-
-#include <gmock/gmock.h>
 
 #include <ostream>
 
@@ -94,7 +89,7 @@ struct Shape {
     }
 };
 
-struct Layout : ::testing::TestWithParam<Shape> {
+struct Layout : ModuleTest, ::testing::WithParamInterface<Shape> {
     Layout() {
         kel::KelAppearance::current().setTextScale(GetParam().textScale);
         QGuiApplication::setLayoutDirection(GetParam().direction);
@@ -102,10 +97,8 @@ struct Layout : ::testing::TestWithParam<Shape> {
         setSafeAreaInsets(*stage.window().contentItem(), GetParam().insets);
     }
     ~Layout() override {
-        EXPECT_THAT(stage.complaints(), ::testing::IsEmpty());
         QGuiApplication::setLayoutDirection(Qt::LeftToRight);
         kel::KelAppearance::current().setTextScale(1);
-        ScriptedBackend::uninstall();
     }
 
     // What is on the screen, and all of it within the safe part of the window.
@@ -154,11 +147,7 @@ struct Layout : ::testing::TestWithParam<Shape> {
         })) << item->mapToScene({0, item->height()}).y();
     }
 
-    [[nodiscard]] bool isSettled() const { return !stage.stack().property("busy").toBool(); }
-
     const QSize size = GetParam().size;
-    std::shared_ptr<ScriptedBackend> backend = ScriptedBackend::install();
-    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(makeLog());
     // Its stack reaches all edges.
     Stage stage{R"(
         import QtQuick
@@ -177,27 +166,18 @@ struct Layout : ::testing::TestWithParam<Shape> {
 
 TEST_P(Layout, KeepsTextsApartWholeAndInTheSafePartOfTheWindow) {
     backend->script(Call::associate, {Reply{.status = 500}, Reply::sample(Call::associate)});
-    const auto starter = Starter::create("token", "idp", {"cart-1", 41052, "CL"}, host);
-    const auto open = [&] { return present(starter->createRootViewController(), stage.stack()); };
     ASSERT_TRUE(turnUntil([&] { return stage.stack().width() == size.width(); }));
-    ASSERT_TRUE(open());
-    const QString back = "Volver";
-    ASSERT_TRUE(turnUntil([&] { return stage.shows(back) && isSettled(); }));
+    ASSERT_TRUE(open(stage.stack()));
+    ASSERT_TRUE(turnUntil([&] { return stage.shows("Volver"); }));
     check("try again");
     stage.popAll();
 
-    ASSERT_TRUE(open());
-    ASSERT_TRUE(turnUntil([&] { return stage.shows("Ver Pedidos") && isSettled(); }));
-    stage.click("Ver Pedidos");
-    ASSERT_TRUE(turnUntil([&] { return !stage.shows("Ver Pedidos"); }));
+    ASSERT_TRUE(open(stage.stack()) && showSummary(stage));
     check("summary");
     EXPECT_EQ(stage.item("14/03/2026")->property("font").value<QFont>().pixelSize(),
               16 * GetParam().textScale);
-    checkLastButton("Enviar productos a mi carrito");
-    stage.click("Enviar productos a mi carrito");
-    ASSERT_TRUE(turnUntil([&] {
-        return stage.shows("Algunos productos no fueron enviados al carrito. ¡Vea!") && isSettled();
-    }));
+    checkLastButton(send);
+    ASSERT_TRUE(showResult(stage, stage.stack()));
     check("result");
     stage.key(Qt::Key_End);
     if (size.width() < 840) {

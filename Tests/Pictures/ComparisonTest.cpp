@@ -55,45 +55,31 @@ QImage drawn(const Scene& scene) {
 
 struct Change {
     const char* name;
+    bool isSeen;
     std::function<void(Scene&)> make;
 };
 
 } // namespace
 
-TEST(Comparison, BearsWhatAnotherVersionDrawsDifferently) {
+TEST(Comparison, SeesWhatAPersonWouldSeeAndBearsWhatAnotherVersionDrawsDifferently) {
     const Change changes[] = {
-        {"nothing", [](Scene&) {}},
-        {"hinting", [](Scene& scene) { scene.hinting = QFont::PreferFullHinting; }},
-        {"half a pixel", [](Scene& scene) { scene.textAt.rx() += 0.5; }},
-        {"a pixel", [](Scene& scene) { scene.textAt += QPointF(1, 1); }},
-        {"rounding of a colour", [](Scene& scene) { scene.ground = QColor(0xf5, 0xf5, 0xee); }},
+        {"nothing", false, [](Scene&) {}},
+        {"hinting", false, [](Scene& scene) { scene.hinting = QFont::PreferFullHinting; }},
+        {"a pixel", false, [](Scene& scene) { scene.textAt += QPointF(1, 1); }},
+        {"rounding of a colour", false, [](Scene& scene) { scene.ground = QColor(0xf5, 0xf5, 0xee); }},
+        {"text moved", true, [](Scene& scene) { scene.textAt.rx() += 6; }},
+        {"another number", true, [](Scene& scene) { scene.text.replace("60", "1240"); }},
+        {"no icon", true, [](Scene& scene) { scene.hasIcon = false; }},
+        {"a lighter badge", true, [](Scene& scene) { scene.badge = scene.badge.lighter(130); }},
+        {"another ground", true, [](Scene& scene) { scene.ground = QColor(0xe6, 0xe4, 0xdf); }},
+        {"specks all over", true, [](Scene& scene) { scene.specks = 84; }},
+        {"another size", true, [](Scene& scene) { scene.size += QSize(1, 0); }},
     };
-    for (const auto& [name, make] : changes) {
+    for (const auto& [name, isSeen, make] : changes) {
         Scene scene;
         make(scene);
-        const auto difference = compare(drawn({}), drawn(scene));
-        EXPECT_FALSE(difference) << name << ": " << difference->description;
-    }
-}
-
-TEST(Comparison, SeesWhatAPersonWouldSee) {
-    const Change changes[] = {
-        {"text moved to the right", [](Scene& scene) { scene.textAt.rx() += 6; }},
-        {"text moved up", [](Scene& scene) { scene.textAt.ry() -= 6; }},
-        {"another number", [](Scene& scene) { scene.text.replace("60", "1240"); }},
-        {"no text", [](Scene& scene) { scene.text.clear(); }},
-        {"no icon", [](Scene& scene) { scene.hasIcon = false; }},
-        {"another outcome's badge", [](Scene& scene) { scene.badge = QColor(0xb3, 0x2d, 0x1a); }},
-        {"a lighter badge", [](Scene& scene) { scene.badge = scene.badge.lighter(130); }},
-        {"another ground", [](Scene& scene) { scene.ground = QColor(0xe6, 0xe4, 0xdf); }},
-        {"specks all over", [](Scene& scene) { scene.specks = 84; }},
-        {"another size", [](Scene& scene) { scene.size += QSize(1, 0); }},
-    };
-    for (const auto& [name, make] : changes) {
-        Scene scene;
-        make(scene);
-        EXPECT_TRUE(compare(drawn({}), drawn(scene))) << name;
-        EXPECT_TRUE(compare(drawn(scene), drawn({}))) << name << ", the other way";
+        EXPECT_EQ(compare(drawn({}), drawn(scene)).has_value(), isSeen) << name;
+        EXPECT_EQ(compare(drawn(scene), drawn({})).has_value(), isSeen) << name << ", the other way";
     }
 }
 

@@ -220,6 +220,11 @@ void Stage::touchWhileResting(QPointF resting, QPointF tapped) {
     QTest::touchEvent(window_.get(), &fingers()).release(0, still);
 }
 
+void Stage::wheelAt(QPointF point) {
+    QWheelEvent event(point, window_->mapToGlobal(point), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(window_.get(), &event);
+}
+
 void Stage::pressByScreenReader(const QString& textOrName) {
     QAccessible::queryAccessibleInterface(item(textOrName))
         ->actionInterface()

@@ -59,6 +59,8 @@ public:
     void tapRepeatedly(QPointF point, int times, bool byFinger);
     /// One finger stays down at the first point while another taps at the second.
     void touchWhileResting(QPointF resting, QPointF tapped);
+    /// Turns the mouse's wheel by one step, towards oneself.
+    void wheelAt(QPointF point);
     /// Presses as a screen reader does.
     void pressByScreenReader(const QString& textOrName);
     /// Presses and releases a key.

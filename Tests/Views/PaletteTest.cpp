@@ -3,7 +3,7 @@
 #include "Support/Contrast.hpp"
 #include "Views/Tokens/HexColor.hpp"
 
-#include <QImageReader>
+#include <QImage>
 #include <QPainter>
 
 #include <gtest/gtest.h>
@@ -61,21 +61,16 @@ std::vector<Pair> pairsOf(const kel::KelPalette& theme) {
 } // namespace
 
 TEST(Palettes, StandOutFromTheirGrounds) {
-    const std::pair<const char*, const kel::KelPalette*> themes[] = {
-        {"light", &kel::lightPalette}, {"dark", &kel::darkPalette}, {"contrast", &kel::contrastPalette}};
-    for (const auto& [name, theme] : themes) {
+    for (const kel::KelPalette* theme : {&kel::lightPalette, &kel::darkPalette, &kel::contrastPalette}) {
         for (const Pair& pair : pairsOf(*theme)) {
             EXPECT_GE(contrast(pair.ink, pair.ground), pair.least)
-                << name << ": " << pair.what << ", " << pair.ink.name().toStdString() << " on "
+                << pair.what << ", " << pair.ink.name().toStdString() << " on "
                 << pair.ground.name().toStdString();
         }
     }
     // Who asks for more contrast gets it.
-    const auto texts = [](const kel::KelPalette& theme) {
-        return contrast(QColor(theme.mediumEmphasis), QColor(theme.background));
-    };
-    EXPECT_GT(texts(kel::contrastPalette), 7);
-    EXPECT_GT(texts(kel::contrastPalette), texts(kel::darkPalette));
+    EXPECT_GT(contrast(QColor(kel::contrastPalette.mediumEmphasis), QColor(kel::contrastPalette.background)),
+              7);
 }
 
 TEST(Illustrations, StandOutFromTheirGroundsInEachTheme) {
@@ -93,11 +88,9 @@ TEST(Illustrations, StandOutFromTheirGroundsInEachTheme) {
     for (const auto theme : {kel::KelTheme::light, kel::KelTheme::dark, kel::KelTheme::contrast}) {
         kel::KelAppearance::current().setTheme(theme);
         for (const auto& [name, ink, ground, behind] : drawings) {
-            QImageReader reader(':' + moduleImage(name).path());
-            reader.setScaledSize({80, 80});
             QImage picture(80, 80, QImage::Format_RGB32);
             picture.fill(behind());
-            QPainter(&picture).drawImage(0, 0, reader.read());
+            QPainter(&picture).drawImage(QRect(0, 0, 80, 80), QImage(':' + moduleImage(name).path()));
             EXPECT_GE(contrast(picture.pixelColor(ink), picture.pixelColor(ground)), forShapes)
                 << name << " in theme " << int(theme);
         }

@@ -8,6 +8,10 @@
         <translation>Cargar de nuevo</translation>
     </message>
     <message>
+        <source>Code: </source>
+        <translation>Código </translation>
+    </message>
+    <message>
         <source>Share Magazine</source>
         <translation>Comparte tu revista</translation>
     </message>

@@ -29,6 +29,9 @@ public:
     /// shown as it looks this many seconds after its start.
     [[nodiscard]] std::expected<QImage, QString>
     picture(const GalleryTheme& theme, const GalleryTextSize& textSize, double ringTime = 0.75);
+    [[nodiscard]] HostApplication& host() const { return *host_; }
+    [[nodiscard]] const Journal& journal() const { return journal_; }
+    [[nodiscard]] quillet::testing::ScriptedBackend& backend() const { return *backend_; }
     /// The window as it looks now.
     [[nodiscard]] QImage grab() const { return host_->window()->grabWindow(); }
 

@@ -104,7 +104,7 @@ void Cover::giveKeysBack() {
     if (!previous->isVisible() || !previous->isEnabled()) {
         // Its page is covered by another one. A key must not act on what nobody sees.
         previous->setFocus(false);
-        previous = previous->window()->contentItem();
+        previous = below_ && below_->isVisible() ? below_.data() : previous->window()->contentItem();
     }
     // A cover above this one must not restore the focus to this one.
     for (Cover* cover : covers()) {

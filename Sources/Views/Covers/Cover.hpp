@@ -13,10 +13,15 @@ namespace quillet {
 class Cover : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
+    /// The page below it, which gets the keys where what had them before cannot have them back.
+    Q_PROPERTY(QQuickItem* below READ below WRITE setBelow FINAL)
 
 public:
     explicit Cover(QQuickItem* parent = nullptr);
     ~Cover() override;
+
+    [[nodiscard]] QQuickItem* below() const { return below_; }
+    void setBelow(QQuickItem* page) { below_ = page; }
 
     /// Whether a cover lies over the item: over the area that the item is in, and not around it.
     [[nodiscard]] static bool isOver(const QQuickItem& item);
@@ -34,6 +39,7 @@ private:
     void takeKeys();
     void giveKeysBack();
 
+    QPointer<QQuickItem> below_;
     QPointer<QQuickItem> previous_;
     bool hasTakenKeys_ = false;
 };

@@ -15,7 +15,10 @@ Cover {
     function appear() {
         item.appeared = item.dialog.firstAlpha
         entrance.restart()
-        button.forceActiveFocus()
+        // A dialog that is being made gets the keys as any cover does, which has to know what had them before.
+        if (item.activeFocus) {
+            button.forceActiveFocus()
+        }
     }
 
     Accessible.role: Accessible.Dialog

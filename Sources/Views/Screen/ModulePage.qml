@@ -44,6 +44,7 @@ ScreenPage {
         LayoutMirroring.childrenInherit: true
         active: page.onTop && page.dialog !== null && page.dialog.onScreen
         sourceComponent: DialogItem {
+            below: page
             dialog: page.dialog
         }
     }
@@ -57,6 +58,7 @@ ScreenPage {
         LayoutMirroring.childrenInherit: true
         active: page.onTop && page.loadingView.onScreen
         sourceComponent: LoadingItem {
+            below: page
             loadingView: page.loadingView
             screenArea: page.coverArea ? page.coverArea.mapFromItem(page.parent, 0, 0, page.width, page.height)
                                        : Qt.rect(0, 0, 0, 0)

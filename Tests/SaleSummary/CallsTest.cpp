@@ -1,0 +1,92 @@
+#include "Support/ModuleTest.hpp"
+
+#include <QCoreApplication>
+
+namespace quillet::testing {
+
+namespace {
+
+using std::chrono::seconds;
+
+const auto openOrdersFail = Reply{.status = 500, .after = seconds(2)};
+
+struct SaleSummaryCalls : ModuleTest {
+    /// The calls so far, and "..." while the module waits.
+    [[nodiscard]] std::string calls() const {
+        std::string methods;
+        for (const auto& request : backend->requests()) {
+            methods += request.httpMethod.value_or("GET") + ' ';
+        }
+        const auto* page = stage.stack().property("currentItem").value<QQuickItem*>();
+        return methods +
+               (page->property("isCovered").toBool() && !stage.shows("dialogCloseIcon") ? "..." : "");
+    }
+    /// Lets time pass on the back end's clock, until which these calls have been made.
+    void expectAfter(seconds time, const std::string& expected) const {
+        backend->clock()->advance(time);
+        QCoreApplication::processEvents();
+        static_cast<void>(turnUntilFor(seconds(5), [&] { return calls() == expected; }));
+        EXPECT_EQ(calls(), expected);
+    }
+    /// Fails both calls, and tries again.
+    void tryAgain() {
+        ASSERT_TRUE(open(stage.stack()));
+        expectAfter(seconds(5), "PATCH GET ...");
+        expectAfter(seconds(5), "PATCH GET ");
+        taken(log);
+        stage.click("Actualizar");
+    }
+
+    Stage stage;
+};
+
+} // namespace
+
+TEST_F(SaleSummaryCalls, AskForTheOpenOrdersOnlyAfterTheAssociationHoweverItEnded) {
+    const platform::URLError timedOut{platform::URLError::Code::timedOut, ""};
+    std::string sofar;
+    for (const Reply& reply :
+         {Reply::sample(Call::associate), Reply{.status = 422}, Reply{.error = timedOut}}) {
+        backend->script(Call::associate, {Reply{reply.status, reply.body, seconds(5), reply.error}});
+        backend->script(Call::getOpenOrders, {openOrdersFail});
+        ASSERT_TRUE(open(stage.stack()));
+        EXPECT_EQ(calls(), sofar + "PATCH ...");
+        expectAfter(seconds(5), sofar + "PATCH GET ...");
+        sofar += "PATCH GET ";
+        expectAfter(seconds(2), sofar);
+        stage.popAll();
+    }
+}
+
+TEST_F(SaleSummaryCalls, RepeatOnlyThoseThatHaveNotSucceeded) {
+    backend->script(Call::associate, {Reply{.status = 504, .after = seconds(5)}});
+    ASSERT_TRUE(open(stage.stack()));
+    expectAfter(seconds(5), "PATCH GET ");
+    stage.click("Actualizar");
+    EXPECT_EQ(calls(), "PATCH GET PATCH ...");
+}
+
+TEST_F(SaleSummaryCalls, ShowEachJoinWhereTheAssociationIsTheFirstToAnswerAgain) {
+    backend->script(Call::associate, {Reply{.status = 504, .after = seconds(5)},
+                                      Reply{.body = sampleBody(Call::associate), .after = seconds(1)}});
+    backend->script(Call::getOpenOrders, {openOrdersFail});
+    tryAgain();
+    EXPECT_EQ(calls(), "PATCH GET PATCH GET ...");
+    expectAfter(seconds(1), "PATCH GET PATCH GET GET ...");
+    for (int join = 0; join < 2; ++join) {
+        expectAfter(seconds(1), "PATCH GET PATCH GET GET ");
+        EXPECT_THAT(taken(log), ::testing::ElementsAre(event("Register Order", "Deep Linking")));
+    }
+}
+
+TEST_F(SaleSummaryCalls, WaitForTheAssociationWhereTheOpenOrdersAreTheFirstToAnswerAgain) {
+    backend->script(Call::associate, {Reply{.status = 504, .after = seconds(5)}});
+    backend->script(Call::getOpenOrders, {openOrdersFail});
+    tryAgain();
+    expectAfter(seconds(2), "PATCH GET PATCH GET ...");
+    expectAfter(seconds(3), "PATCH GET PATCH GET GET ...");
+    expectAfter(seconds(2), "PATCH GET PATCH GET GET ");
+    EXPECT_THAT(taken(log), ::testing::ElementsAre("screen Error"));
+}
+
+} // namespace quillet::testing

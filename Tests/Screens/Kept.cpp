@@ -1,0 +1,35 @@
+#include "Kept.hpp"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace demo::testing {
+
+void expectKept(const QString& name, const QStringList& lines) {
+    QFile file(QStringLiteral(QUILLET_KEPT_DESCRIPTIONS "/%1.txt").arg(name));
+    const QByteArray told = lines.join(u'\n').toUtf8() + '\n';
+    if (qEnvironmentVariableIsSet("QUILLET_RENEW_DESCRIPTIONS")) {
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(told) == told.size());
+        GTEST_SKIP() << "renewed";
+    }
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+    EXPECT_EQ(told.toStdString(), file.readAll().toStdString()) << file.fileName().toStdString();
+}
+
+GalleryScreen galleryScreen(const QString& name) {
+    const auto screens = galleryScreens(false);
+    return *std::ranges::find(screens, name, &GalleryScreen::name);
+}
+
+QStringList toLines(const std::vector<std::string>& lines) {
+    QStringList result;
+    for (const std::string& line : lines) {
+        result << QString::fromStdString(line);
+    }
+    return result;
+}
+
+} // namespace demo::testing

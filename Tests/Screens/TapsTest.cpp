@@ -1,0 +1,109 @@
+#include "Gallery/GalleryStage.hpp"
+#include "KelCommon/KelAnalyticsManager.hpp"
+#include "Kept.hpp"
+#include "Play/Hands.hpp"
+#include "Play/Stage.hpp"
+#include "Quillet/Testing/RecordingHost.hpp"
+#include "Support/Reading.hpp"
+
+#include <gtest/gtest.h>
+
+#include <ranges>
+
+namespace demo::testing {
+
+namespace {
+
+using quillet::testing::Call;
+using quillet::testing::Reply;
+
+constexpr QSize phone{390, 1500};
+
+/// What the host is told: on the way to a screen, and by a tap on each of its buttons.
+struct Taps : ::testing::TestWithParam<const char*> {
+    Taps() {
+        kel::KelAnalyticsManager::shared()->setSink(
+            std::make_shared<quillet::testing::RecordingAnalytics>(log));
+        QObject::connect(&stage.journal(), &Journal::navigationChanged, [this] {
+            log->push_back(stage.journal().navigationJson().last().toString().toStdString());
+        });
+    }
+    ~Taps() override { kel::KelAnalyticsManager::shared()->setSink(nullptr); }
+
+    /// Opens the screen and returns what the host was told meanwhile. From then on nothing is answered.
+    QStringList open() {
+        log->clear();
+        const auto opened = stage.open(galleryScreen(GetParam()), phone);
+        EXPECT_TRUE(opened) << opened.error().toStdString();
+        for (const Call call : {Call::associate, Call::getOpenOrders, Call::checkout}) {
+            stage.backend().script(call, {Reply::never()});
+        }
+        return toLines(quillet::testing::taken(log));
+    }
+
+    [[nodiscard]] std::vector<QAccessibleInterface*> buttons() const {
+        auto all = quillet::testing::buttonsOf(*QAccessible::queryAccessibleInterface(stage.host().window()));
+        std::erase_if(all, [](auto* button) { return button->object()->objectName() == "hostBack"; });
+        return all;
+    }
+
+    /// What a tap leads to: what the host is told, and what the back end is asked.
+    QStringList tap(const std::function<void()>& act) {
+        const ScreenReader reader(*stage.host().phone());
+        const auto asked = static_cast<std::ptrdiff_t>(stage.backend().requests().size());
+        act();
+        // A dialog acts once it has faded.
+        EXPECT_TRUE(Stage::wait(std::chrono::seconds(10), [&] { return !reader.named("dialogCloseIcon"); }));
+        QStringList lines = toLines(quillet::testing::taken(log));
+        const auto requests = stage.backend().requests();
+        for (const auto& request : requests | std::views::drop(asked)) {
+            const auto url = QString::fromStdString(request.url.absoluteString());
+            lines << QString::fromStdString(request.httpMethod.value_or("GET")) + u' ' + url.section(u'/', 3);
+        }
+        return lines.isEmpty() ? QStringList("nothing") : lines;
+    }
+
+    quillet::testing::Log log = quillet::testing::makeLog();
+    GalleryStage stage;
+};
+
+QStringList indented(const QStringList& lines) {
+    QStringList result;
+    for (const QString& line : lines) {
+        result << "  " + line;
+    }
+    return result;
+}
+
+} // namespace
+
+TEST_P(Taps, TellTheHostWhatIsDescribed) {
+    QStringList lines = QStringList("opening it:") + indented(open());
+    const std::size_t count = buttons().size();
+    for (std::size_t i = 0; i < count; ++i) {
+        if (i > 0) {
+            open();
+        }
+        QAccessibleInterface* const button = buttons().at(i);
+        lines << toLines({quillet::testing::reading(*button)}).first() + ":";
+        lines << indented(
+            tap([&] { button->actionInterface()->doAction(QAccessibleActionInterface::pressAction()); }));
+    }
+    if (galleryScreen(GetParam()).kind == GalleryKind::dialog) {
+        open();
+        lines << "beside the dialog:" << indented(tap([&] {
+            Hands(*stage.host().window()).tap({5, 5}, Device::mouse);
+        }));
+    }
+    expectKept(QStringLiteral("%1.taps").arg(GetParam()), lines);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Taps,
+                         ::testing::Values("order-registered", "other-consultant", "already-submitted",
+                                           "summary", "no-connection", "time-out", "generic-error",
+                                           "checkout-error", "some-sent", "section-closed"),
+                         [](const auto& instance) {
+                             return QString(instance.param).remove(u'-').toStdString();
+                         });
+
+} // namespace demo::testing
