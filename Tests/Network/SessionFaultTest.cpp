@@ -87,6 +87,8 @@ const Fault faults[] = {
     {"CutInBodyOfMoreThanEightExabytes", ok + exabytes + "\r\n{}", networkConnectionLost, cut},
     {"ClosedInBodyOfMoreThanEightExabytes", ok + exabytes + "\r\n{}", networkConnectionLost, closed},
     {"ErrorStatusCutInBody", "HTTP/1.1 504 Late\r\nContent-Length: 5\r\n\r\n{}", networkConnectionLost, cut},
+    {"ClosedInTheHeadAfterAnInterimAnswer",
+     "HTTP/1.1 103 Early\r\n\r\nHTTP/1.1 200 OK\r\nX: ", networkConnectionLost, closed},
     {"UnknownTransferCoding", ok + "Transfer-Encoding: squeezed\r\n\r\n{}", cannotParseResponse, closed},
     {"BadChunk", ok + "Transfer-Encoding: chunked\r\n\r\n{}\r\n", networkConnectionLost},
     {"NotHttp", "220 ready when you are\r\n", cannotParseResponse, closed},
@@ -212,6 +214,8 @@ TEST_F(SessionFaults, OfRedirectsAreTheCallersMatter) {
 // A thread that a long head keeps busy is not the other session's.
 TEST_F(SessionFaults, OfOneSessionDoNotHoldUpAnother) {
     const auto gate = std::make_shared<std::latch>(1);
+    // The gate opens also where the test fails.
+    std::shared_ptr<void> closedGate(nullptr, [gate](void*) { gate->count_down(); });
     const platform::URLSession busy(configuration);
     const platform::URLSession other(configuration);
     server.enqueue({{ok + repeated(3'000, header), repeated(100'000, header)}, open, gate});
@@ -219,7 +223,7 @@ TEST_F(SessionFaults, OfOneSessionDoNotHoldUpAnother) {
     ASSERT_TRUE(server.waitForRequests(1));
     warmUp(other);
     warmUp(busy);
-    gate->count_down();
+    closedGate.reset();
     EXPECT_EQ(calls.wait(2).error.value().code, dataLengthExceedsMaximum);
 }
 
