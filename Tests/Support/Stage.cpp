@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <stdexcept>
+#include <utility>
 
 namespace quillet::testing {
 
@@ -82,11 +83,11 @@ private:
 };
 
 void hurryAnimations() {
-    static std::unique_ptr<HurriedAnimations> driver;
+    static HurriedAnimations* driver = nullptr;
     if (!driver) {
-        driver = std::make_unique<HurriedAnimations>();
+        driver = new HurriedAnimations;
         driver->install();
-        qAddPostRoutine([] { driver.reset(); });
+        qAddPostRoutine([] { delete std::exchange(driver, nullptr); });
     }
 }
 
