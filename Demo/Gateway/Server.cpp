@@ -26,8 +26,7 @@ using Failure = boost::system::error_code;
 constexpr rlim_t mostConnections = 256;
 /// Handles that connections leave to the database, the log and the standard streams.
 constexpr rlim_t keptHandles = 32;
-/// How long to wait for a handle.
-constexpr std::chrono::milliseconds breath{100};
+constexpr std::chrono::milliseconds waitForHandle{100};
 
 struct Session {
     explicit Session(auto&&... parts) : connection(std::forward<decltype(parts)>(parts)...) {}
@@ -39,10 +38,11 @@ struct Session {
     std::jthread thread;
 };
 
-std::size_t connectionLimit() {
+std::ptrdiff_t connectionLimit() {
     rlimit handles{};
     ::getrlimit(RLIMIT_NOFILE, &handles);
-    return std::clamp(handles.rlim_cur, keptHandles + 1, keptHandles + mostConnections) - keptHandles;
+    const auto limit = std::clamp(handles.rlim_cur, keptHandles + 1, keptHandles + mostConnections);
+    return static_cast<std::ptrdiff_t>(limit - keptHandles);
 }
 
 void usePair(asio::ssl::context& tls, const Credentials& credentials) {
@@ -70,8 +70,8 @@ struct Server::Implementation {
             const bool hasRoom = (!failure && !full) || makeRoom();
             if (failure) {
                 // No handle is left. The client stays in the queue, so trying again at once would only spin.
-                pause.expires_after(breath);
-                pause.async_wait([this](const Failure&) { accept(); });
+                retry.expires_after(waitForHandle);
+                retry.async_wait([this](const Failure&) { accept(); });
                 return;
             }
             // Without room the accepted socket is closed here.
@@ -119,7 +119,7 @@ struct Server::Implementation {
     asio::io_context loop{1};
     asio::ssl::context tls{asio::ssl::context::tls_server};
     asio::ip::tcp::acceptor acceptor;
-    asio::steady_timer pause{loop};
+    asio::steady_timer retry{loop};
     asio::signal_set signals{loop, SIGTERM, SIGINT};
     asio::posix::stream_descriptor input{loop};
     std::array<char, 256> ignored{};

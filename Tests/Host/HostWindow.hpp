@@ -52,7 +52,9 @@ struct HostWindow : ::testing::Test {
 
     [[nodiscard]] QQuickItem& item(const char* name) const {
         const auto items = itemsIn(*host->phone());
-        return **std::ranges::find(items, name, &QQuickItem::objectName);
+        const auto found = std::ranges::find(items, name, &QQuickItem::objectName);
+        EXPECT_NE(found, items.end()) << name;
+        return found == items.end() ? *host->phone() : **found;
     }
     [[nodiscard]] QQuickItem& stack() const {
         return *host->window()->property("stack").value<QQuickItem*>();

@@ -30,6 +30,7 @@ TEST(Live, TellsWhatHappensInItsOrderAndShowsTheHostCode) {
     view.resize(usualLiveSize);
     view.setSource(QUrl("qrc:/qt/qml/Demo/Live.qml"));
     view.show();
+    ASSERT_TRUE(view.rootObject());
 
     status.gatewayStarted();
     status.opened({"7f3c9a10-52e1", 41052, "CL"}, quillet::Environment::hml);

@@ -37,10 +37,10 @@ close-icon
 absent "Enviar productos a mi carrito"
 scroll end
 expect "Enviar productos a mi carrito"
-size 768x1024
+size 844x390
 tap "Enviar productos a mi carrito"
 expect "Productos no enviados:"
-shot large
+shot wide
 tap "Ir al carrito"
 back
 title "Pedidos recibidos"
@@ -57,10 +57,10 @@ TEST_F(Program, ReportsAPlayWithItsPicturesTrafficAnalyticsAndNavigation) {
     ASSERT_EQ(told["steps"].toArray().size(), 13);
     const QJsonValue result = told["steps"][9];
     EXPECT_EQ(result["title"], "Comentarios sobre los envíos");
-    EXPECT_EQ(result["shot"], "large.png");
+    EXPECT_EQ(result["shot"], "wide.png");
     EXPECT_TRUE(result["texts"].toArray().contains("Productos no enviados:"));
     // The pictures have two pixels to each of the screen's.
-    EXPECT_EQ(QImage(folder.filePath("out/large.png")).size(), QSize(1536, 2048));
+    EXPECT_EQ(QImage(folder.filePath("out/wide.png")).size(), QSize(1688, 780));
 
     QStringList traffic;
     for (const QJsonValue request : told["requests"].toArray()) {
