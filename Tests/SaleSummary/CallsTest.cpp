@@ -77,6 +77,28 @@ TEST_F(SaleSummaryCalls, RepeatOnlyThoseThatHaveNotSucceeded) {
     EXPECT_EQ(calls(), "PATCH GET PATCH ...");
 }
 
+TEST_F(SaleSummaryCalls, AreOneCheckoutHoweverOftenItIsTapped) {
+    backend->script(Call::checkout, {Reply::never()});
+    ASSERT_TRUE(open(stage.stack()) && showSummary(stage));
+    taken(log);
+    const QPointF button = stage.middle(send);
+    stage.clickAt(button);
+    stage.clickAt(button);
+    stage.touchAt(button);
+    EXPECT_THAT(taken(log),
+                ::testing::ElementsAre(event("My Clients Orders", "Send Orders to Cart - Click")));
+    EXPECT_EQ(calls(), "PATCH GET POST ...");
+}
+
+TEST_F(SaleSummaryCalls, LeadNowhereWithoutAHost) {
+    backend->script(Call::associate, {Reply{.status = 500}});
+    ASSERT_TRUE(open(stage.stack()) && turnUntil([&] { return stage.shows("Volver"); }));
+    taken(log);
+    host.reset();
+    stage.click("Volver");
+    EXPECT_THAT(taken(log), ::testing::IsEmpty());
+}
+
 TEST_F(SaleSummaryCalls, RepeatEachForItself) {
     for (const bool succeeded : {false, true}) {
         const auto association = std::make_shared<FakeWorker>(succeeded);
