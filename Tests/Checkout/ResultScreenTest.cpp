@@ -68,6 +68,7 @@ TEST_F(ResultScreen, CoversItselfForGoodWhenItAsksTheHostForTheCart) {
     stage.click("Ir al carrito");
     EXPECT_THAT(taken(log), ElementsAre(event("My Clients Orders", "Go to Cart"), "navigateToCart"));
     stage.click("Ir al carrito");
+    stage.pressByScreenReader("Ir al carrito");
     stage.clickBar();
     EXPECT_THAT(taken(log), IsEmpty());
     EXPECT_EQ(stage.barClicks(), 0);

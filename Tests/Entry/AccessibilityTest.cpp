@@ -3,6 +3,9 @@
 #include "Support/ModuleTest.hpp"
 #include "Support/Reading.hpp"
 
+#include <QCoreApplication>
+#include <QQmlComponent>
+
 namespace quillet::testing {
 
 namespace {
@@ -130,12 +133,35 @@ TEST_F(Accessibility, ShowsWhereTheKeysAreToThoseWhoUseKeys) {
     stage.key(Qt::Key_Tab);
     EXPECT_EQ(focus(), send + " o");
     backend->script(Call::checkout, {Reply{.status = 500}});
-    stage.key(Qt::Key_Return);
+    stage.key(Qt::Key_Enter);
     // The dialog comes by itself, and still the ring is there.
     ASSERT_TRUE(turnUntil([&] { return stage.shows("dialogCloseIcon"); }));
     EXPECT_EQ(focus(), "Actualizar o");
     stage.click("dialogBackground");
     EXPECT_EQ(focus(), "Actualizar");
+}
+
+TEST_F(Accessibility, TakesAllKeysWhileItWaitsButThePlatformsForGoingBack) {
+    backend->script(Call::associate, {Reply::never()});
+    ASSERT_TRUE(open(stage.stack()));
+    for (const Qt::Key key : {Qt::Key_A, Qt::Key_Down, Qt::Key_Back}) {
+        QKeyEvent event(QEvent::KeyPress, key, {});
+        QCoreApplication::sendEvent(&stage.window(), &event);
+        EXPECT_EQ(event.isAccepted(), key != Qt::Key_Back) << key;
+    }
+}
+
+TEST_F(Accessibility, SaysNothingOfWhatIsNotOnTheScreen) {
+    ASSERT_TRUE(open(stage.stack()));
+    QQmlComponent component(qmlEngine(&stage.stack()));
+    component.setData(R"(import QtQuick; import Quillet.Screens
+        Item { visible: false; Accessible.role: Accessible.Pane; AccessibleState.announcement: "here" })",
+                      {});
+    const std::unique_ptr<QQuickItem> item(qobject_cast<QQuickItem*>(component.create()));
+    item->setParentItem(&stage.bar());
+    EXPECT_THAT(heard(), ::testing::Not(::testing::Contains("says: here")));
+    item->setVisible(true);
+    EXPECT_EQ(std::ranges::count(heard(), "says: here"), 1);
 }
 
 TEST_F(Accessibility, TakesATapOnADialogsCardForNone) {

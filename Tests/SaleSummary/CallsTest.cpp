@@ -1,3 +1,4 @@
+#include "SaleSummary/ViewModel/SaleSummaryViewModel.hpp"
 #include "Support/ModuleTest.hpp"
 
 #include <QCoreApplication>
@@ -9,6 +10,16 @@ namespace {
 using std::chrono::seconds;
 
 const auto openOrdersFail = Reply{.status = 500, .after = seconds(2)};
+
+/// A worker that answers nothing.
+struct FakeWorker final : Executable {
+    explicit FakeWorker(bool hasSucceeded) : succeeded(hasSucceeded) {}
+    [[nodiscard]] bool isFinishedSuccessfully() const override { return succeeded; }
+    void execute() override { ++runs; }
+
+    bool succeeded;
+    int runs = 0;
+};
 
 struct SaleSummaryCalls : ModuleTest {
     /// The calls so far, and "..." while the module waits.
@@ -64,6 +75,38 @@ TEST_F(SaleSummaryCalls, RepeatOnlyThoseThatHaveNotSucceeded) {
     expectAfter(seconds(5), "PATCH GET ");
     stage.click("Actualizar");
     EXPECT_EQ(calls(), "PATCH GET PATCH ...");
+}
+
+TEST_F(SaleSummaryCalls, AreOneCheckoutHoweverOftenItIsTapped) {
+    backend->script(Call::checkout, {Reply::never()});
+    ASSERT_TRUE(open(stage.stack()) && showSummary(stage));
+    taken(log);
+    const QPointF button = stage.middle(send);
+    stage.clickAt(button);
+    stage.clickAt(button);
+    stage.touchAt(button);
+    EXPECT_THAT(taken(log),
+                ::testing::ElementsAre(event("My Clients Orders", "Send Orders to Cart - Click")));
+    EXPECT_EQ(calls(), "PATCH GET POST ...");
+}
+
+TEST_F(SaleSummaryCalls, LeadNowhereWithoutAHost) {
+    backend->script(Call::associate, {Reply{.status = 500}});
+    ASSERT_TRUE(open(stage.stack()) && turnUntil([&] { return stage.shows("Volver"); }));
+    taken(log);
+    host.reset();
+    stage.click("Volver");
+    EXPECT_THAT(taken(log), ::testing::IsEmpty());
+}
+
+TEST_F(SaleSummaryCalls, RepeatEachForItself) {
+    for (const bool succeeded : {false, true}) {
+        const auto association = std::make_shared<FakeWorker>(succeeded);
+        const auto openOrders = std::make_shared<FakeWorker>(!succeeded);
+        SaleSummaryViewModel(nullptr, association, openOrders, nullptr).tryAgainDoRequests();
+        EXPECT_EQ(association->runs, succeeded ? 0 : 1);
+        EXPECT_EQ(openOrders->runs, succeeded ? 1 : 0);
+    }
 }
 
 TEST_F(SaleSummaryCalls, ShowEachJoinWhereTheAssociationIsTheFirstToAnswerAgain) {

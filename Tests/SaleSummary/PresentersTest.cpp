@@ -1,6 +1,7 @@
 #include "Models/RecordFields.hpp"
 #include "Quillet/FatalErrorWrapper.hpp"
-#include "SaleSummary/Fakes.hpp"
+#include "Quillet/Testing/RecordingHost.hpp"
+#include "SaleSummary/Screen/HighlightedOrderView.hpp"
 #include "SaleSummary/UseCases/SaleSummarySuccessUseCase.hpp"
 
 #include <gtest/gtest.h>
@@ -39,9 +40,10 @@ TEST(SaleSummaryPresenters, HandPointsBeyondAllNumbersToTheFatalHook) {
     for (const std::uint64_t points : {largest, std::uint64_t{1}, std::uint64_t{1}}) {
         open.openOrders.emplace_back().totalPoints = points;
     }
-    const auto presenter = SaleSummarySuccessUseCase({}, shared(OrderResult{OrderResponse{}, {}, 200}),
-                                                     shared(OpenOrdersResult{open, {}, 200}),
-                                                     std::make_shared<RecordingAnalytics>(makeLog()))
+    const auto presenter = SaleSummarySuccessUseCase(
+                               {}, std::make_shared<const OrderResult>(OrderResult{OrderResponse{}, {}, 200}),
+                               std::make_shared<const OpenOrdersResult>(OpenOrdersResult{open, {}, 200}),
+                               std::make_shared<RecordingAnalytics>(makeLog()))
                                .createPresenter({});
     FatalErrorWrapper::fatalErrorClosure = previous;
     EXPECT_EQ(files, std::vector<std::string>{"SaleSummarySuccessUseCase.cpp"});

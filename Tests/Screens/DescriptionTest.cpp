@@ -75,6 +75,8 @@ std::vector<Translated> translated() {
             all.push_back({screen, language});
         }
     }
+    // From right to left, as all texts of that language.
+    all.push_back({"summary", "xb"});
     return all;
 }
 

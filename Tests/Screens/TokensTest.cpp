@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace demo::testing {
 
 namespace {
@@ -56,7 +58,13 @@ TEST_F(Tokens, HaveTheirMeasures) {
                         valuesOf<kel::KelBorderRadius>() + valuesOf<kel::KelOpacity>() +
                         valuesOf<kel::KelMotion>();
     kel::KelAppearance::current().setReducedMotion(true);
-    lines << valuesOf<kel::KelMotion>() << QStringLiteral("fonts:");
+    lines << valuesOf<kel::KelMotion>();
+    for (const double scale : {0.5, 1.5, 3.0, std::nan("")}) {
+        kel::KelAppearance::current().setTextScale(scale);
+        lines << QStringLiteral("text scale %1: %2").arg(scale).arg(kel::KelFonts::scale());
+    }
+    kel::KelAppearance::current().setTextScale(1);
+    lines << QStringLiteral("fonts:");
     const auto sizes = QMetaEnum::fromType<kel::KelFonts::Size>();
     for (int i = 0; i < sizes.keyCount(); ++i) {
         const QFont font = kel::KelFonts::font(sizes.value(i), kel::KelFonts::Regular);

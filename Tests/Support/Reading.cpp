@@ -48,7 +48,6 @@ std::string reading(const QAccessibleInterface& element) {
         {state.busy, ", busy"},
         {state.modal, ", modal"},
         {state.selected, ", selected"},
-        {state.disabled, ", disabled"},
     };
     for (const auto& [holds, word] : states) {
         line += holds ? word : "";

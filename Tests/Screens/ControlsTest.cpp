@@ -1,0 +1,77 @@
+#include "KelDS/KelDS.hpp"
+#include "KelDS/KelDialogController.hpp"
+#include "Kept.hpp"
+#include "Looks.hpp"
+#include "Support/Reading.hpp"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+
+#include <gtest/gtest.h>
+
+namespace demo::testing {
+
+namespace {
+
+/// Each control in each state in which it looks otherwise, one below the other.
+constexpr auto controls = R"(
+    import QtQuick
+    import QtQuick.Controls.Basic
+    import KelDS
+    ApplicationWindow {
+        width: 390; height: 1500; visible: true
+        Column {
+            spacing: 8
+            KelButton { text: "contained" }
+            KelButton { text: "contained, pressed"; down: true }
+            KelButton { text: "contained, disabled"; enabled: false }
+            KelButton { text: "contained, focused"; showsFocus: true }
+            KelButton { text: "outlined"; outlined: true }
+            KelButton { text: "outlined, pressed"; outlined: true; down: true }
+            KelButton { text: "outlined, disabled"; outlined: true; enabled: false }
+            KelIconButton { text: "icon"; number: KelIcons.Close }
+            KelIconButton { text: "icon, pressed"; number: KelIcons.Close; down: true }
+            KelIconButton { text: "icon, focused"; number: KelIcons.Close; showsFocus: true }
+            KelPanelHead { width: 358; title: "open"; tone: KelColors.success; expanded: true }
+            KelPanelHead { width: 358; title: "pressed"; tone: KelColors.alert; expanded: false; down: true }
+            KelPanelHead { width: 358; title: "focused"; tone: KelColors.alert; expanded: false; showsFocus: true }
+            KelTabs { width: 358; titles: ["first", "second"]; currentIndex: 1 }
+            Repeater {
+                model: [KelTagColor.Primary, KelTagColor.Success, KelTagColor.Warning, KelTagColor.Alert, KelTagColor.Link]
+                KelTag { text: "tag"; tagColor: modelData }
+            }
+        }
+    })";
+
+struct Controls : ::testing::Test {
+    Controls() {
+        kel::useDesignSystem(engine);
+        QQmlComponent component(&engine);
+        component.setData(controls, {});
+        window.reset(qobject_cast<QQuickWindow*>(component.create()));
+        EXPECT_TRUE(window) << component.errorString().toStdString();
+    }
+
+    [[nodiscard]] QStringList heard() const {
+        return toLines(quillet::testing::readingOrder(*QAccessible::queryAccessibleInterface(window.get())));
+    }
+
+    QQmlEngine engine;
+    std::unique_ptr<QQuickWindow> window;
+};
+
+} // namespace
+
+TEST_F(Controls, LookAndSoundAsTheyAreDescribed) {
+    expectKept(QStringLiteral("controls"), looksOf(*window->contentItem()) + heard());
+}
+
+TEST_F(Controls, HaveAnAlertThatIsHeard) {
+    kel::KelDialogController::present(std::make_unique<kel::KelDialogController>("Title", "Body"), engine,
+                                      *window->contentItem(), false);
+    EXPECT_EQ(heard().filter("Title") + heard().filter("Body") + heard().filter("Cerrar"),
+              QStringList({"dialog \"Title\"", "text \"Title\"", "text \"Body\"",
+                           "button \"Cerrar\" #dialogCloseIcon"}));
+}
+
+} // namespace demo::testing
