@@ -76,7 +76,7 @@ TEST_F(GatewayState, CountsWhatIsSentAndWhatIsNot) {
     }
     EXPECT_EQ(inProgress, 1240);
 
-    const auto answer = ask(checkoutRequest(41052));
+    auto answer = ask(checkoutRequest(41052));
     EXPECT_EQ(answer["message"], "CART_SUBMITTED_PARTIAL_SUCCESS");
     EXPECT_EQ(answer["summary"].dump(),
               R"({"allItems":18,"errorItems":15,"addedItems":3,"allPoints":120,"addedPoints":62,)"
@@ -143,7 +143,7 @@ TEST_F(GatewayState, TellsWhyACartCannotBeSent) {
 
 TEST_F(GatewayState, LeavesTheCycleOutBetweenTwoCycles) {
     EXPECT_FALSE(ask(associateRequest(41067, cartOf(41067)))["consultant"].contains("cycle"));
-    const auto answer = ask(checkoutRequest(41067, "PE"));
+    auto answer = ask(checkoutRequest(41067, "PE"));
     EXPECT_EQ(answer["submittedOrderId"], "PED-PE-00001");
     EXPECT_EQ(answer["products"][0]["totalPrice"].dump(), "990.5");
 }
