@@ -178,6 +178,16 @@ testing::ContextPointer speakingOnly(int version, testing::ContextPointer contex
     return context;
 }
 
+// Chooses HTTP/2 if the client offers it, as most servers do, although the fault server does not speak it.
+int chooseProtocol(SSL*, const unsigned char** chosen, unsigned char* size, const unsigned char* offered,
+                   unsigned count, void*) {
+    static const unsigned char known[] = "\x02h2\x08http/1.1";
+    return SSL_select_next_proto(const_cast<unsigned char**>(chosen), size, known, sizeof known - 1, offered,
+                                 count) == OPENSSL_NPN_NEGOTIATED
+               ? SSL_TLSEXT_ERR_OK
+               : SSL_TLSEXT_ERR_NOACK;
+}
+
 // Lets OpenSSL's clients speak all that they can, so that not the machine's settings decide but the module.
 void allowOldTls() {
     const std::string_view settings =
@@ -212,6 +222,13 @@ const Handshake handshakes[] = {
     {"OlderTlsThatStillServes",
      [](auto& authority) {
          return speakingOnly(TLS1_2_VERSION, authority.serverContext(testing::gatewayHost));
+     },
+     {}},
+    {"Http2IfItIsOffered",
+     [](auto& authority) {
+         auto context = authority.serverContext(testing::gatewayHost);
+         SSL_CTX_set_alpn_select_cb(context.get(), &chooseProtocol, nullptr);
+         return context;
      },
      {}},
     {"HangsUp", [](auto&) { return testing::ContextPointer(nullptr, &SSL_CTX_free); },

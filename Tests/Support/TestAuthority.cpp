@@ -42,21 +42,10 @@ CertificatePointer makeCertificate(EVP_PKEY* key, const std::string& name, const
     return certificate;
 }
 
-// Chooses HTTP/2 if the client offers it, as most servers do, although the fault server does not speak it.
-int chooseProtocol(SSL*, const unsigned char** chosen, unsigned char* size, const unsigned char* offered,
-                   unsigned count, void*) {
-    static const unsigned char known[] = "\x02h2\x08http/1.1";
-    return SSL_select_next_proto(const_cast<unsigned char**>(chosen), size, known, sizeof known - 1, offered,
-                                 count) == OPENSSL_NPN_NEGOTIATED
-               ? SSL_TLSEXT_ERR_OK
-               : SSL_TLSEXT_ERR_NOACK;
-}
-
 ContextPointer makeContext(EVP_PKEY* key, X509* certificate) {
     ContextPointer context(SSL_CTX_new(TLS_server_method()), &SSL_CTX_free);
     SSL_CTX_use_certificate(context.get(), certificate);
     SSL_CTX_use_PrivateKey(context.get(), key);
-    SSL_CTX_set_alpn_select_cb(context.get(), &chooseProtocol, nullptr);
     return context;
 }
 
