@@ -12,13 +12,21 @@ void animateView(std::chrono::milliseconds duration, std::function<void(double p
     animation->setStartValue(0.0);
     animation->setEndValue(1.0);
     animation->setDuration(static_cast<int>(duration.count()));
-    QObject::connect(animation, &QVariantAnimation::valueChanged, animation,
-                     [step = std::move(step)](const QVariant& value) { step(value.toDouble()); });
+    QObject::connect(animation, &QVariantAnimation::valueChanged, animation, [step](const QVariant& value) {
+        if (value.toDouble() < 1) {
+            step(value.toDouble());
+        }
+    });
     // Not within the tick of the animation clock, which stands still until the tick is over: the completion
-    // may run an event loop, such as that of a host's modal dialog.
+    // may run an event loop, such as that of a host's modal dialog. The last step waits for it, or what has
+    // faded would be there unseen.
     QObject::connect(
         animation, &QAbstractAnimation::finished, QCoreApplication::instance(),
-        [completion = std::move(completion)] { completion(); }, Qt::QueuedConnection);
+        [step = std::move(step), completion = std::move(completion)] {
+            step(1);
+            completion();
+        },
+        Qt::QueuedConnection);
     animation->start(QAbstractAnimation::DeleteWhenStopped);
 }
 

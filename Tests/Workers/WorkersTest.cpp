@@ -41,12 +41,6 @@ struct Workers : ::testing::TestWithParam<Call> {
         return client.checkout(delegate);
     }
 
-    void answer(std::int64_t status, std::chrono::seconds after) {
-        backend->script(GetParam(),
-                        {Reply{.status = status, .body = sampleBody(GetParam()), .after = after}});
-        worker->execute();
-    }
-
     void end(Gone gone) {
         if (gone == Gone::theWorker || gone == Gone::both) {
             worker.reset();
@@ -90,7 +84,8 @@ TEST_P(Workers, CallNobodyOnceOneOfTheTwoIsGone) {
                 if (GetParam() == Call::checkout && delegate) {
                     told.push_back("checking out");
                 }
-                answer(200, 5s);
+                backend->script(GetParam(), {Reply{.body = sampleBody(GetParam()), .after = 5s}});
+                worker->execute();
             }
             if (step == Step::underWay) {
                 end(gone);
@@ -117,24 +112,7 @@ TEST_P(Workers, CallNobodyOnceOneOfTheTwoIsGone) {
     RecordProperty("cases", cases);
 }
 
-TEST_P(Workers, RememberTheLatestOutcomeOfSeveralRuns) {
-    answer(200, 5s);
-    backend->script(GetParam(), {Reply{.status = 504, .body = "", .after = 7s}});
-    worker->execute();
-    answer(201, 3s);
-    lines->clear();
-    EXPECT_FALSE(worker->isFinishedSuccessfully());
-    for (const std::string result :
-         {" 201 with a response", " 200 with a response",
-          " 504: The operation couldn’t be completed. (Quillet.HttpStatusCodeError error 1.)"}) {
-        pass(lines->empty() ? 3s : 2s);
-        EXPECT_EQ(lines->back(), name + result);
-        EXPECT_EQ(worker->isFinishedSuccessfully(), result.find("response") != std::string::npos);
-    }
-    EXPECT_EQ(lines->size(), 3u);
-}
-
-TEST_P(Workers, AreAnsweredLateNeverAndByErrors) {
+TEST_P(Workers, AreAnsweredInAnyOrderAndRememberTheLatest) {
     const platform::URLError offline{platform::URLError::Code::notConnectedToInternet, "There is no network"};
     backend->script(GetParam(), {Reply{.body = sampleBody(GetParam()), .after = 59'999ms}, Reply::never(),
                                  Reply{.error = offline}});
@@ -149,8 +127,11 @@ TEST_P(Workers, AreAnsweredLateNeverAndByErrors) {
     // The last reply of a script stays.
     EXPECT_THAT(told(0ms), ElementsAre(name + " 0: There is no network", name + " 0: There is no network"));
     EXPECT_THAT(told(59'998ms), ElementsAre());
+    EXPECT_FALSE(worker->isFinishedSuccessfully());
     EXPECT_THAT(told(1ms), ElementsAre(name + " 200 with a response"));
+    EXPECT_TRUE(worker->isFinishedSuccessfully());
     EXPECT_THAT(told(1ms), ElementsAre(name + " 0: The request timed out"));
+    EXPECT_FALSE(worker->isFinishedSuccessfully());
 }
 
 INSTANTIATE_TEST_SUITE_P(, Workers, ::testing::Values(Call::associate, Call::getOpenOrders, Call::checkout),
