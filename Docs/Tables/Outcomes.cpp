@@ -1,12 +1,10 @@
+#include "Fakes.hpp"
 #include "Samples.hpp"
 #include "Tables.hpp"
 
-#include "Checkout/Fakes.hpp"
 #include "Checkout/Screen/CheckoutViewModel.hpp"
 #include "Network/Errors/HttpErrorFactory.hpp"
 #include "Network/Errors/NetworkErrorParser.hpp"
-#include "SaleSummary/FakeExecutable.hpp"
-#include "SaleSummary/Fakes.hpp"
 #include "SaleSummary/UseCases/SaleSummaryUseCaseFactory.hpp"
 
 #include <algorithm>

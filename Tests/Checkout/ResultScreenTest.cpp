@@ -107,7 +107,7 @@ TEST_F(ResultScreen, BeginsAtItsTopFromTheFirstFrameOn) {
     QObject::disconnect(look);
 }
 
-TEST_F(ResultScreen, KeepsItsPlaceWhileSectionsOpenAndCloseAndTheWindowChanges) {
+TEST_F(ResultScreen, KeepsToItsPageAndPlaceWhileSectionsOpenAndCloseAndTheWindowChanges) {
     show(40);
     QQuickItem* list = stage.item("result");
     const auto offset = [&] {
@@ -116,7 +116,10 @@ TEST_F(ResultScreen, KeepsItsPlaceWhileSectionsOpenAndCloseAndTheWindowChanges) 
     const auto hasRows = [&](int rows) {
         return turnUntil([&] { return list->property("count").toInt() == rows; });
     };
+    const auto bar = [&] { return stage.window().grabWindow().copy(0, 0, 390, 64); };
+    const QImage clear = bar();
     list->setProperty("contentY", list->property("originY").toDouble() + 200);
+    EXPECT_EQ(bar(), clear);
     const QPointF head = stage.middle("Productos enviados");
     stage.click("Productos enviados");
     ASSERT_TRUE(hasRows(22));

@@ -46,6 +46,7 @@ struct SaleSummaryCalls : ModuleTest {
         expectAfter(seconds(5), "PATCH GET ");
         taken(log);
         stage.click("Actualizar");
+        EXPECT_FALSE(stage.shows("Actualizar"));
     }
 
     Stage stage;

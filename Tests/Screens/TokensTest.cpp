@@ -2,8 +2,8 @@
 #include "KelDS/KelDS.hpp"
 #include "KelDS/KelIcons.hpp"
 #include "Kept.hpp"
+#include "PseudoTexts.hpp"
 #include "Resources/ModuleBundle.hpp"
-#include "Views/TextKeys.hpp"
 
 #include <QMetaEnum>
 
@@ -30,14 +30,46 @@ QStringList valuesOf() {
     return lines;
 }
 
-QString textOf(const quillet::testing::TextKey& key, const kel::KelBundle& bundle, quint64 count) {
-    return key.isCounted ? kel::localizedCount(key.key, bundle)(count) : kel::localized(key.key, bundle);
+/// A key as the code uses it, out of the lists that the code itself is made of.
+struct TextKey {
+    const char* key;
+    bool isCounted = false;
+};
+
+const TextKey moduleKeys[] = {
+#define QUILLET_TEXT(name, key) {key},
+#define QUILLET_NUMBERED_TEXT(name, key) {key},
+#define QUILLET_COUNTED_TEXT(name, key) {key, true},
+#include "Resources/LocalizationKeys.def"
+};
+
+const TextKey designSystemKeys[] = {
+#define KEL_TEXT(name, key) {key},
+#include "KelDS/KelTextKeys.def"
+};
+
+/// A key, and its text in each language that there is a table of.
+QStringList textsOf(const TextKey& key, const kel::KelBundle& bundle) {
+    QStringList lines{QStringLiteral("\"%1\"").arg(key.key)};
+    for (const char* language : {"es", "pt", "en", "xa", "xb"}) {
+        kel::setLanguage(language);
+        const QString line = QStringLiteral("  %1: ").arg(language) + "%1";
+        if (!key.isCounted) {
+            lines << line.arg(kel::localized(key.key, bundle));
+            continue;
+        }
+        for (const quint64 count : {0, 1, 2, 5}) {
+            lines << line.arg(kel::localizedCount(key.key, bundle)(count));
+        }
+    }
+    return lines;
 }
 
 struct Tokens : ::testing::Test {
     ~Tokens() override {
         kel::KelAppearance::current().setTheme(kel::KelTheme::light);
         kel::KelAppearance::current().setReducedMotion(false);
+        kel::setHostTexts({});
         kel::setLanguage(QStringLiteral("es"));
     }
 };
@@ -88,22 +120,15 @@ TEST_F(Tokens, HaveTheirMeasures) {
     expectKept(QStringLiteral("measures"), lines);
 }
 
-// Empty texts are Spanish ones, so a missing one shows here as another language's.
+// A missing text is Spanish, as what stands in for it.
 TEST_F(Tokens, HaveTheirTextsInEachLanguage) {
-    const kel::KelBundle bundles[] = {quillet::moduleBundle(), {":/kel/texts", "kelds"}};
+    usePseudoTexts();
     QStringList lines;
-    const auto families = quillet::testing::textFamilies();
-    for (std::size_t family = 0; family < families.size(); ++family) {
-        for (const auto& key : families[family].keys) {
-            lines << QStringLiteral("\"%1\"").arg(key.key);
-            for (const char* language : {"es", "pt", "en"}) {
-                kel::setLanguage(language);
-                lines << QStringLiteral("  %1: %2").arg(language, textOf(key, bundles[family], 1));
-                if (key.isCounted) {
-                    lines << QStringLiteral("  %1: %2").arg(language, textOf(key, bundles[family], 2));
-                }
-            }
-        }
+    for (const TextKey& key : moduleKeys) {
+        lines << textsOf(key, quillet::moduleBundle());
+    }
+    for (const TextKey& key : designSystemKeys) {
+        lines << textsOf(key, {":/kel/texts", "kelds"});
     }
     expectKept(QStringLiteral("texts"), lines);
 }
