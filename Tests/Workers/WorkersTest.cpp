@@ -90,10 +90,12 @@ TEST_P(Workers, CallNobodyOnceOneOfTheTwoIsGone) {
             if (step == Step::underWay) {
                 end(gone);
             }
+            EXPECT_EQ(watched.expired(), !worker);
             backend->clock()->advance(5s);
             if (step == Step::queued) {
                 end(gone);
             }
+            EXPECT_EQ(watched.expired(), !worker);
             if (step == Step::inTheCallback) {
                 delegate->then = [&] { end(gone); };
             }
