@@ -186,6 +186,11 @@ void Stage::click(const QString& textOrName) {
     clickAt(middle(textOrName));
 }
 
+void Stage::releaseAt(QPointF point) {
+    mouse(QEvent::MouseMove, point);
+    mouse(QEvent::MouseButtonRelease, point);
+}
+
 void Stage::clickBar() {
     clickAt(QPointF(bar().width() / 2, bar().height() / 2));
 }
@@ -254,8 +259,9 @@ QPointF Stage::middle(const QString& textOrName) const {
 }
 
 void Stage::mouse(QEvent::Type type, QPointF point) {
-    const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-    QMouseEvent event(type, point, point, window_->mapToGlobal(point), Qt::LeftButton, held, {});
+    const auto held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+    const auto changed = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, point, point, window_->mapToGlobal(point), changed, held, {});
     QCoreApplication::sendEvent(window_.get(), &event);
 }
 

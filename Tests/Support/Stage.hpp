@@ -50,7 +50,8 @@ public:
     void clickBar();
     /// Any item by `text` or object name; null if there is none.
     [[nodiscard]] QQuickItem* item(const QString& textOrName) const;
-    void releaseAt(QPointF point) { mouse(QEvent::MouseButtonRelease, point); }
+    /// Moves what was pressed there and lets go.
+    void releaseAt(QPointF point);
     void clickAt(QPointF point);
     /// The same with a finger: down and up again.
     void touch(const QString& textOrName) { touchAt(middle(textOrName)); }

@@ -90,10 +90,12 @@ TEST_P(Workers, CallNobodyOnceOneOfTheTwoIsGone) {
             if (step == Step::underWay) {
                 end(gone);
             }
+            EXPECT_EQ(watched.expired(), !worker);
             backend->clock()->advance(5s);
             if (step == Step::queued) {
                 end(gone);
             }
+            EXPECT_EQ(watched.expired(), !worker);
             if (step == Step::inTheCallback) {
                 delegate->then = [&] { end(gone); };
             }
@@ -196,9 +198,11 @@ TEST(WorkersOverTheNetwork, MayBeReleasedLastOnTheirSessionsThread) {
     worker.reset();
     EXPECT_FALSE(watched.expired());
     isReleased.count_down();
-    while (!watched.expired()) {
+    const auto deadline = std::chrono::steady_clock::now() + 30s;
+    while (!watched.expired() && std::chrono::steady_clock::now() < deadline) {
         std::this_thread::yield();
     }
+    EXPECT_TRUE(watched.expired());
     platform::mainQueue().setWakeUp(nullptr);
     EXPECT_EQ(platform::mainQueue().drain(), 1u);
 }
