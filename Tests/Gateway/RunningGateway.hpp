@@ -6,7 +6,9 @@
 #include "Gateway/Requests.hpp"
 #include "Gateway/TemporaryFolder.hpp"
 
+#include <chrono>
 #include <fstream>
+#include <thread>
 
 #include <gmock/gmock.h>
 
@@ -29,6 +31,18 @@ struct RunningGateway : testing::Test {
         std::vector<Json> lines;
         for (std::string line; std::getline(stream, line);) {
             lines.push_back(Json::parse(line));
+        }
+        return lines;
+    }
+
+    /// The same once it has as many lines, or after half a minute. A client may be gone before its request is
+    /// read.
+    [[nodiscard]] static std::vector<Json> awaitLog(const std::filesystem::path& file, std::size_t count) {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+        std::vector<Json> lines = readLog(file);
+        while (lines.size() < count && std::chrono::steady_clock::now() < end) {
+            std::this_thread::yield();
+            lines = readLog(file);
         }
         return lines;
     }
