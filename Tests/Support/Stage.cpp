@@ -1,8 +1,6 @@
 #include "Support/Stage.hpp"
 
 #include <QAccessible>
-#include <QAnimationDriver>
-#include <QBasicTimer>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QQmlComponent>
@@ -10,7 +8,6 @@
 #include <QTimer>
 
 #include <stdexcept>
-#include <utility>
 
 namespace quillet::testing {
 
@@ -57,40 +54,6 @@ void collect(QtMsgType type, const QMessageLogContext& context, const QString& m
     previousHandler(type, context, message);
 }
 
-/// Qt's animation clock made faster: a tick advances it by a twentieth of a second, however soon it comes.
-class HurriedAnimations final : public QAnimationDriver {
-public:
-    [[nodiscard]] qint64 elapsed() const override { return elapsed_; }
-
-protected:
-    void start() override {
-        elapsed_ = 0;
-        timer_.start(1, this);
-        QAnimationDriver::start();
-    }
-    void stop() override {
-        timer_.stop();
-        QAnimationDriver::stop();
-    }
-    void timerEvent(QTimerEvent*) override {
-        elapsed_ += 50;
-        advance();
-    }
-
-private:
-    QBasicTimer timer_;
-    qint64 elapsed_ = 0;
-};
-
-void hurryAnimations() {
-    static HurriedAnimations* driver = nullptr;
-    if (!driver) {
-        driver = new HurriedAnimations;
-        driver->install();
-        qAddPostRoutine([] { delete std::exchange(driver, nullptr); });
-    }
-}
-
 QPointingDevice& fingers() {
     static QPointingDevice* const device = QTest::createTouchDevice();
     return *device;
@@ -132,7 +95,6 @@ bool turnUntilFor(std::chrono::milliseconds longest, const std::function<bool()>
 }
 
 Stage::Stage(const char* host) : engine_(std::make_unique<QQmlEngine>()) {
-    hurryAnimations();
     if (stages++ == 0) {
         collected().clear();
         previousHandler = qInstallMessageHandler(collect);

@@ -19,8 +19,8 @@ namespace quillet::testing {
 /// The same within a given time.
 [[nodiscard]] bool turnUntilFor(std::chrono::milliseconds longest, const std::function<bool()>& condition);
 
-/// A host's window with a bar and a StackView below it, and the warnings of QML meanwhile. Qt's animations
-/// run faster than in real time from the first stage on.
+/// A host's window with a bar and a StackView below it, and the warnings of QML meanwhile. In Qt tests Qt's
+/// animations run faster than in real time.
 class Stage {
 public:
     /// `host` is the QML of another host's window, with a `stack` and a `bar` among its properties.
