@@ -1,27 +1,13 @@
 #pragma once
 
-#include "KelCommon/KelAnalyticsManager.hpp"
-#include "Quillet/Quillet.hpp"
-#include "Quillet/Testing.hpp"
-#include "Support/Stage.hpp"
+#include "Support/ModuleTest.hpp"
 #include "Views/Animation/ViewAnimating.hpp"
 #include "Views/Covers/Cover.hpp"
 
-#include <gmock/gmock.h>
-
 namespace quillet::testing {
 
-/// The module on a stage, against a scripted back end. What it tracks and asks of its host is in `log`.
-struct ModuleOnStage : ::testing::Test {
-    ModuleOnStage() {
-        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<RecordingAnalytics>(log));
-    }
-    ~ModuleOnStage() override {
-        kel::KelAnalyticsManager::shared()->setSink(nullptr);
-        ScriptedBackend::uninstall();
-        EXPECT_THAT(Stage::complaints(), ::testing::IsEmpty());
-    }
-
+/// Tests on a stage of the usual shape, which they may take down.
+struct ModuleOnStage : ModuleTest {
     /// Opens the module; only the stack owns the screen afterwards.
     std::weak_ptr<platform::QuickViewController> open() {
         const auto starter = Starter::create("token", "idp", {"cart-1", 41052, "CL"}, host);
@@ -54,15 +40,10 @@ struct ModuleOnStage : ::testing::Test {
         ASSERT_TRUE(turnUntil([&] { return isOver; }));
     }
 
-    const QString viewOrders = "Ver Pedidos";
-    const QString send = "Enviar productos a mi carrito";
     const QString retry = "Actualizar";
     const QString goToCart = "Ir al carrito";
     const QString closeIcon = "dialogCloseIcon";
 
-    Log log = makeLog();
-    std::shared_ptr<QuilletNavigationDelegate> host = std::make_shared<RecordingNavigation>(log);
-    std::shared_ptr<ScriptedBackend> backend = ScriptedBackend::install();
     std::unique_ptr<Stage> stage = std::make_unique<Stage>();
 };
 

@@ -47,7 +47,7 @@ struct ModuleTest : ::testing::Test {
     }
 
     Log log = makeLog();
-    std::shared_ptr<RecordingNavigation> host = std::make_shared<RecordingNavigation>(log);
+    std::shared_ptr<QuilletNavigationDelegate> host = std::make_shared<RecordingNavigation>(log);
     std::shared_ptr<ScriptedBackend> backend = ScriptedBackend::install();
     const QString viewOrders = "Ver Pedidos";
     const QString send = "Enviar productos a mi carrito";
