@@ -1,4 +1,5 @@
 #include "Platform/Http/URLSession.hpp"
+#include "Quillet/Testing/ScriptedBackend.hpp"
 #include "Support/FakeNetworkPath.hpp"
 #include "Support/SandboxedSession.hpp"
 
@@ -117,9 +118,13 @@ TEST_F(SessionTest, TellsItsObserverBeforeTheCompletion) {
     ASSERT_TRUE(server.waitForRequests(2));
     clock->advance(60s);
     EXPECT_TRUE(calls.wait(1).error);
+    // Whoever answers in place of the network.
+    configuration.loader = std::make_shared<testing::ScriptedBackend>();
+    task(platform::URLSession(configuration)).resume();
     EXPECT_EQ(observer->lines(),
               (std::vector<std::string>{"0 GET https://gateway.test/", "0 ended 404 0 0",
-                                        "1 GET https://gateway.test/", "1 ended 0 -1001 60000"}));
+                                        "1 GET https://gateway.test/", "1 ended 0 -1001 60000",
+                                        "2 GET https://gateway.test/", "2 ended 200 0 0"}));
 }
 
 // ThreadSanitizer finds the data races of this test.
