@@ -60,6 +60,21 @@ std::vector<Pair> pairsOf(const kel::KelPalette& theme) {
 
 } // namespace
 
+TEST(HexColor, ReadsSixDigitsAndStopsAtTheFirstThatIsNone) {
+    const std::pair<const char*, std::optional<QColor>> cases[] = {
+        {" \n#f4AB34\t", QColor(0xF4, 0xAB, 0x34)},
+        {"F4AB34", QColor(0xF4, 0xAB, 0x34)},
+        {"12zz34", QColor(0, 0, 0x12)},
+        {"", {}},
+        {"#FFF", {}},
+        {"#F4AB34#", {}},
+    };
+    for (const auto& [text, color] : cases) {
+        EXPECT_EQ(hexColor(text, 1), color) << text;
+    }
+    EXPECT_NEAR(hexColor("#F4AB34", 0.5)->alphaF(), 0.5, 0.01);
+}
+
 TEST(Palettes, StandOutFromTheirGrounds) {
     for (const kel::KelPalette* theme : {&kel::lightPalette, &kel::darkPalette, &kel::contrastPalette}) {
         for (const Pair& pair : pairsOf(*theme)) {

@@ -8,7 +8,6 @@ namespace quillet::testing {
 
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 /// Without a network, so that the first screen offers another try.
@@ -21,26 +20,6 @@ struct PresentTest : ModuleOnStage {
 };
 
 } // namespace
-
-TEST_F(PresentTest, CoversTheBarWhileItLoadsAndSaysThatThereIsNoConnection) {
-    const auto screen = open();
-    EXPECT_EQ(screen.lock()->title(), "Resumen de venta");
-    EXPECT_THAT(taken(log), ElementsAre("screen Pedidos de mis clientes"));
-    stage->clickBar();
-    EXPECT_EQ(stage->barClicks(), 0);
-
-    ASSERT_TRUE(comesToShow("Lo sentimos, tu dispositivo está sin conexión a internet"));
-    EXPECT_THAT(taken(log), ElementsAre("screen Error"));
-    stage->clickBar();
-    EXPECT_EQ(stage->barClicks(), 1);
-
-    stage->click(retry);
-    EXPECT_FALSE(stage->shows(retry));
-    stage->clickBar();
-    EXPECT_EQ(stage->barClicks(), 1);
-    ASSERT_TRUE(comesToShow(retry));
-    EXPECT_THAT(*log, ElementsAre("screen Error"));
-}
 
 TEST_F(PresentTest, ShowsItsTitleOnlyWhileItIsOnTopAndLoadsOnce) {
     const auto first = open();
