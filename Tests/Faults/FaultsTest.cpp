@@ -1,50 +1,46 @@
 #include "Checkout/CheckoutFactory.hpp"
-#include "KelCommon/KelAnalyticsManager.hpp"
 #include "KelDS/KelAppearance.hpp"
-#include "Models/Bodies.hpp"
-#include "Quillet/Quillet.hpp"
-#include "Quillet/Testing/RecordingHost.hpp"
 #include "Support/FaultServer.hpp"
-#include "Support/Stage.hpp"
+#include "Support/ModuleOnStage.hpp"
+#include "Support/Reading.hpp"
 #include "Support/Thorough.hpp"
 #include "Workers/CheckoutWorkerFactory.hpp"
 
-#include <QQmlContext>
-#include <QQmlExpression>
 #include <QThread>
 
-#include <gmock/gmock.h>
+#include <fstream>
 
 namespace quillet::testing {
 
 namespace {
 
-using namespace quillet::tests;
 using Lines = std::vector<std::string>;
 
-const std::string summary =
-    "En Curso|Ciclo actual: 05|Inicio: 01/03/2024|Cierre: 22/03/2024|Puntos en curso: <b>12</b>|Resumen del "
-    "Pedido:|"
-    "Ciclo del pedido: <b>05</b>|05/03/2024|Total de productos: <b>1</b>|Puntos del pedido: <b>6</b>|"
-    "<b>Recuerda:</b> Puedes seguir acumulando tus ventas hasta alcanzar el puntaje deseado para realizar tu "
-    "Nuevo "
-    "Pedido.|Enviar productos a mi carrito|";
-const std::string registered =
-    "¡Pedido del cliente registrado y con estatus en curso!|"
-    "El pedido enviado por WhatsApp, fue registrado con éxito.|Ver Pedidos|Cerrar|";
-const std::string timeOut = "Lo sentimos, algo salió mal|Actualizar|";
-const std::string gone = "Lo sentimos, pero esta información ya no está disponible.|Volver|";
-const std::string result =
-    "<b>Recuerda:</b> Puedes seguir acumulando tus ventas hasta alcanzar el puntaje deseado para realizar tu "
-    "Nuevo "
-    "Pedido.|Ir al carrito|Ciclo actual: |5 puntos enviados en total|"
-    "Algunos productos no fueron enviados al carrito. ¡Vea!|Productos no enviados:|7|Productos enviados con "
-    "éxito:|"
-    "6|Productos enviados|2|Labial|Code: 1|0 puntos|Productos no enviados|1|Crema|Code: 2|9 puntos|";
-const std::string dialog = "¡Ups, tuvimos un problema!|Estamos experimentando inestabilidad en nuestros "
-                           "sistemas. Por favor, inténtalo de "
-                           "nuevo más tarde.|Actualizar|Cerrar|";
-const std::string nothing;
+// Screens, by the names of their descriptions.
+const std::string registered = "order-registered.light.390";
+const std::string summary = "summary.light.390";
+const std::string timeOut = "time-out.light.390";
+const std::string gone = "generic-error.light.390";
+const std::string result = "edge.no-points";
+const std::string dialog = "checkout-error.light.390";
+const std::string nothing = "a checkout without content";
+
+/// What a screen reader finds on this screen.
+Lines described(const std::string& screen) {
+    if (screen == nothing) {
+        return {"page \"Envío al carrito\""};
+    }
+    Lines lines;
+    std::ifstream file(QUILLET_KEPT_DESCRIPTIONS "/" + screen + ".txt");
+    for (std::string line; std::getline(file, line);) {
+        if (line == "heard:") {
+            lines.clear();
+        } else if (!line.contains("#host")) {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
 
 /// How a call is answered, and what the first screen and the checkout show then.
 struct Fault {
@@ -53,8 +49,8 @@ struct Fault {
     int status;
     /// "@" is the body that would be good.
     std::string body;
-    const std::string& first;
-    const std::string& checkout;
+    std::string first;
+    std::string checkout;
     std::string headers = "";
     /// Of an answer that is cut the last byte is missing.
     Answer::Ending ending = Answer::Ending::keepOpen;
@@ -81,9 +77,9 @@ std::vector<Fault> faults() {
         R"({"error":{"response":{"statusCode":422,"message":"m","error":"e"},"status":422,)"
         R"("message":"ERROR_CART_ALREADY_SUBMITTED"},"statusCode":500,"path":"/p"})";
     std::vector<Fault> all = {
-        {"none", 200, "@", summary, result},
+        {"none", 200, "@", registered, result},
         {"closed", 0, "", gone, dialog, "", close},
-        {"a time-out with a good body", 504, "@", summary, result},
+        {"a time-out with a good body", 504, "@", registered, result},
         {"cut", 200, "@", gone, dialog, "", cut},
         {"closed in a body without length", 0, "HTTP/1.1 200 OK\r\n\r\n{", gone, nothing, "", close},
         {"reset", 0, "", gone, dialog, "", reset},
@@ -102,7 +98,7 @@ std::vector<Fault> faults() {
         }
     }
     for (const int status : {422, 500}) {
-        all.push_back({"a good body", status, "@", summary, result});
+        all.push_back({"a good body", status, "@", registered, result});
     }
     all.push_back({"no content", 204, "", gone, nothing});
     return all;
@@ -111,160 +107,135 @@ std::vector<Fault> faults() {
 /// Whatever it is told comes on the main thread.
 class MainThreadAnalytics final : public kel::KelAnalyticsManagerType {
 public:
-    explicit MainThreadAnalytics(Log log) : log_(std::move(log)) {}
-    void trackScreen(const kel::KelAnalyticsScreenType& screen) override { add("screen " + screen.name()); }
-    void trackEvent(const kel::KelAnalyticsEventType& event) override { add(event.label().value_or("")); }
+    explicit MainThreadAnalytics(const Log& log) : recording_(log) {}
+    void trackScreen(const kel::KelAnalyticsScreenType& screen) override {
+        EXPECT_EQ(QThread::currentThread(), qApp->thread());
+        recording_.trackScreen(screen);
+    }
+    void trackEvent(const kel::KelAnalyticsEventType& event) override {
+        EXPECT_EQ(QThread::currentThread(), qApp->thread());
+        recording_.trackEvent(event);
+    }
 
 private:
-    void add(std::string line) {
-        EXPECT_EQ(QThread::currentThread(), qApp->thread());
-        log_->push_back(std::move(line));
-    }
-
-    Log log_;
+    RecordingAnalytics recording_;
 };
 
-// All that is shown but icons, which are letters of a private alphabet, in the order of the items.
-std::string textsOf(const QQuickItem& item) {
-    const auto text = item.property("text").toString();
-    if (!item.isVisible() || item.opacity() == 0) {
-        return {};
-    }
-    if (!text.isEmpty()) {
-        return text.front().category() == QChar::Other_PrivateUse ? "" : text.toStdString() + "|";
-    }
-    std::string texts;
-    for (const QQuickItem* const child : item.childItems()) {
-        texts += textsOf(*child);
-    }
-    return texts;
-}
-
-struct Faults : ::testing::Test {
+struct Faults : ModuleOnStage {
     Faults() {
-        // Dates are shown by the device's time.
-        qputenv("TZ", "UTC");
         kel::KelAppearance::current().setReducedMotion(true);
-        QQmlExpression(qmlContext(&stage.stack()), &stage.stack(),
-                       QStringLiteral("pushEnter = pushExit = null"))
-            .evaluate();
+        // So high that nothing scrolls.
+        stage->window().resize(390, 1500);
+        stage->stack().setProperty("pushEnter", QVariant::fromValue<QObject*>(nullptr));
+        stage->stack().setProperty("pushExit", QVariant::fromValue<QObject*>(nullptr));
         kel::KelAnalyticsManager::shared()->setSink(std::make_shared<MainThreadAnalytics>(log));
         platform::URLSessionConfiguration::setDefaultConfiguration(
             {.caBundleFile = authority.bundleFile(),
-             .hostMappings = {{.host = starter.domainUrl(), .address = "127.0.0.1", .port = server.port()}},
+             .hostMappings = {{.host = gateway, .address = "127.0.0.1", .port = server.port()}},
              .maximumBodyBytes = 16 << 10});
     }
-    ~Faults() override {
-        kel::KelAppearance::current().setReducedMotion(false);
-        kel::KelAnalyticsManager::shared()->setSink(nullptr);
-        platform::URLSessionConfiguration::setDefaultConfiguration({});
-        EXPECT_EQ(Stage::complaints(), Lines());
-    }
+    ~Faults() override { kel::KelAppearance::current().setReducedMotion(false); }
 
-    /// Plays the faults, all of them or some, each with a screen of its own.
+    /// Plays the faults, all of them or some, each with a screen of its own. Of these calls the first has the
+    /// fault.
     template <typename Play>
-    void forEachFault(Play play) {
+    void forEachFault(const std::vector<Call>& calls, Play play) {
         const auto all = faults();
         const std::size_t step = thorough(12, 1);
         for (std::size_t i = 0; i < all.size(); i += step) {
             SCOPED_TRACE(all[i].name);
-            const bool isTrusted = all[i].name != untrusted;
-            server.setContext((isTrusted ? authority : stranger).serverContext(starter.domainUrl()));
-            play(all[i], isTrusted);
-            server.setContext(authority.serverContext(starter.domainUrl()));
+            if (all[i].name == untrusted) {
+                server.setContext(TestAuthority::selfSignedContext(gateway));
+            } else {
+                script(all[i].answer(goodBody(calls.front())));
+                scriptGood({calls.begin() + 1, calls.end()});
+            }
+            play(all[i]);
+            expectNoOverlay();
+            stage->popAll();
+            server.setContext(authority.serverContext(gateway));
         }
         RecordProperty("cases", static_cast<int>((all.size() + step - 1) / step));
+    }
+    static std::string goodBody(Call call) {
+        return QString::fromStdString(sampleBody(call))
+            .replace("\"addedPoints\":20", "\"addedPoints\":0")
+            .toStdString();
     }
     void script(Answer answer) {
         server.enqueue(std::move(answer));
         ++requests;
     }
-    void open(const std::shared_ptr<platform::QuickViewController>& screen) {
-        ASSERT_TRUE(present(screen, stage.stack()));
+    void scriptGood(const std::vector<Call>& calls) {
+        for (const Call call : calls) {
+            script(Answer::complete(200, goodBody(call)));
+        }
     }
-    /// Waits until the screen shows these texts and no other, and compares what has been told by then.
-    void expect(const std::string& texts, const Lines& told) {
-        std::string shown;
+    /// Waits until this and nothing else can be heard, and compares what has been told by then.
+    void expect(const std::string& screen, const Lines& told) {
+        const Lines expected = described(screen);
+        Lines heard;
         EXPECT_TRUE(turnUntil([&] {
-            shown = textsOf(*stage.window().contentItem());
-            return shown == texts && !stage.stack().property("busy").toBool() &&
-                   server.requests().size() == requests;
-        })) << shown;
+            heard = readingOrder(*QAccessible::queryAccessibleInterface(&stage->window()));
+            return heard == expected && settled() && server.requests().size() == requests;
+        })) << ::testing::PrintToString(heard);
         EXPECT_EQ(taken(log), told);
     }
     /// Waits until nothing covers the host's bar.
     void expectNoOverlay() {
-        EXPECT_TRUE(turnUntil([&, clicks = stage.barClicks()] {
-            stage.clickBar();
-            return stage.barClicks() > clicks;
+        EXPECT_TRUE(turnUntil([&, clicks = stage->barClicks()] {
+            stage->clickBar();
+            return stage->barClicks() > clicks;
         }));
     }
     void expectTheSummary(const Lines& told) {
-        expect(summary + registered, told);
-        stage.click("Ver Pedidos");
-        expect(summary, {"View Orders"});
+        expect(registered, told);
+        stage->click(viewOrders);
+        expect(summary, {event("Register Order", "View Orders")});
     }
 
-    Log log = makeLog();
-    Starter starter = Starter::create("token", "idp", {"cart-1", 41051, "CL"}, nullptr).value();
+    const std::string gateway = Starter::create("", "", {}, nullptr)->domainUrl();
     TestAuthority authority;
-    TestAuthority stranger;
-    FaultServer server{authority.serverContext(starter.domainUrl())};
-    Stage stage;
+    FaultServer server{authority.serverContext(gateway)};
     std::size_t requests = 0;
 };
 
 } // namespace
 
 TEST_F(Faults, OfTheAssociationLeadToTheirScreenAndToNoOther) {
-    const Lines came = {"screen Pedidos de mis clientes", "Deep Linking"};
-    forEachFault([&](const Fault& fault, bool isTrusted) {
-        if (isTrusted) {
-            script(fault.answer(orderJson));
-            script(Answer::complete(200, openOrdersJson));
+    const std::string screen = "screen Pedidos de mis clientes";
+    const std::string came = event("Register Order", "Deep Linking");
+    forEachFault({Call::associate, Call::getOpenOrders}, [&](const Fault& fault) {
+        open();
+        if (fault.first == registered) {
+            return expectTheSummary({screen, came});
         }
-        open(starter.createRootViewController());
-        if (&fault.first == &summary) {
-            expectTheSummary(came);
-        } else {
-            expect(fault.first, {came[0], "screen Error"});
+        expect(fault.first, {screen, "screen Error"});
+        if (fault.first == timeOut) {
+            scriptGood({Call::associate, Call::getOpenOrders});
+            stage->click(retry);
+            expectTheSummary({came});
         }
-        if (&fault.first == &timeOut) {
-            script(Answer::complete(200, orderJson));
-            script(Answer::complete(200, openOrdersJson));
-            stage.click("Actualizar");
-            expectTheSummary({came[1]});
-        }
-        expectNoOverlay();
-        stage.popAll();
     });
 }
 
 TEST_F(Faults, OfTheCheckoutLeadToTheirScreenAndToNoOther) {
     const CheckoutFactory checkout(
-        std::make_unique<CheckoutWorkerFactory>("CL", 41051, starter.authorization(), starter.domainUrl()),
-        std::make_unique<CheckoutConfigurator>(), std::weak_ptr<QuilletNavigationDelegate>());
-    forEachFault([&](const Fault& fault, bool isTrusted) {
-        if (isTrusted) {
-            script(fault.answer(checkoutJson));
-        }
-        open(checkout.create());
-        if (&fault.checkout == &nothing) {
-            ASSERT_TRUE(turnUntil([&] { return server.requests().size() == requests; }));
-            expectNoOverlay();
-            expect(nothing, {});
-        }
-        if (&fault.checkout == &dialog) {
+        std::make_unique<CheckoutWorkerFactory>("CL", 41052, Authorization{"jwt", "idp"}, gateway),
+        std::make_unique<CheckoutConfigurator>(), host);
+    forEachFault({Call::checkout}, [&](const Fault& fault) {
+        ASSERT_TRUE(present(checkout.create(), stage->stack()));
+        if (fault.checkout == dialog) {
             expect(dialog, {"screen Error"});
-            server.setContext(authority.serverContext(starter.domainUrl()));
-            script(Answer::complete(200, checkoutJson));
-            stage.click("Actualizar");
+            server.setContext(authority.serverContext(gateway));
+            scriptGood({Call::checkout});
+            stage->click(retry);
         }
-        if (&fault.checkout != &nothing) {
+        if (fault.checkout == nothing) {
+            expect(nothing, {});
+        } else {
             expect(result, {"screen Feedback de produtos"});
-            expectNoOverlay();
         }
-        stage.popAll();
     });
 }
 
