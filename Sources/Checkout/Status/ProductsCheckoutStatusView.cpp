@@ -2,6 +2,8 @@
 
 #include "Resources/Localization.hpp"
 
+#include <QScopedValueRollback>
+
 #include <utility>
 
 namespace quillet {
@@ -30,7 +32,9 @@ Button ProductsCheckoutStatusView::goToCartButton() const {
 }
 
 void ProductsCheckoutStatusView::tapGoToCart() {
-    if (const auto delegate = delegate_.lock()) {
+    // The host may run an event loop when it hears of the tap, and a second one would open the cart twice.
+    if (const auto delegate = delegate_.lock(); delegate && !isTapped_) {
+        const QScopedValueRollback tapped(isTapped_, true);
         delegate->didTapGoToCartButton();
     }
 }

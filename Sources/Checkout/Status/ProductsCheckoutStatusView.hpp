@@ -69,6 +69,7 @@ private:
     // design system.
     std::unique_ptr<Spacing> spacing_;
     std::unique_ptr<Sizing> sizing_;
+    bool isTapped_ = false;
 };
 
 } // namespace quillet

@@ -1,5 +1,7 @@
 #include "SaleSummary/Screen/SaleSummaryView.hpp"
 
+#include <QScopedValueRollback>
+
 #include <utility>
 
 namespace quillet {
@@ -25,7 +27,9 @@ Button SaleSummaryView::sendProductsButton() const {
 }
 
 void SaleSummaryView::tapSendProducts() {
-    if (const auto delegate = delegate_.lock()) {
+    // The host may run an event loop when it hears of the tap, and a second one would send the products twice.
+    if (const auto delegate = delegate_.lock(); delegate && !isTapped_) {
+        const QScopedValueRollback tapped(isTapped_, true);
         delegate->didTapButton();
     }
 }

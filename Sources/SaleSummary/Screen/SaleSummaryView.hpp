@@ -50,6 +50,7 @@ private:
     SaleSummaryPresenter presenter_;
     SaleSummaryHeaderView headerView_;
     HighlightedOrderView highlightedOrderView_;
+    bool isTapped_ = false;
 };
 
 /// Builds the summary content.
