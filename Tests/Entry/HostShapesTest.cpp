@@ -4,8 +4,6 @@ namespace quillet::testing {
 
 namespace {
 
-using ::testing::IsEmpty;
-
 /// A window with `bars` in it, and around the stack what the host has there. Where a tap is to reach a bar
 /// this counts it.
 std::string windowOf(const std::string& bars, const std::string& around) {
@@ -77,6 +75,7 @@ std::vector<Shape> shapes() {
 
 struct CoveredShapes : ModuleTest, ::testing::WithParamInterface<Shape> {};
 struct HostShapes : ModuleTest {};
+struct TwoModules : ModuleTest, ::testing::WithParamInterface<bool> {};
 
 const std::string sideBySide = windowOf(barAbove, R"(
         RowLayout {
@@ -112,62 +111,65 @@ TEST_P(CoveredShapes, AreCoveredAsFarAsTheModuleReaches) {
 INSTANTIATE_TEST_SUITE_P(All, CoveredShapes, ::testing::ValuesIn(shapes()),
                          [](const auto& instance) { return std::string(instance.param.name); });
 
-TEST_F(HostShapes, KeepTwoModulesApart) {
+TEST_P(TwoModules, AreApart) {
     backend->script(Call::associate, {Reply::never(), Reply::sample(Call::associate)});
-    Stage stage(sideBySide.c_str());
-    stage.window().setWidth(800);
-    QQuickItem& right = *stage.window().property("right").value<QQuickItem*>();
-    ASSERT_TRUE(open(stage.stack()));
-    ASSERT_TRUE(open(right));
-    ASSERT_TRUE(showSummary(stage));
-    ASSERT_TRUE(isUnder(stage.item(send), right));
-    right.forceActiveFocus();
+    Stage left(GetParam() ? nullptr : sideBySide.c_str());
+    std::unique_ptr<Stage> other = GetParam() ? std::make_unique<Stage>() : nullptr;
+    Stage& right = other ? *other : left;
+    QQuickItem& stack = other ? other->stack() : *left.window().property("right").value<QQuickItem*>();
+    left.window().setWidth(800);
+    ASSERT_TRUE(open(left.stack()));
+    ASSERT_TRUE(open(stack));
+    right.window().requestActivate();
+    ASSERT_TRUE(turnUntil([&] { return right.window().isActive(); }) && showSummary(right));
+    ASSERT_TRUE(isUnder(right.item(send), stack));
+    stack.forceActiveFocus();
 
     // The left one still waits; the right one works by mouse, by key and for a screen reader.
-    ASSERT_TRUE(showResult(stage, right));
-    EXPECT_TRUE(isUnder(stage.item(someSent), right));
+    ASSERT_TRUE(showResult(right, stack));
+    EXPECT_TRUE(isUnder(right.item(someSent), stack));
+    left.clickBar();
+    right.clickBar();
+    EXPECT_EQ(right.barClicks() - left.barClicks(), other ? 1 : 0);
     log->clear();
-    stage.pressByScreenReader("Ir al carrito");
+    right.pressByScreenReader("Ir al carrito");
     EXPECT_THAT(*log, ::testing::Contains("navigateToCart"));
 
     // Its end puts an outcome on the left, and leaves the right one its focus.
-    EXPECT_TRUE(isUnder(stage.focus(), right) || stage.focus() == &right);
+    const QQuickItem* const focus = right.focus();
+    EXPECT_TRUE(focus && (other || isUnder(focus, stack)));
     backend->clock()->advance(std::chrono::seconds(60));
-    ASSERT_TRUE(turnUntil([&] {
-        return isUnder(stage.item("Lo sentimos, pero esta información ya no está disponible."),
-                       stage.stack());
-    }));
-    EXPECT_TRUE(isUnder(stage.focus(), right) || stage.focus() == &right);
+    const QString outcome = "Lo sentimos, pero esta información ya no está disponible.";
+    ASSERT_TRUE(turnUntil([&] { return isUnder(left.item(outcome), left.stack()); }));
+    EXPECT_EQ(right.focus(), focus);
+    other.reset();
+    log->clear();
+    left.click("Volver");
+    EXPECT_THAT(*log, ::testing::ElementsAre("navigateToHome"));
 }
 
-TEST_F(HostShapes, HideAndShowAPageWithADialogThatKeepsTheKeys) {
-    backend->script(Call::checkout, {Reply{.status = 500}});
-    Stage stage;
-    ASSERT_TRUE(open(stage.stack()) && showSummary(stage));
-    stage.click(send);
-    ASSERT_TRUE(turnUntil([&] { return stage.shows("dialogCloseIcon"); }));
-    stage.stack().parentItem()->setVisible(false);
-    EXPECT_FALSE(stage.shows("dialogCloseIcon"));
-    stage.stack().parentItem()->setVisible(true);
-    log->clear();
-    stage.key(Qt::Key_Escape);
-    EXPECT_TRUE(turnUntil([&] { return std::ranges::count(*log, "navigateToHome") == 1; }));
-}
+INSTANTIATE_TEST_SUITE_P(, TwoModules, ::testing::Bool(),
+                         [](const auto& instance) { return instance.param ? "InTwoWindows" : "SideBySide"; });
 
-TEST_F(HostShapes, GetTheKeysBackOnlyWhereTheyAreSeen) {
+TEST_F(HostShapes, GiveTheKeysToADialogThatWasHiddenAndGetThemBackOnlyWhereTheyAreSeen) {
     backend->script(Call::checkout, {Reply{.status = 500}});
-    Stage stage;
-    ASSERT_TRUE(open(stage.stack()) && showSummary(stage));
-    // The focus stays behind on the button of the page that the checkout covers.
-    stage.item(send)->forceActiveFocus();
-    stage.key(Qt::Key_Return);
-    ASSERT_TRUE(turnUntil([&] { return stage.shows("dialogCloseIcon") && !stage.shows(send); }));
-    stage.key(Qt::Key_Escape);
-    ASSERT_TRUE(turnUntil([&] { return !stage.shows("dialogCloseIcon"); }));
-    log->clear();
-    stage.key(Qt::Key_Return);
-    EXPECT_THAT(*log, IsEmpty());
-    EXPECT_TRUE(!stage.focus() || stage.focus()->isVisible());
+    for (const bool hidesThePage : {false, true}) {
+        Stage stage;
+        ASSERT_TRUE(open(stage.stack()) && showSummary(stage));
+        // The focus stays behind on the button of the page that the checkout covers.
+        stage.item(send)->forceActiveFocus();
+        stage.key(Qt::Key_Return);
+        ASSERT_TRUE(turnUntil([&] { return stage.shows("dialogCloseIcon") && !stage.shows(send); }));
+        stage.stack().parentItem()->setVisible(!hidesThePage);
+        EXPECT_EQ(stage.shows("dialogCloseIcon"), !hidesThePage);
+        stage.stack().parentItem()->setVisible(true);
+        log->clear();
+        stage.key(Qt::Key_Escape);
+        ASSERT_TRUE(turnUntil([&] { return !log->empty() && !stage.shows("dialogCloseIcon"); }));
+        stage.key(Qt::Key_Return);
+        EXPECT_THAT(*log, ::testing::ElementsAre("navigateToHome"));
+        EXPECT_TRUE(!stage.focus() || stage.focus()->isVisible());
+    }
 }
 
 } // namespace quillet::testing

@@ -1,5 +1,5 @@
-#include "Support/ModuleOnStage.hpp"
 #include "Support/Thorough.hpp"
+#include "Targets.hpp"
 
 #include <numeric>
 #include <ranges>
@@ -8,24 +8,8 @@ namespace quillet::testing {
 
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
-using Lines = std::vector<std::string>;
-
-const auto background = "dialogBackground";
-
-/// Something that can be tapped, and all that comes of it.
-struct Target {
-    const char* name;
-    std::vector<std::pair<Call, std::deque<Reply>>> replies;
-    std::vector<QString> clicks;
-    QString tapped;
-    Lines lines;
-    std::size_t requests;
-    /// Whether every tap counts, each with the next line.
-    bool isSwitch = false;
-};
 
 /// Taps that follow each other; of those in a group no time passes between them.
 struct Rhythm {
@@ -36,69 +20,12 @@ struct Rhythm {
 
 const std::vector<Rhythm> rhythms{{{2, 1}}, {{1}, true}, {{1}}, {{2}}, {{3}}, {{1, 1}}};
 
-struct Taps : ModuleOnStage {
-    // High enough for all of a result.
-    Taps() { stage->window().resize(390, 1400); }
-
-    std::vector<Target> targets() {
-        // A second try is not answered.
-        const std::pair fails(Call::checkout, std::deque{Reply{.status = 500}, Reply::never()});
-        const std::pair timesOut(Call::associate, std::deque{Reply{.status = 504}, Reply::never()});
-        const std::pair isGone(Call::associate, std::deque{Reply{.status = 500}});
-        const std::string home = "navigateToHome";
-        const auto registered = [](const char* label) { return event("Register Order", label); };
-        const auto orders = [](const char* label) { return event("My Clients Orders", label); };
-        return {
-            {"orders", {}, {}, viewOrders, {registered("View Orders")}, 2},
-            {"orders, closed", {}, {}, closeIcon, {registered("Close")}, 2},
-            {"orders, beside", {}, {}, background, {}, 2},
-            {"time-out", {timesOut}, {}, retry, {}, 3},
-            {"gone", {isGone}, {}, "Volver", {home}, 2},
-            {"send",
-             {},
-             {viewOrders},
-             send,
-             {orders("Send Orders to Cart - Click"), "screen Feedback de produtos"},
-             3},
-            {"failure", {fails}, {viewOrders, send}, retry, {}, 4},
-            {"failure, closed", {fails}, {viewOrders, send}, closeIcon, {home}, 3},
-            {"failure, beside", {fails}, {viewOrders, send}, background, {home}, 3},
-            {"cart", {}, {viewOrders, send}, goToCart, {orders("Go to Cart"), "navigateToCart"}, 3},
-            {"section",
-             {},
-             {viewOrders, send},
-             "Productos enviados",
-             {orders("Products Sent - Hide"), orders("Products Sent - Expand"),
-              orders("Products Sent - Hide")},
-             3,
-             true},
-        };
-    }
-
-    void reach(const Target& target) {
-        backend = ScriptedBackend::install();
-        for (const auto& [call, reply] : target.replies) {
-            backend->script(call, reply);
-        }
-        stage->popAll();
-        // On the bar, or the next touch might be taken for the end of a double one with the last.
-        stage->touchAt({200, 32});
-        open();
-        clickThrough(target.clicks);
-        ASSERT_TRUE(comesToShow(target.tapped)) << target.tapped.toStdString();
-        log->clear();
-    }
-
-    /// Of a dialog's background the middle lies under its card.
-    [[nodiscard]] QPointF place(const QString& tapped) const {
-        return tapped == background ? QPointF(5, 5) : stage->middle(tapped);
-    }
-
+struct Taps : AtTargets {
     void tap(const Target& target, const Rhythm& rhythm, bool byFinger) {
         const QPointF point = place(target.tapped);
         for (const int taps : rhythm.groups) {
             stage->tapRepeatedly(point, taps, byFinger);
-            for (const QString& other : {viewOrders, retry, closeIcon, QString(background)}) {
+            for (const QString& other : {viewOrders, retry, closeIcon, background}) {
                 if (rhythm.isElsewhereToo && stage->shows(closeIcon) && stage->shows(other)) {
                     stage->tapRepeatedly(place(other), 1, byFinger);
                 }
@@ -134,7 +61,7 @@ TEST_P(TapsBy, HaveOneEffectHoweverFastTheyFollow) {
                          (rhythm.isElsewhereToo ? " and elsewhere" : ""));
             ASSERT_NO_FATAL_FAILURE(reach(target));
             tap(target, rhythm, GetParam());
-            Lines lines = target.lines;
+            auto lines = target.lines;
             if (target.isSwitch) {
                 lines.resize(std::accumulate(rhythm.groups.begin(), rhythm.groups.end(), 0u));
             }
@@ -171,17 +98,16 @@ INSTANTIATE_TEST_SUITE_P(, TapsBy, ::testing::Bool(),
                          [](const auto& parameter) { return parameter.param ? "Finger" : "Mouse"; });
 
 TEST_F(Taps, HaveOneEffectByKeyByScreenReaderAndByAPressThatSlidesOff) {
-    const auto use = [&](const QString& name, const std::function<void()>& way) {
-        const auto all = targets();
-        const auto target = std::ranges::find(all, name, &Target::name);
-        ASSERT_NO_FATAL_FAILURE(reach(*target));
-        SCOPED_TRACE(target->name);
+    const auto use = [&](const std::string& name, const std::function<void()>& way) {
+        SCOPED_TRACE(name);
+        const Target goal = target(name);
+        ASSERT_NO_FATAL_FAILURE(reach(goal));
         const int barClicks = stage->barClicks();
         way();
         animateFor(std::chrono::milliseconds(800));
         EXPECT_EQ(stage->barClicks(), barClicks);
-        EXPECT_THAT(*log, ElementsAreArray(target->lines));
-        EXPECT_EQ(backend->requests().size(), target->requests);
+        EXPECT_THAT(*log, ElementsAreArray(goal.lines));
+        EXPECT_EQ(backend->requests().size(), goal.requests);
     };
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
         use("failure", [&] { stage->key(key), stage->repeatKey(key); });
