@@ -25,25 +25,15 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// The state of a wake-up that runs while the application ends.
-struct WakeUp {
-    std::promise<void> begun;
-    std::promise<void> dispatcherGone;
-    std::promise<bool> outlivedTheDispatcher;
-};
-
 /// An event dispatcher without sources, whose wake-up from another thread is slow.
 class SlowDispatcher final : public QAbstractEventDispatcher {
 public:
-    explicit SlowDispatcher(WakeUp& wakeUp) : wakeUp_(wakeUp) {}
-    ~SlowDispatcher() override { wakeUp_.dispatcherGone.set_value(); }
+    ~SlowDispatcher() override { dispatcherGone.set_value(); }
 
     void wakeUp() override {
         if (std::this_thread::get_id() != main_) {
-            WakeUp& seen = wakeUp_;
-            seen.begun.set_value();
-            const bool gone = seen.dispatcherGone.get_future().wait_for(200ms) == std::future_status::ready;
-            seen.outlivedTheDispatcher.set_value(gone);
+            wakeUpBegun.set_value();
+            isOutlived = dispatcherGone.get_future().wait_for(200ms) == std::future_status::ready;
         }
     }
     bool processEvents(QEventLoop::ProcessEventsFlags) override { return false; }
@@ -56,8 +46,12 @@ public:
     [[nodiscard]] QList<TimerInfo> registeredTimers(QObject*) const override { return {}; }
     int remainingTime(int) override { return 0; }
 
+    // They outlive the dispatcher, as a wake-up might.
+    inline static std::promise<void> wakeUpBegun;
+    inline static std::promise<void> dispatcherGone;
+    inline static bool isOutlived = true;
+
 private:
-    WakeUp& wakeUp_;
     std::thread::id main_ = std::this_thread::get_id();
 };
 
@@ -78,9 +72,9 @@ struct Module final : ModuleOnStage {
     void reach(Step step) {
         const SilentPort silence;
         if (step == Step::underWayOverTheNetwork) {
+            const std::string gateway = Starter::create("", "", {}, nullptr)->domainUrl();
             platform::URLSessionConfiguration::setDefaultConfiguration(
-                {.hostMappings = {
-                     {Starter::create("", "", {}, nullptr)->domainUrl(), "127.0.0.1", silence.port()}}});
+                {.hostMappings = {{gateway, "127.0.0.1", silence.port()}}});
         } else if (step < Step::delivered) {
             backend->script(Call::associate, {Reply{.after = 5s}});
         }
@@ -131,15 +125,15 @@ struct Module final : ModuleOnStage {
 } // namespace
 
 TEST(ApplicationEnd, WaitsForTheThreadThatWakesItAndLeavesTheRestToTheNextApplication) {
-    WakeUp wakeUp;
-    QCoreApplication::setEventDispatcher(new SlowDispatcher(wakeUp));
+    QCoreApplication::setEventDispatcher(new SlowDispatcher);
     auto application = makeApplication<QCoreApplication>();
     platform::pumpMainQueue();
     int ran = 0;
     std::jthread session([&] { platform::mainQueue().async([&] { ++ran; }); });
-    wakeUp.begun.get_future().wait();
+    SlowDispatcher::wakeUpBegun.get_future().wait();
     application.reset();
-    EXPECT_FALSE(wakeUp.outlivedTheDispatcher.get_future().get());
+    session.join();
+    EXPECT_FALSE(SlowDispatcher::isOutlived);
 
     platform::mainQueue().async([&] { ++ran; });
     EXPECT_EQ(ran, 0);
