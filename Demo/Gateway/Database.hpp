@@ -55,8 +55,7 @@ private:
 };
 
 /// One connection to the database file, for one thread at a time. Other connections may be open to the same
-/// file, also in other processes; it waits up to a second and a half for a
-/// lock.
+/// file, also in other processes; it waits up to a second and a half for a lock.
 class Database {
 public:
     /// Opens the file, making it if there is none. Throws `DatabaseError`.
