@@ -1,6 +1,8 @@
 #include "Support/Thorough.hpp"
 #include "Targets.hpp"
 
+#include <QTimer>
+
 #include <ranges>
 #include <utility>
 
@@ -77,6 +79,11 @@ TEST_F(Callbacks, MayDoWithTheModuleWhatTheyLike) {
              }
          }},
         {"runs an event loop", [&] { animateFor(std::chrono::milliseconds(100)); }},
+        {"removes the module within an event loop",
+         [&] {
+             QTimer::singleShot(0, &stage->window(), [&] { stage->popAll(); });
+             animateFor(std::chrono::milliseconds(100));
+         }},
     };
     // Not from within the host's own call of present(), during which a StackView takes no other.
     auto all = targets();

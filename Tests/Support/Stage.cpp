@@ -74,6 +74,11 @@ QQuickItem* find(QQuickItem& root, const QString& name) {
     return nullptr;
 }
 
+// A button acts once the event is over.
+void finishEvent() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+}
+
 } // namespace
 
 bool turnUntil(const std::function<bool()>& condition) {
@@ -165,6 +170,7 @@ void Stage::clickAt(QPointF point) {
 void Stage::touchAt(QPointF point) {
     QTest::touchEvent(window_.get(), &fingers()).press(0, point.toPoint());
     QTest::touchEvent(window_.get(), &fingers()).release(0, point.toPoint());
+    finishEvent();
 }
 
 void Stage::tapRepeatedly(QPointF point, int times, bool byFinger) {
@@ -197,10 +203,12 @@ void Stage::pressByScreenReader(const QString& textOrName) {
     QAccessible::queryAccessibleInterface(item(textOrName))
         ->actionInterface()
         ->doAction(QAccessibleActionInterface::pressAction());
+    finishEvent();
 }
 
 void Stage::key(Qt::Key key) {
     QTest::keyClick(window_.get(), key);
+    finishEvent();
 }
 
 void Stage::repeatKey(Qt::Key key) {
@@ -225,6 +233,7 @@ void Stage::mouse(QEvent::Type type, QPointF point) {
     const auto changed = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     QMouseEvent event(type, point, point, window_->mapToGlobal(point), changed, held, {});
     QCoreApplication::sendEvent(window_.get(), &event);
+    finishEvent();
 }
 
 } // namespace quillet::testing

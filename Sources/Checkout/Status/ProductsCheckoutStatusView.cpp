@@ -2,8 +2,6 @@
 
 #include "Resources/Localization.hpp"
 
-#include <QScopedValueRollback>
-
 #include <utility>
 
 namespace quillet {
@@ -32,11 +30,11 @@ Button ProductsCheckoutStatusView::goToCartButton() const {
 }
 
 void ProductsCheckoutStatusView::tapGoToCart() {
-    // The host may run an event loop when it hears of the tap, and a second one would open the cart twice.
-    if (const auto delegate = delegate_.lock(); delegate && !isTapped_) {
-        const QScopedValueRollback tapped(isTapped_, true);
-        delegate->didTapGoToCartButton();
-    }
+    goToCart_.tap(*this, [delegate = delegate_] {
+        if (const auto here = delegate.lock()) {
+            here->didTapGoToCartButton();
+        }
+    });
 }
 
 } // namespace quillet

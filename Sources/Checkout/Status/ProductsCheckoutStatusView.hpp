@@ -2,6 +2,7 @@
 
 #include "Checkout/Status/ProductsHeaderView.hpp"
 #include "Checkout/Status/ShippingStatusProductsView.hpp"
+#include "Platform/Screens/QueuedTap.hpp"
 #include "Views/Labels/CycleLabel.hpp"
 #include "Views/Labels/PointsLabel.hpp"
 #include "Views/Labels/RememberLabel.hpp"
@@ -69,7 +70,7 @@ private:
     // design system.
     std::unique_ptr<Spacing> spacing_;
     std::unique_ptr<Sizing> sizing_;
-    bool isTapped_ = false;
+    platform::QueuedTap goToCart_;
 };
 
 } // namespace quillet

@@ -148,9 +148,15 @@ void ShippingStatusProductsView::toggle(int row, int rowsInView) {
     }
     const int head = headOf(section);
     Q_EMIT dataChanged(index(head), index(head + section.shown), {ExpandedRole, LastRole, MovingRole});
-    if (const auto delegate = delegate_.lock()) {
-        ((*delegate).*(expands ? section.didExpand : section.didHide))();
-    }
+    // The host hears of it, which may pop the page, and not while a handler of the page's runs.
+    QMetaObject::invokeMethod(
+        this,
+        [delegate = delegate_, notice = expands ? section.didExpand : section.didHide] {
+            if (const auto here = delegate.lock()) {
+                ((*here).*notice)();
+            }
+        },
+        Qt::QueuedConnection);
     if (moves) {
         move(section);
     }

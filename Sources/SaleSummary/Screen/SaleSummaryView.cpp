@@ -1,7 +1,5 @@
 #include "SaleSummary/Screen/SaleSummaryView.hpp"
 
-#include <QScopedValueRollback>
-
 #include <utility>
 
 namespace quillet {
@@ -27,11 +25,11 @@ Button SaleSummaryView::sendProductsButton() const {
 }
 
 void SaleSummaryView::tapSendProducts() {
-    // The host may run an event loop when it hears of the tap, and a second one would send the products twice.
-    if (const auto delegate = delegate_.lock(); delegate && !isTapped_) {
-        const QScopedValueRollback tapped(isTapped_, true);
-        delegate->didTapButton();
-    }
+    send_.tap(*this, [delegate = delegate_] {
+        if (const auto here = delegate.lock()) {
+            here->didTapButton();
+        }
+    });
 }
 
 } // namespace quillet

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/Screens/QueuedTap.hpp"
 #include "SaleSummary/Screen/HighlightedOrderView.hpp"
 #include "SaleSummary/Screen/SaleSummaryHeaderView.hpp"
 #include "SaleSummary/Screen/SaleSummaryScreen.hpp"
@@ -50,7 +51,7 @@ private:
     SaleSummaryPresenter presenter_;
     SaleSummaryHeaderView headerView_;
     HighlightedOrderView highlightedOrderView_;
-    bool isTapped_ = false;
+    platform::QueuedTap send_;
 };
 
 /// Builds the summary content.

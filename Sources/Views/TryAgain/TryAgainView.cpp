@@ -33,7 +33,7 @@ void TryAgainView::tap() {
     const bool isNew = !sinceLastTap_.isValid() || sinceLastTap_.hasExpired(interval);
     sinceLastTap_.start();
     if (isNew) {
-        didTapButton_();
+        again_.tap(*this, didTapButton_);
     }
 }
 

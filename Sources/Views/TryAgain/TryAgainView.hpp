@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/Screens/QueuedTap.hpp"
 #include "Views/Tokens/ButtonCreating.hpp"
 #include "Views/Tokens/Coloring.hpp"
 #include "Views/Tokens/Sizing.hpp"
@@ -72,6 +73,7 @@ private:
     TryAgainPresenter presenter_;
     std::function<void()> didTapButton_;
     QElapsedTimer sinceLastTap_;
+    platform::QueuedTap again_;
 };
 
 /// Makes try-again views.
