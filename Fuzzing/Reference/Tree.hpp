@@ -17,6 +17,8 @@
 
 namespace quillet::fuzzing {
 
+using platform::DecodingError;
+
 /// A body as another parser reads it: all members, in their order, and numbers as texts.
 struct Tree {
     enum class Kind { null, no, yes, number, text, list, object };
@@ -86,60 +88,21 @@ private:
     std::string key_;
 };
 
+/// What stands in the tree as a value of one of the types without members.
 template <typename T>
-std::optional<T> fromTree(const Tree& tree);
-
-/// Reads a member of a record; of several with its key the first. False if that is not possible.
-template <typename T>
-bool readMember(const Tree& tree, std::string_view key, T& value) {
-    const auto found = std::ranges::find(tree.members, key, &Tree::key);
-    const bool there = found != tree.members.end();
-    if (!there) {
-        return platform::json::isOptional<T>;
-    }
-    auto read = fromTree<T>(*found);
-    if (read) {
-        value = *std::move(read);
-    }
-    return read.has_value();
-}
-
-/// What the decoder has to make of the tree; nothing if it has to refuse it.
-template <typename T>
-std::optional<T> fromTree(const Tree& tree) {
-    const auto number = tree.kind == Tree::Kind::number ? paperNumber(tree.text) : std::nullopt;
+std::optional<T> valueOf(const Tree& tree) {
     if constexpr (std::same_as<T, bool>) {
         const bool either = tree.kind == Tree::Kind::yes || tree.kind == Tree::Kind::no;
         return either ? std::optional(tree.kind == Tree::Kind::yes) : std::nullopt;
-    } else if constexpr (std::integral<T>) {
-        return number ? whole<T>(*number) : std::nullopt;
-    } else if constexpr (std::same_as<T, platform::Decimal>) {
-        const auto shorter = number ? rounded(*number, T::maximumDigits) : PaperNumber();
-        const bool fits = number && std::abs(shorter.exponent) <= T::maximumExponent;
-        return fits ? T::parse(shorter.text()) : std::nullopt;
-    } else if constexpr (platform::json::isOptional<T>) {
-        T read = fromTree<typename T::value_type>(tree);
-        const bool good = read || tree.kind == Tree::Kind::null;
-        return good ? std::optional<T>(std::move(read)) : std::nullopt;
-    } else if constexpr (platform::json::isList<T>) {
-        T list;
-        for (const Tree& element : tree.members) {
-            auto read = fromTree<typename T::value_type>(element);
-            if (!read) {
-                return std::nullopt;
-            }
-            list.push_back(*std::move(read));
+    } else if constexpr (std::integral<T> || std::same_as<T, platform::Decimal>) {
+        const auto number = tree.kind == Tree::Kind::number ? paperNumber(tree.text) : std::nullopt;
+        if constexpr (std::integral<T>) {
+            return number ? whole<T>(*number) : std::nullopt;
+        } else {
+            const auto shorter = number ? rounded(*number, T::maximumDigits) : PaperNumber();
+            const bool fits = number && std::abs(shorter.exponent) <= T::maximumExponent;
+            return fits ? T::parse(shorter.text()) : std::nullopt;
         }
-        return tree.kind == Tree::Kind::list ? std::optional(std::move(list)) : std::nullopt;
-    } else if constexpr (std::tuple_size_v<std::remove_cvref_t<decltype(platform::jsonFields<T>)>> > 0) {
-        T record;
-        const bool read = tree.kind == Tree::Kind::object &&
-                          std::apply(
-                              [&](const auto&... field) {
-                                  return (readMember(tree, field.key, record.*field.member) && ...);
-                              },
-                              platform::jsonFields<T>);
-        return read ? std::optional(std::move(record)) : std::nullopt;
     } else if (tree.kind != Tree::Kind::text) {
         return std::nullopt;
     } else if constexpr (std::same_as<T, Date>) {
@@ -151,9 +114,52 @@ std::optional<T> fromTree(const Tree& tree) {
     }
 }
 
+/// What the decoder has to make of the tree. Throws the error of the first field in the order of the tables
+/// that cannot hold what stands there; of several members with its key the first counts.
+template <typename T>
+T fromTree(const Tree& tree, const std::string& path = "") {
+    const auto require = [&](bool holds) {
+        if (!holds) {
+            throw DecodingError{DecodingError::Reason::unexpectedValue, path,
+                                std::string(platform::json::expectedOf<T>())};
+        }
+    };
+    if constexpr (platform::json::isOptional<T>) {
+        return tree.kind == Tree::Kind::null ? T() : T(fromTree<typename T::value_type>(tree, path));
+    } else if constexpr (platform::json::isList<T>) {
+        require(tree.kind == Tree::Kind::list);
+        T list;
+        for (const Tree& element : tree.members) {
+            const std::string place = path + "[" + std::to_string(list.size()) + "]";
+            list.push_back(fromTree<typename T::value_type>(element, place));
+        }
+        return list;
+    } else if constexpr (std::tuple_size_v<std::remove_cvref_t<decltype(platform::jsonFields<T>)>> > 0) {
+        require(tree.kind == Tree::Kind::object);
+        T record;
+        const auto read = [&]<typename Value>(const std::string& key, Value& value) {
+            const std::string place = path + (path.empty() ? "" : ".") + key;
+            const auto found = std::ranges::find(tree.members, key, &Tree::key);
+            if (found != tree.members.end()) {
+                value = fromTree<Value>(*found, place);
+            } else if (!platform::json::isOptional<Value>) {
+                throw DecodingError{DecodingError::Reason::missingKey, place,
+                                    std::string(platform::json::expectedOf<Value>())};
+            }
+        };
+        std::apply([&](const auto&... field) { (read(std::string(field.key), record.*field.member), ...); },
+                   platform::jsonFields<T>);
+        return record;
+    } else {
+        auto value = valueOf<T>(tree);
+        require(value.has_value());
+        return *std::move(value);
+    }
+}
+
 /// What is wrong with how `body` was decoded, by what the other parser makes of it; null if nothing is.
 template <typename T>
-const char* disagreement(const std::string& body, const std::expected<T, platform::DecodingError>& decoded) {
+const char* disagreement(const std::string& body, const std::expected<T, DecodingError>& decoded) {
     TreeBuilder builder;
     bool valid = nlohmann::json::sax_parse(body, &builder);
     // What the other parser takes and JSON does not allow: a byte-order mark, and a NUL for the end. And our
@@ -164,14 +170,18 @@ const char* disagreement(const std::string& body, const std::expected<T, platfor
     } else if (builder.numberTooLarge) {
         return nullptr;
     }
-    if (valid != (decoded || decoded.error() != platform::DecodingError())) {
+    if (valid != (decoded || decoded.error() != DecodingError())) {
         return valid ? "JSON is refused" : "what is no JSON is taken";
     }
-    const auto expected = valid ? fromTree<T>(builder.tree) : std::nullopt;
-    if (decoded.has_value() != expected.has_value()) {
-        return decoded ? "a value is taken that its field cannot hold" : "a value is refused";
+    std::expected<T, DecodingError> expected = std::unexpected(DecodingError());
+    try {
+        if (valid) {
+            expected = fromTree<T>(builder.tree);
+        }
+    } catch (const DecodingError& error) {
+        expected = std::unexpected(error);
     }
-    return !decoded || *decoded == *expected ? nullptr : "another value is read";
+    return decoded == expected ? nullptr : "another value is read, or another error is told";
 }
 
 } // namespace quillet::fuzzing

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Fuzzing/Reference/Tree.hpp"
 #include "Platform/Json/Decoder.hpp"
 
 #include <gtest/gtest.h>
@@ -32,6 +33,12 @@ std::expected<Record, platform::DecodingError> decodeInWindows(const std::string
             << body << " in windows of " << window;
     }
     return decoded;
+}
+
+/// Expects that the body is read, or refused with an error, as another parser makes it by the field tables.
+template <typename Record>
+void expectAgreement(const std::string& body) {
+    ASSERT_STREQ(fuzzing::disagreement(body, decodeInWindows<Record>(body)), nullptr) << body;
 }
 
 } // namespace quillet::tests
