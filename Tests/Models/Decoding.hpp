@@ -5,9 +5,10 @@
 
 #include <gtest/gtest.h>
 
-#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,11 @@ struct Some {
 
     bool operator==(const Some&) const = default;
 };
+
+inline std::vector<std::string> words(const std::string& text) {
+    std::istringstream stream(text);
+    return {std::istream_iterator<std::string>(stream), {}};
+}
 
 /// Decodes the body, also in windows of several sizes, of which the smallest end at each comma, and expects
 /// the same of all.

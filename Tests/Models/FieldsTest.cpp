@@ -4,50 +4,22 @@
 
 #include <nlohmann/json.hpp>
 
+#include <set>
+
 namespace quillet::tests {
 
 using Json = nlohmann::ordered_json;
 
-// Values of each kind and at the bounds of each, then texts that are no JSON.
-const std::string values[] = {"null",
-                              "{}",
-                              R"({"a":[[]]})",
-                              "[]",
-                              "[7]",
-                              "true",
-                              "false",
-                              R"("text")",
-                              R"("7")",
-                              R"("")",
-                              "0",
-                              "-0",
-                              "1.0",
-                              "1e2",
-                              "2.5",
-                              "-1",
-                              "9007199254740991",
-                              "9007199254740993",
-                              "9223372036854775807",
-                              "9223372036854775808",
-                              "-9223372036854775808",
-                              "-9223372036854775809",
-                              "18446744073709551615",
-                              "18446744073709551616",
-                              "1.00000000000000000000000000000000000000000000000001",
-                              "02",
-                              "-02",
-                              "00.5",
-                              "2 2",
-                              "2x",
-                              "+2",
-                              "tru",
-                              "\"a\n\"",
-                              "\"\\x\"",
-                              "\"\\ud800\"",
-                              "\"\xff\"",
-                              "[2,]",
-                              "{\"a\":}",
-                              ""};
+/// Values of each kind and at the bounds of each, then texts that are no JSON.
+std::vector<std::string> values() {
+    auto all = words(
+        R"(null {} {"a":[[]]} [] [7] true false "text" "7" "" 0 -0 1.0 1e2 2.5 -1 9007199254740991 9007199254740993
+        9223372036854775807 9223372036854775808 -9223372036854775808 -9223372036854775809 18446744073709551615
+        18446744073709551616 1.00000000000000000000000000000000000000000000000001
+        02 -02 00.5 2x +2 tru "\x" "\ud800" [2,] {"a":})");
+    all.insert(all.end(), {"2 2", "\"a\n\"", "\"\xff\"", ""});
+    return all;
+}
 
 /// Puts each value in the place of each member of a part of a body, and leaves the member out.
 template <typename Response>
@@ -59,15 +31,16 @@ std::size_t tryMembers(const Json& body, Json& part) {
         }
         Json own = std::exchange(member, "PLACE");
         const std::string text = body.dump();
+        std::set<std::string> bodies;
         if (part.is_object()) {
-            expectAgreement<Response>(replaced(text, '"' + key + R"(":"PLACE")", R"("":0)"));
-            ++cases;
+            bodies.insert(replaced(text, '"' + key + R"(":"PLACE")", R"("":0)"));
         }
-        for (const auto& value : values) {
-            expectAgreement<Response>(replaced(text, R"("PLACE")", value));
+        for (const auto& value : values()) {
+            bodies.insert(replaced(text, R"("PLACE")", value));
         }
+        std::ranges::for_each(bodies, expectAgreement<Response>);
         member = std::move(own);
-        cases += std::size(values) + (member.is_structured() ? tryMembers<Response>(body, member) : 0);
+        cases += bodies.size() + (member.is_structured() ? tryMembers<Response>(body, member) : 0);
     }
     return cases;
 }

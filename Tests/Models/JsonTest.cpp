@@ -3,9 +3,7 @@
 
 #include <gmock/gmock.h>
 
-#include <iterator>
 #include <random>
-#include <sstream>
 #include <vector>
 
 namespace quillet::tests {
@@ -18,11 +16,6 @@ std::string repeated(std::string_view text, std::size_t times) {
         all += text;
     }
     return all;
-}
-
-std::vector<std::string> words(const std::string& text) {
-    std::istringstream stream(text);
-    return {std::istream_iterator<std::string>(stream), {}};
 }
 
 /// Puts each value where nobody reads it, where it is read, and last: what stands within the last bytes is
