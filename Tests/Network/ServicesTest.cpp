@@ -1,6 +1,5 @@
 #include "Models/Bodies.hpp"
 #include "Network/SandboxedServices.hpp"
-#include "Support/FakeSession.hpp"
 #include "Support/Thorough.hpp"
 
 #include <gtest/gtest.h>
@@ -50,30 +49,47 @@ TEST(Services, SendExactlyTheseRequests) {
     }
 }
 
-TEST(Services, CompleteAtOnceWhenTheRequestCannotBeFormed) {
-    const auto session = std::make_shared<testing::FakeSession>();
-    const struct {
-        std::string host;
-        std::string cart;
-        std::string provider;
-        ServiceError error;
-    } cases[] = {
-        {"https://gateway.test", "cart", "provider", NetworkServiceError::invalidUrl},
-        {"gateway.test", "\xff", "provider", NetworkServiceError::invalidUrl},
-        {"gateway.test", "cart", "a\r\nX-Evil: 1", platform::EncodingError{"Authorization-Provider"}},
-    };
-    for (const auto& [host, cart, provider, error] : cases) {
-        Services services(session);
-        services.host = host;
-        services.authorization.provider = provider;
-        std::vector<OrderResult> results;
-        services.associate().associateConsultantToCart(cart, 1, [&](OrderResult r) { results.push_back(r); });
-        ASSERT_EQ(results.size(), 1u);
-        EXPECT_EQ(results[0].error, error);
-        EXPECT_EQ(results[0].httpStatusCode, 0);
-        EXPECT_FALSE(results[0].response);
+TEST(ServiceError, TellsItselfAndTheCodeOfAFailedExchange) {
+    using platform::URLError;
+    EXPECT_EQ(description(ServiceError(ClientError{"d", "Not/Found", -404, "/p"})),
+              "HTTP Code: -404\nNot/Found");
+    EXPECT_EQ(description(HttpErrorResponse{422, "inner", "Unprocessable"}),
+              "HTTP Code: 422\ninner\nUnprocessable");
+    EXPECT_EQ(platformErrorCode(URLError{URLError::Code::notConnectedToInternet, ""}), -1009);
+    EXPECT_EQ(platformErrorCode(HttpStatusCodeError{-1009}), std::nullopt);
+}
+
+TEST(URLRequestWrapper, JoinsASecondValueOfAHeaderAndRefusesOneThatWouldSplitTheRequest) {
+    const auto request = URLRequestFactory().create({});
+    EXPECT_TRUE(request->addValue("a", "Accept"));
+    EXPECT_TRUE(request->addValue("x\ty ñ", "Other"));
+    EXPECT_TRUE(request->addValue("b", "accept"));
+    for (const std::string value : {"a\r\nX-Evil: 1", "a\nb", "a\x7f"}) {
+        EXPECT_EQ(request->addValue(value, "Token"), std::unexpected(platform::EncodingError{"Token"}));
     }
-    EXPECT_TRUE(session->started.empty());
+    for (const std::string name : {"To ken", "Token\r\n", "Token:", ""}) {
+        EXPECT_EQ(request->addValue("a", name), std::unexpected(platform::EncodingError{"header name"}));
+    }
+    EXPECT_EQ(request->urlRequest().headerFields.all(),
+              (std::vector<platform::HTTPHeaderField>{{"Accept", "a,b"}, {"Other", "x\ty ñ"}}));
+}
+
+TEST(Services, CompleteAtOnceWhenTheRequestCannotBeFormed) {
+    testing::SandboxedSession sandbox;
+    Services services(sandbox.configuration);
+    const auto errorFor = [&](const std::string& cart) {
+        std::optional<OrderResult> result;
+        services.associate().associateConsultantToCart(cart, 1,
+                                                       [&](OrderResult r) { result = std::move(r); });
+        EXPECT_TRUE(result && !result->response && result->httpStatusCode == 0);
+        return result->error.value();
+    };
+    EXPECT_EQ(errorFor("\xff"), ServiceError(NetworkServiceError::invalidUrl));
+    services.authorization.provider = "a\r\nX-Evil: 1";
+    EXPECT_EQ(errorFor("cart"), ServiceError(platform::EncodingError{"Authorization-Provider"}));
+    services.host = "https://gateway.test";
+    EXPECT_EQ(errorFor("cart"), ServiceError(NetworkServiceError::invalidUrl));
+    EXPECT_EQ(sandbox.server.requests().size(), 0u);
 }
 
 TEST(Services, MakeAResultOfEveryStatusWithEveryBody) {
@@ -95,21 +111,15 @@ TEST(Services, MakeAResultOfEveryStatusWithEveryBody) {
          ofServer,
          ServerError{{{1, "inner", "e"}, 2, "ERROR_CART_ALREADY_SUBMITTED"}, 500, "/p"}},
     };
-    const std::string strangeBodies[] = {"",
-                                         "{",
-                                         "null",
-                                         "[]",
-                                         "<html><body>502 Bad Gateway</body></html>",
-                                         ofClient,
-                                         ofServer,
-                                         ofClient + "x",
-                                         tests::replaced(ofClient, R"(,"path":"/p")", ""),
-                                         tests::replaced(ofServer, R"(,"path":"/p")", "")};
+    std::vector<std::string> bodies = {"",       "{",     "null", "[]", "<html>502 Bad Gateway</html>",
+                                       ofClient, ofServer};
+    bodies.push_back(ofClient + "x");
+    bodies.push_back(tests::replaced(ofClient, R"(,"path":"/p")", ""));
+    bodies.push_back(tests::replaced(ofServer, R"(,"path":"/p")", ""));
+    bodies.insert(bodies.end(), {tests::orderJson, tests::openOrdersJson, tests::checkoutJson});
     std::size_t pair = 0;
     const auto expect = [&]<typename Result>(auto Result::*response, const std::string& goodBody, auto call) {
         testing::Recorder<Result> results;
-        std::vector<std::string> bodies(std::begin(strangeBodies), std::end(strangeBodies));
-        bodies.push_back(goodBody);
         for (const auto& [statuses, record, error] : kinds) {
             for (const int status : statuses) {
                 for (const auto& body : bodies) {

@@ -1,16 +1,15 @@
-#include "Platform/Http/URLSession.hpp"
+#include "Network/SessionTest.hpp"
 #include "Support/FailingAllocations.hpp"
-#include "Support/SandboxedSession.hpp"
 
 #include <gtest/gtest.h>
 
-namespace quillet {
+namespace quillet::testing {
 
 namespace {
 
 using namespace std::string_literals;
-using testing::Answer;
-using enum platform::URLError::Code;
+using enum Code;
+using enum Answer::Ending;
 
 const std::string ok = "HTTP/1.1 200 OK\r\n";
 const std::string gzip = "Content-Encoding: gzip\r\n";
@@ -23,89 +22,66 @@ const std::string unpacked(70'000, 'a');
 constexpr std::size_t limit = 16'777'216;
 const std::string header = "X-Header: " + std::string(54, 'x') + "\r\n";
 
-std::string repeated(std::size_t count, std::string_view text) {
-    if (text.size() == 1) {
-        return std::string(count, text[0]);
-    }
-    std::string all;
-    while (count-- > 0) {
-        all += text;
-    }
-    return all;
-}
-
-struct SessionFaults : ::testing::Test, testing::SandboxedSession {
-    const platform::URLSessionOutcome& exchange(const platform::URLSession& session, Answer answer,
-                                                std::optional<std::string> method = std::nullopt) {
-        const auto call = calls.count();
+struct SessionFaults : SessionTest {
+    const platform::URLSessionOutcome& answered(Answer answer, std::optional<std::string> method = {}) {
         server.enqueue(std::move(answer));
-        session
-            .dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = std::move(method)},
-                      calls.completion())
-            .resume();
-        return calls.wait(call);
+        return exchange(*session, {.url = toGateway, .httpMethod = std::move(method)});
     }
-    void expectRefusal(const platform::URLSession& session, Answer answer, platform::URLError::Code code,
-                       const std::string& method = "POST") {
+    void expectRefusal(Answer answer, Code code, const std::string& method = "POST") {
         const auto requests = server.requests().size();
-        const auto& outcome = exchange(session, std::move(answer), method);
+        const auto& outcome = answered(std::move(answer), method);
         ASSERT_TRUE(outcome.error);
         EXPECT_EQ(outcome.error->code, code) << outcome.error->message;
         EXPECT_NE(outcome.error->message, "");
-        EXPECT_FALSE(outcome.data);
-        EXPECT_FALSE(outcome.response);
+        EXPECT_FALSE(outcome.data || outcome.response);
         EXPECT_EQ(server.requests().size(), requests + 1);
     }
     /// Afterwards there is a connection that is kept.
-    void warmUp(const platform::URLSession& session) {
-        ASSERT_EQ(exchange(session, Answer::complete(200, "warm")).data, "warm");
-    }
+    void warmUp() { ASSERT_EQ(answered(Answer::complete(200, "warm")).data, "warm"); }
 
-    testing::CallRecorder calls;
+    std::unique_ptr<platform::URLSession> session = std::make_unique<platform::URLSession>(configuration);
 };
 
 /// An answer, which ends with a text repeated, and the code of the error that it leads to.
 struct Fault {
     const char* name;
     std::string answer;
-    platform::URLError::Code code;
-    Answer::Ending ending = Answer::Ending::keepOpen;
-    std::string repeated = {};
+    Code code;
+    Answer::Ending ending = keepOpen;
+    std::string more = {};
     std::size_t times = 0;
 
     friend void PrintTo(const Fault& fault, std::ostream* stream) { *stream << fault.name; }
 };
 
-const auto closed = Answer::Ending::close;
-const auto open = Answer::Ending::keepOpen;
-const auto cut = Answer::Ending::cut;
 const std::string exabytes = "Content-Length: 9223372036854775808\r\n";
 
 const Fault faults[] = {
     {"CutInBodyOfNoCoding", ok + "Transfer-Encoding: identity\r\nContent-Length: 2\r\n\r\n{}",
      networkConnectionLost, cut},
     {"CutInBodyOfMoreThanEightExabytes", ok + exabytes + "\r\n{}", networkConnectionLost, cut},
-    {"ClosedInBodyOfMoreThanEightExabytes", ok + exabytes + "\r\n{}", networkConnectionLost, closed},
+    {"ClosedInBodyOfMoreThanEightExabytes", ok + exabytes + "\r\n{}", networkConnectionLost, close},
     {"ErrorStatusCutInBody", "HTTP/1.1 504 Late\r\nContent-Length: 5\r\n\r\n{}", networkConnectionLost, cut},
     {"ClosedInTheHeadAfterAnInterimAnswer",
-     "HTTP/1.1 103 Early\r\n\r\nHTTP/1.1 200 OK\r\nX: ", networkConnectionLost, closed},
-    {"UnknownTransferCoding", ok + "Transfer-Encoding: squeezed\r\n\r\n{}", cannotParseResponse, closed},
+     "HTTP/1.1 103 Early\r\n\r\nHTTP/1.1 200 OK\r\nX: ", networkConnectionLost, close},
+    {"UnknownTransferCoding", ok + "Transfer-Encoding: squeezed\r\n\r\n{}", cannotParseResponse, close},
     {"BadChunk", ok + "Transfer-Encoding: chunked\r\n\r\n{}\r\n", networkConnectionLost},
-    {"NotHttp", "220 ready when you are\r\n", cannotParseResponse, closed},
+    {"NotHttp", "220 ready when you are\r\n", cannotParseResponse, close},
     {"UnknownPacking", ok + "Content-Length: 2\r\nContent-Encoding: br\r\n\r\n{}", cannotDecodeContentData},
     {"NoPackingUnderItsName", ok + "Content-Length: 2\r\n" + gzip + "\r\n{}", cannotDecodeContentData},
-    {"HeaderLineOfTwentyMegabytes", ok + "X: ", dataLengthExceedsMaximum, open, "x", 20'000'000},
-    {"HundredThousandHeaders", ok, dataLengthExceedsMaximum, open, header, 100'000},
-    {"EndlessInterimAnswers", "", dataLengthExceedsMaximum, open, "HTTP/1.1 103 Early\r\nLink: x\r\n\r\n",
+    {"HeaderLineOfTwentyMegabytes", ok + "X: ", dataLengthExceedsMaximum, keepOpen, "x", 20'000'000},
+    {"HundredThousandHeaders", ok, dataLengthExceedsMaximum, keepOpen, header, 100'000},
+    {"EndlessInterimAnswers", "", dataLengthExceedsMaximum, keepOpen, "HTTP/1.1 103 Early\r\nLink: x\r\n\r\n",
      20'000},
-    {"LongTrailers", ok + "Transfer-Encoding: chunked\r\n\r\n0\r\n", dataLengthExceedsMaximum, open, header,
-     4'100},
-    {"BodyOverTheLimit", ok + "Content-Length: 16777217\r\n\r\n", dataLengthExceedsMaximum, open, " ",
+    {"LongTrailers", ok + "Transfer-Encoding: chunked\r\n\r\n0\r\n", dataLengthExceedsMaximum, keepOpen,
+     header, 4'100},
+    {"BodyOverTheLimit", ok + "Content-Length: 16777217\r\n\r\n", dataLengthExceedsMaximum, keepOpen, " ",
      limit + 1},
-    {"BodyOverTheLimitUntilTheEnd", ok + "\r\n", dataLengthExceedsMaximum, closed, " ", limit + 1},
+    {"BodyOverTheLimitUntilTheEnd", ok + "\r\n", dataLengthExceedsMaximum, close, " ", limit + 1},
     // Of which but one byte comes.
     {"TenGigabytes", ok + "Content-Length: 10000000000\r\n\r\n{", dataLengthExceedsMaximum},
-    {"ThousandMegabytesInOneAndAHalf", ok + gzip + "\r\n", dataLengthExceedsMaximum, open, packed, 15'000},
+    {"ThousandMegabytesInOneAndAHalf", ok + gzip + "\r\n", dataLengthExceedsMaximum, keepOpen, packed,
+     15'000},
 };
 
 struct SessionFault : SessionFaults, ::testing::WithParamInterface<Fault> {};
@@ -115,48 +91,46 @@ struct SessionFault : SessionFaults, ::testing::WithParamInterface<Fault> {};
 // There is a kept connection, which the POST could have used.
 TEST_P(SessionFault, EndsThePostWithAnErrorAloneInLittleMemory) {
     const auto& fault = GetParam();
-    const platform::URLSession session(configuration);
-    warmUp(session);
-    Answer answer{{fault.answer + repeated(fault.times, fault.repeated)}, fault.ending};
-    const testing::PeakMemory peak;
-    expectRefusal(session, std::move(answer), fault.code);
+    warmUp();
+    Answer answer{{fault.answer + repeated(fault.times, fault.more)}, fault.ending};
+    const PeakMemory peak;
+    expectRefusal(std::move(answer), fault.code);
     // A large body's room replaces the half mebibyte or less that it had so far.
     EXPECT_LT(peak.bytes(), limit + (std::size_t{1} << 20));
     RecordProperty("KiB", static_cast<int>(peak.bytes() >> 10));
-    warmUp(session);
+    warmUp();
 }
 
 INSTANTIATE_TEST_SUITE_P(, SessionFault, ::testing::ValuesIn(faults),
                          [](const auto& parameter) { return parameter.param.name; });
 
 TEST_F(SessionFaults, OfALostConnectionLetNothingButAGetBeSentAgain) {
-    using enum Answer::Ending;
-    const platform::URLSession session(configuration);
     for (const std::string method : {"POST", "PATCH", "PUT", "DELETE", "OPTIONS"}) {
         for (const auto ending : {close, cut, reset}) {
             SCOPED_TRACE(method);
             // Neither the connection of a GET is taken nor that of another of its kind.
-            warmUp(session);
+            warmUp();
             const auto connections = server.connections();
-            EXPECT_EQ(exchange(session, Answer::complete(200, "{}"), method).data, "{}");
-            expectRefusal(session, {{}, ending}, networkConnectionLost, method);
+            EXPECT_EQ(answered(Answer::complete(200, "{}"), method).data, "{}");
+            expectRefusal({{}, ending}, networkConnectionLost, method);
             EXPECT_EQ(server.connections(), connections + 2);
         }
     }
 }
 
 TEST_F(SessionFaults, OfThePackingAreFoundWhereverTheyAre) {
-    const platform::URLSession session(configuration);
+    const auto expectDamaged = [&](const std::string& body) {
+        expectRefusal(Answer::complete(200, body, gzip), cannotDecodeContentData);
+    };
     for (std::size_t bytes = 1; bytes < packed.size(); ++bytes) {
-        expectRefusal(session, Answer::complete(200, packed.substr(0, bytes), gzip), cannotDecodeContentData);
-        expectRefusal(session, Answer::complete(200, packed + packed.substr(0, bytes), gzip),
-                      cannotDecodeContentData);
+        expectDamaged(packed.substr(0, bytes));
+        expectDamaged(packed + packed.substr(0, bytes));
     }
     // The last eight bytes are the checksum and the length.
     for (std::size_t last = 1; last <= 8; ++last) {
         auto damaged = packed;
         damaged[packed.size() - last] ^= 1;
-        expectRefusal(session, Answer::complete(200, damaged, gzip), cannotDecodeContentData);
+        expectDamaged(damaged);
     }
 }
 
@@ -178,11 +152,10 @@ TEST_F(SessionFaults, AreNotSeenInAnUnusualAnswer) {
         // An interim answer is none.
         {Answer{{"HTTP/1.1 103 Early Hints\r\nLink: x\r\n\r\nHTTP/1.1 204 No Content\r\n\r\n"}}.sliced(1), "",
          204},
-        {Answer{{ok + gzip + "\r\n" + packed}, Answer::Ending::close}.sliced(1), unpacked},
+        {Answer{{ok + gzip + "\r\n" + packed}, close}.sliced(1), unpacked},
     };
-    const platform::URLSession session(configuration);
     for (const auto& [answer, body, status] : cases) {
-        const auto& outcome = exchange(session, answer);
+        const auto& outcome = answered(answer);
         EXPECT_TRUE(outcome.data == body) << "in call " << calls.count();
         EXPECT_EQ(outcome.response, platform::HTTPURLResponse{status});
     }
@@ -190,25 +163,24 @@ TEST_F(SessionFaults, AreNotSeenInAnUnusualAnswer) {
 }
 
 TEST_F(SessionFaults, OfRedirectsAreTheCallersMatter) {
-    testing::FaultServer other(authority.serverContext("other.test"));
-    configuration.hostMappings.push_back(
-        {.host = "other.test", .address = "127.0.0.1", .port = other.port()});
-    const platform::URLSession session(configuration);
+    configuration.hostMappings.push_back({"other.test", "127.0.0.1", server.port()});
+    session = std::make_unique<platform::URLSession>(configuration);
     for (const int status : {301, 302, 303, 307, 308}) {
         for (const std::string place :
              {"https://gateway.test/there", "https://other.test/", "http://gateway.test/", "/there"}) {
-            for (const auto& method : {std::optional<std::string>(), std::optional<std::string>("POST")}) {
-                SCOPED_TRACE(std::to_string(status) + place + method.value_or(""));
-                const auto answer = Answer::complete(status, "moved", "Location: " + place + "\r\n");
-                const auto& outcome = exchange(session, answer, method);
+            for (const std::string method : {"GET", "POST"}) {
+                SCOPED_TRACE(std::to_string(status) + place + method);
+                const auto& outcome =
+                    answered(Answer::complete(status, "moved", "Location: " + place + "\r\n"), method);
                 EXPECT_EQ(outcome.data, "moved");
                 EXPECT_EQ(outcome.response, platform::HTTPURLResponse{status});
                 EXPECT_EQ(server.requests().size(), calls.count());
-                EXPECT_TRUE(server.requests().back().starts_with(method.value_or("GET") + " / "));
+                EXPECT_TRUE(server.requests().back().starts_with(method + " / "));
             }
         }
     }
-    EXPECT_EQ(other.connections(), 0u);
+    // All calls of GET had one, each POST one of its own.
+    EXPECT_EQ(server.connections(), 21u);
 }
 
 // A thread that a long head keeps busy is not the other session's.
@@ -217,14 +189,12 @@ TEST_F(SessionFaults, OfOneSessionDoNotHoldUpAnother) {
     // The gate opens also where the test fails.
     std::shared_ptr<void> closedGate(nullptr, [gate](void*) { gate->count_down(); });
     const platform::URLSession busy(configuration);
-    const platform::URLSession other(configuration);
-    server.enqueue({{ok + repeated(3'000, header), repeated(100'000, header)}, open, gate});
-    busy.dataTask({.url = {testing::gatewayHost, "/busy"}}, calls.completion()).resume();
+    server.enqueue({{ok + repeated(3'000, header), repeated(100'000, header)}, keepOpen, gate});
+    start(busy);
     ASSERT_TRUE(server.waitForRequests(1));
-    warmUp(other);
-    warmUp(busy);
+    warmUp();
     closedGate.reset();
-    EXPECT_EQ(calls.wait(2).error.value().code, dataLengthExceedsMaximum);
+    EXPECT_EQ(calls.wait(1).error.value().code, dataLengthExceedsMaximum);
 }
 
-} // namespace quillet
+} // namespace quillet::testing

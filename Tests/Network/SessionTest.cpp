@@ -1,53 +1,30 @@
-#include "Platform/Http/URLSession.hpp"
+#include "Network/SessionTest.hpp"
 #include "Quillet/Testing/ScriptedBackend.hpp"
 #include "Support/FakeNetworkPath.hpp"
-#include "Support/SandboxedSession.hpp"
 
 #include <gtest/gtest.h>
 
 #include <future>
 
-namespace quillet {
-
-namespace {
+namespace quillet::testing {
 
 using namespace std::chrono_literals;
-using testing::Answer;
 
-struct SessionTest : ::testing::Test, testing::SandboxedSession {
-    testing::CallRecorder calls;
-
-    platform::URLSessionDataTask task(const platform::URLSession& session, std::string method = "GET") {
-        return session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = std::move(method)},
-                                calls.completion());
-    }
-};
-
-} // namespace
-
-TEST_F(SessionTest, DeliversOffTheCallersThread) {
-    server.enqueue(Answer::complete(200, "{}"));
-    const platform::URLSession session(configuration);
-    task(session).resume();
-    EXPECT_EQ(calls.wait().response->statusCode, 200);
-    EXPECT_NE(calls.threadOf(), std::this_thread::get_id());
-}
-
-TEST_F(SessionTest, StartsOnceHoweverOftenItIsResumedAndNeverByItself) {
+TEST_F(SessionTest, StartsOnceOffTheCallersThreadHoweverOftenItIsResumedAndNeverByItself) {
     server.enqueue(Answer::complete(200, "first"));
     server.enqueue(Answer::complete(200, "second"));
     const platform::URLSession session(configuration);
-    { const auto neverResumed = task(session, "DELETE"); }
-    auto first = task(session);
+    const platform::URLRequest request{.url = toGateway};
+    { const auto neverResumed = session.dataTask(request, calls.completion()); }
+    auto first = session.dataTask(request, calls.completion());
     first.resume();
     first.resume();
     EXPECT_EQ(calls.wait().data, "first");
+    EXPECT_NE(calls.threadOf(), std::this_thread::get_id());
     first.resume();
-    task(session).resume();
-    EXPECT_EQ(calls.wait(1).data, "second");
+    EXPECT_EQ(exchange(session).data, "second");
     // What is no method is refused.
-    task(session, "GET / HTTP/1.1\r\nX: ").resume();
-    EXPECT_TRUE(calls.wait(2).error);
+    EXPECT_TRUE(exchange(session, {.url = toGateway, .httpMethod = "GET / HTTP/1.1\r\nX: "}).error);
     EXPECT_EQ(server.requests().size(), 2u);
     EXPECT_EQ(server.connections(), 1u);
 }
@@ -56,71 +33,51 @@ TEST_F(SessionTest, RunsAStartedCallToItsEndAndThenEndsItsThread) {
     const auto gate = std::make_shared<std::latch>(1);
     server.enqueue({{"HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\n", "{}"}, Answer::Ending::keepOpen, gate});
     std::promise<void> freed;
-    auto gone = freed.get_future();
-    configuration.networkPath = {new testing::FakeNetworkPath(true),
-                                 [&](const testing::FakeNetworkPath* path) {
+    configuration.networkPath = {new FakeNetworkPath(true), [&](const FakeNetworkPath* path) {
                                      delete path;
                                      freed.set_value();
                                  }};
-    {
-        const platform::URLSession session(std::exchange(configuration, {}));
-        task(session).resume();
-    }
+    start(platform::URLSession(std::exchange(configuration, {})));
     ASSERT_TRUE(server.waitForRequests(1));
     EXPECT_EQ(calls.count(), 0u);
     gate->count_down();
     EXPECT_EQ(calls.wait().data, "{}");
-    EXPECT_EQ(gone.wait_for(30s), std::future_status::ready);
+    EXPECT_EQ(freed.get_future().wait_for(30s), std::future_status::ready);
 }
 
 TEST_F(SessionTest, StartsACallWhoseSessionIsGoneAndItsDefaultsToo) {
     server.enqueue(Answer::complete(200, "{}"));
     platform::URLSessionConfiguration::setDefaultConfiguration(configuration);
-    auto late = [&] { return task(platform::URLSession()); }();
+    auto late = platform::URLSession().dataTask({.url = toGateway}, calls.completion());
     platform::URLSessionConfiguration::setDefaultConfiguration({});
     late.resume();
     EXPECT_EQ(calls.wait().data, "{}");
 }
 
-TEST_F(SessionTest, LetsACompletionFreeTheSessionAndStartAnotherCall) {
-    server.enqueue(Answer::complete(200, "first"));
-    server.enqueue(Answer::complete(200, "second"));
-    auto session = std::make_shared<platform::URLSession>(configuration);
-    auto second = std::make_shared<platform::URLSessionDataTask>(task(*session));
-    auto first = session->dataTask({.url = {testing::gatewayHost, "/"}},
-                                   [session, second](auto...) { second->resume(); });
-    session.reset();
-    second.reset();
-    first.resume();
-    EXPECT_EQ(calls.wait().data, "second");
-}
-
 TEST_F(SessionTest, SendsALargeBodyWithoutAskingFirst) {
     server.enqueue(Answer::complete(200, "{}"));
-    const platform::URLSession session(configuration);
     const std::string body(2 << 20, ' ');
-    session
-        .dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "PUT", .httpBody = body},
-                  calls.completion())
-        .resume();
-    EXPECT_EQ(calls.wait().data, "{}");
+    EXPECT_EQ(exchange(platform::URLSession(configuration),
+                       {.url = toGateway, .httpMethod = "PUT", .httpBody = body})
+                  .data,
+              "{}");
     EXPECT_TRUE(server.requests()[0].ends_with("gzip\r\nContent-Length: 2097152\r\n\r\n" + body));
 }
 
 TEST_F(SessionTest, TellsItsObserverBeforeTheCompletion) {
-    const auto observer = std::make_shared<testing::TrafficLog>();
+    const auto observer = std::make_shared<TrafficLog>();
     configuration.observer = observer;
     server.enqueue(Answer::complete(404, ""));
     const platform::URLSession session(configuration);
-    task(session).resume();
-    EXPECT_EQ(calls.wait().data, "");
-    task(session).resume();
+    const platform::URLRequest get{.url = toGateway, .httpMethod = "GET"};
+    EXPECT_EQ(exchange(session, get).data, "");
+    start(session, get);
     ASSERT_TRUE(server.waitForRequests(2));
     clock->advance(60s);
     EXPECT_TRUE(calls.wait(1).error);
     // Whoever answers in place of the network.
-    configuration.loader = std::make_shared<testing::ScriptedBackend>();
-    task(platform::URLSession(configuration)).resume();
+    configuration.loader = std::make_shared<ScriptedBackend>();
+    start(platform::URLSession(configuration), get);
     EXPECT_EQ(observer->lines(),
               (std::vector<std::string>{"0 GET https://gateway.test/", "0 ended 404 0 0",
                                         "1 GET https://gateway.test/", "1 ended 0 -1001 60000",
@@ -129,44 +86,27 @@ TEST_F(SessionTest, TellsItsObserverBeforeTheCompletion) {
 
 // ThreadSanitizer finds the data races of this test.
 TEST_F(SessionTest, TakesCallsFromSeveralThreadsAtATime) {
-    constexpr std::size_t threadCount = 4;
     constexpr std::size_t callsOfEach = 25;
-    for (std::size_t i = 0; i < threadCount * callsOfEach; ++i) {
+    constexpr std::size_t all = 4 * callsOfEach;
+    for (std::size_t i = 0; i < all; ++i) {
         server.enqueue(Answer::complete(200, "{}"));
     }
     {
         const platform::URLSession session(configuration);
-        std::vector<std::thread> threads;
-        for (std::size_t i = 0; i < threadCount; ++i) {
-            threads.emplace_back([&] {
-                for (std::size_t call = 0; call < callsOfEach; ++call) {
-                    { const auto dropped = task(session, "DELETE"); }
-                    task(session).resume();
-                }
-            });
-        }
-        for (auto& thread : threads) {
-            thread.join();
-        }
+        const auto work = [&] {
+            for (std::size_t call = 0; call < callsOfEach; ++call) {
+                { const auto dropped = session.dataTask({}, calls.completion()); }
+                start(session);
+            }
+        };
+        const std::future<void> threads[] = {
+            std::async(std::launch::async, work), std::async(std::launch::async, work),
+            std::async(std::launch::async, work), std::async(std::launch::async, work)};
     }
-    for (std::size_t i = 0; i < threadCount * callsOfEach; ++i) {
+    for (std::size_t i = 0; i < all; ++i) {
         EXPECT_EQ(calls.wait(i).data, "{}");
     }
-    EXPECT_EQ(server.requests().size(), threadCount * callsOfEach);
+    EXPECT_EQ(server.requests().size(), all);
 }
 
-// The process ends while a session's thread is in the middle of a call.
-TEST(SessionDeathTest, DoesNotKeepTheProcessFromEnding) {
-    EXPECT_EXIT(
-        {
-            auto& sandbox = *new testing::SandboxedSession;
-            const platform::URLSession session(sandbox.configuration);
-            session.dataTask({.url = {testing::gatewayHost, "/"}}, [](auto...) {}).resume();
-            (void)sandbox.server.waitForRequests(1);
-            std::remove(sandbox.authority.bundleFile().c_str());
-            std::exit(0);
-        },
-        ::testing::ExitedWithCode(0), "");
-}
-
-} // namespace quillet
+} // namespace quillet::testing

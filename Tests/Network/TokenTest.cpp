@@ -1,10 +1,9 @@
 #include "Fuzzing/Reference/Base64Url.hpp"
+#include "Network/SessionTest.hpp"
 #include "Network/Token/Base64Url.hpp"
 #include "Network/Token/HmacSha256.hpp"
 #include "Network/Token/HmacSha256Scrivener.hpp"
-#include "Platform/Http/URLSession.hpp"
 #include "Quillet/Authorization.hpp"
-#include "Support/SandboxedSession.hpp"
 #include "Support/Thorough.hpp"
 
 #include <gmock/gmock.h>
@@ -13,9 +12,12 @@
 
 #include <random>
 
-namespace quillet {
+namespace quillet::testing {
 
 namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
 
 const std::string secret = "527308";
 
@@ -69,7 +71,7 @@ TEST(HmacSha256, GivesThePublishedSignatures) {
 
 TEST(Token, IsTheJsonOfAnyAccessTokenSignedAsOpenSslSigns) {
     std::mt19937 random;
-    const std::size_t cases = testing::thorough(2'000, 100'000);
+    const std::size_t cases = thorough(2'000, 100'000);
     for (std::size_t i = 0; i < cases; ++i) {
         const std::string accessToken = randomText(random);
         const std::string key = i % 2 == 0 ? secret : randomText(random);
@@ -102,40 +104,35 @@ TEST(Token, FailsForTextThatIsNotUtf8AndTellsNothingOfIt) {
               std::unexpected(HmacSha256Error::couldNotTransformContentToSignInData));
 }
 
-TEST(Token, IsInNoLogAndNoErrorOfACallHoweverItEnds) {
-    using testing::Answer;
-    testing::SandboxedSession sandbox;
-    testing::Recorder<std::string> log;
-    sandbox.configuration.log = [&](const platform::LoggedCall& call) { log.record(description(call)); };
+TEST_F(SessionTest, TellsNoTokenInALogOrAnErrorHoweverACallEnds) {
+    Recorder<std::string> log;
+    configuration.log = [&](const platform::LoggedCall& call) { log.record(description(call)); };
     // With this server's certificate not to be trusted.
-    sandbox.configuration.hostMappings.push_back({"other.test", "127.0.0.1", sandbox.server.port()});
+    configuration.hostMappings.push_back({"other.test", "127.0.0.1", server.port()});
     const std::string token = authorize("distinctive", "idp", secret).value().jwt;
     const std::string head = "HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n";
-    sandbox.server.enqueue(Answer::complete(500, "{}"));
-    sandbox.server.enqueue({{head, "cut"}, Answer::Ending::cut});
-    sandbox.server.enqueue({{"no HTTP at all\r\n\r\n"}, Answer::Ending::close});
-    sandbox.server.enqueue({{head + std::string(20, 'a')}, Answer::Ending::close});
-    const std::size_t answers = 4;
-    const platform::URLSession session(sandbox.configuration);
-    testing::CallRecorder calls;
+    server.enqueue(Answer::complete(500, "{}"));
+    server.enqueue({{head, "cut"}, Answer::Ending::cut});
+    server.enqueue({{"no HTTP at all\r\n\r\n"}, Answer::Ending::close});
+    server.enqueue({{head + std::string(20, 'a')}, Answer::Ending::close});
+    const platform::URLSession session(configuration);
     ::testing::internal::CaptureStdout();
     ::testing::internal::CaptureStderr();
-    for (std::size_t i = 0; i <= answers; ++i) {
-        platform::URLRequest request{.url = {i < answers ? testing::gatewayHost : "other.test", "/"}};
+    for (const char* host : {gatewayHost, gatewayHost, gatewayHost, gatewayHost, "other.test"}) {
+        platform::URLRequest request{.url = {host, "/"}};
         ASSERT_TRUE(request.headerFields.addValue(token, "Consultant-Token"));
-        session.dataTask(request, calls.completion()).resume();
-        const auto& error = calls.wait(i).error;
+        const auto& error = exchange(session, request).error;
         log.record(error ? error->message : "");
     }
     std::string told = ::testing::internal::GetCapturedStdout() + ::testing::internal::GetCapturedStderr();
-    ASSERT_EQ(log.count(), 2 * (answers + 1));
+    ASSERT_EQ(log.count(), 10u);
     for (std::size_t i = 0; i < log.count(); ++i) {
         told += log.wait(i) + '\n';
     }
-    EXPECT_THAT(sandbox.server.requests().at(0), ::testing::HasSubstr("Consultant-Token: " + token));
+    EXPECT_THAT(server.requests().at(0), HasSubstr("Consultant-Token: " + token));
     for (const auto& hidden : {token, token.substr(37, 20), token.substr(token.rfind('.')), secret}) {
-        EXPECT_THAT(told, ::testing::Not(::testing::HasSubstr(hidden)));
+        EXPECT_THAT(told, Not(HasSubstr(hidden)));
     }
 }
 
-} // namespace quillet
+} // namespace quillet::testing

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Platform/Http/URLSession.hpp"
+#include "Support/SandboxedSession.hpp"
+
+#include <gtest/gtest.h>
+
+namespace quillet::testing {
+
+using Code = platform::URLError::Code;
+
+inline const platform::Url toGateway{gatewayHost, "/"};
+
+/// Calls to a fault server.
+struct SessionTest : ::testing::Test, SandboxedSession {
+    void start(const platform::URLSession& session,
+               const platform::URLRequest& request = {.url = toGateway}) {
+        session.dataTask(request, calls.completion()).resume();
+    }
+    /// Makes a call, and waits for its outcome.
+    const platform::URLSessionOutcome& exchange(const platform::URLSession& session,
+                                                const platform::URLRequest& request = {.url = toGateway}) {
+        const auto call = calls.count();
+        start(session, request);
+        return calls.wait(call);
+    }
+    /// The code of a POST's error; none has the value 0.
+    Code errorOf(const platform::URLSession& session, const std::string& host = gatewayHost) {
+        const auto& error = exchange(session, {.url = {host, "/"}, .httpMethod = "POST"}).error;
+        return error ? error->code : Code();
+    }
+
+    CallRecorder calls;
+};
+
+/// The text so many times.
+inline std::string repeated(std::size_t count, std::string_view text) {
+    std::string all(text);
+    while (all.size() < count * text.size()) {
+        all.append(all, 0, count * text.size() - all.size());
+    }
+    return all;
+}
+
+} // namespace quillet::testing
