@@ -8,47 +8,6 @@ namespace quillet {
 
 using testing::Services;
 
-TEST(Services, SendExactlyTheseRequests) {
-    testing::SandboxedSession sandbox;
-    Services services(sandbox.configuration);
-    testing::Recorder<std::int64_t> statuses;
-    const auto record = [&](auto result) { statuses.record(result.httpStatusCode); };
-    const std::string common = " HTTP/1.1\r\nHost: gateway.test\r\nAccept-Encoding: gzip\r\n";
-    const std::string token = "Consultant-Token: the.signed.token\r\n";
-    const struct {
-        std::function<void()> send;
-        std::string received;
-    } cases[] = {
-        {[&] { services.associate().associateConsultantToCart("a b/../ñ", 18446744073709551615u, record); },
-         "PATCH /quillet-bff/sell-out-carts/a%20b/../%C3%B1" + common + "Content-Type: application/json\r\n" +
-             token +
-             "Authorization-Provider: provider\r\nContent-Length: 42\r\n\r\n"
-             R"({"consultant":{"id":18446744073709551615}})"},
-        {[&] { services.openCarts().getOpenOrders(record); },
-         "GET /quillet-bff/consultants/PE/0/sell-out-carts?status=OPEN" + common +
-             "Accept: application/json\r\n" + token + "\r\n"},
-        {[&] { services.checkout().checkout(record); },
-         "POST /quillet-bff/consultants/PE/0/sell-out-carts/checkout" + common +
-             "Accept: application/json\r\nAuthorization-Provider: provider\r\n" + token +
-             "Content-Length: 0\r\n\r\n"},
-        {[&] {
-             // An empty header is sent too.
-             services.authorization.provider.clear();
-             services.associate().associateConsultantToCart("", 0, record);
-         },
-         "PATCH /quillet-bff/sell-out-carts/" + common + "Content-Type: application/json\r\n" + token +
-             R"(Authorization-Provider:)"
-             "\r\nContent-Length: 23\r\n\r\n"
-             R"({"consultant":{"id":0}})"},
-    };
-    for (std::size_t i = 0; i < std::size(cases); ++i) {
-        sandbox.server.enqueue(testing::Answer::complete(200, ""));
-        cases[i].send();
-        EXPECT_EQ(statuses.wait(i), 200);
-        EXPECT_EQ(sandbox.server.requests().back(), cases[i].received);
-    }
-}
-
 TEST(ServiceError, TellsItselfAndTheCodeOfAFailedExchange) {
     using platform::URLError;
     EXPECT_EQ(description(ServiceError(ClientError{"d", "Not/Found", -404, "/p"})),

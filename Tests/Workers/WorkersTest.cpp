@@ -14,14 +14,10 @@ namespace quillet::testing {
 namespace {
 
 using namespace std::chrono_literals;
+using ::testing::_;
 using ::testing::ElementsAre;
-using ::testing::ElementsAreArray;
-using ::testing::HasSubstr;
-using ::testing::StartsWith;
 using Lines = std::vector<std::string>;
 
-/// What goes, and at which step of a call.
-enum class Gone { neither, theWorker, theDelegate, both };
 enum class Step { beforeStart, underWay, queued, inTheCallback };
 
 struct Workers : ::testing::TestWithParam<Call> {
@@ -30,24 +26,9 @@ struct Workers : ::testing::TestWithParam<Call> {
 
     [[nodiscard]] std::shared_ptr<Executable> make() const {
         const BackendClient client({"token", "idp"}, {"cart", 41052, "CL"}, "gateway.test");
-        switch (GetParam()) {
-        case Call::associate:
-            return client.associate(delegate);
-        case Call::getOpenOrders:
-            return client.getOpenOrders(delegate);
-        case Call::checkout:
-            break;
-        }
-        return client.checkout(delegate);
-    }
-
-    void end(Gone gone) {
-        if (gone == Gone::theWorker || gone == Gone::both) {
-            worker.reset();
-        }
-        if (gone == Gone::theDelegate || gone == Gone::both) {
-            delegate.reset();
-        }
+        return GetParam() == Call::associate       ? client.associate(delegate)
+               : GetParam() == Call::getOpenOrders ? client.getOpenOrders(delegate)
+                                                   : client.checkout(delegate);
     }
 
     void pass(std::chrono::milliseconds time) {
@@ -65,46 +46,42 @@ struct Workers : ::testing::TestWithParam<Call> {
 } // namespace
 
 TEST_P(Workers, CallNobodyOnceOneOfTheTwoIsGone) {
+    using enum Step;
     int cases = 0;
-    for (const Gone gone : {Gone::neither, Gone::theWorker, Gone::theDelegate, Gone::both}) {
-        for (const Step step : {Step::beforeStart, Step::underWay, Step::queued, Step::inTheCallback}) {
-            SCOPED_TRACE(std::to_string(static_cast<int>(gone)) + " at " +
-                         std::to_string(static_cast<int>(step)));
+    for (const std::string gone : {"neither", "worker", "delegate", "worker and delegate"}) {
+        for (const Step step : {beforeStart, underWay, queued, inTheCallback}) {
+            SCOPED_TRACE(gone + " at " + std::to_string(static_cast<int>(step)));
+            const auto reach = [&](Step now) {
+                worker = now == step && gone.contains("worker") ? nullptr : worker;
+                delegate = now == step && gone.contains("delegate") ? nullptr : delegate;
+            };
             delegate = std::make_shared<RecordingDelegate>();
             lines = delegate->lines;
             worker = make();
             const std::weak_ptr<Executable> watched = worker;
             const std::size_t requests = backend->requests().size();
-            if (step == Step::beforeStart) {
-                end(gone);
-            }
+            reach(beforeStart);
             const bool isStarted = worker != nullptr;
             Lines told;
+            if (isStarted && delegate && GetParam() == Call::checkout) {
+                told.push_back("checking out");
+            }
+            backend->script(GetParam(), {Reply{.body = sampleBody(GetParam()), .after = 5s}});
             if (isStarted) {
-                if (GetParam() == Call::checkout && delegate) {
-                    told.push_back("checking out");
-                }
-                backend->script(GetParam(), {Reply{.body = sampleBody(GetParam()), .after = 5s}});
                 worker->execute();
             }
-            if (step == Step::underWay) {
-                end(gone);
-            }
+            reach(underWay);
             EXPECT_EQ(watched.expired(), !worker);
             backend->clock()->advance(5s);
-            if (step == Step::queued) {
-                end(gone);
-            }
+            reach(queued);
             EXPECT_EQ(watched.expired(), !worker);
-            if (step == Step::inTheCallback) {
-                delegate->then = [&] { end(gone); };
-            }
-            if (step == Step::inTheCallback || gone == Gone::neither) {
+            if (step == inTheCallback || gone == "neither") {
                 told.push_back(name + " 200 with a response");
+                delegate->then = [&] { reach(inTheCallback); };
             }
             pass(60s);
 
-            EXPECT_THAT(*lines, ElementsAreArray(told));
+            EXPECT_EQ(*lines, told);
             EXPECT_EQ(backend->requests().size(), requests + isStarted);
             EXPECT_EQ(watched.expired(), !worker);
             EXPECT_TRUE(!worker || worker->isFinishedSuccessfully());
@@ -114,70 +91,64 @@ TEST_P(Workers, CallNobodyOnceOneOfTheTwoIsGone) {
     RecordProperty("cases", cases);
 }
 
-TEST_P(Workers, AreAnsweredInAnyOrderAndRememberTheLatest) {
-    const platform::URLError offline{platform::URLError::Code::notConnectedToInternet, "There is no network"};
-    backend->script(GetParam(), {Reply{.body = sampleBody(GetParam()), .after = 59'999ms}, Reply::never(),
-                                 Reply{.error = offline}});
-    for (int run = 0; run < 4; ++run) {
-        worker->execute();
-    }
-    const auto told = [&](std::chrono::milliseconds time) {
-        lines->clear();
-        pass(time);
-        return *lines;
-    };
-    // The last reply of a script stays.
-    EXPECT_THAT(told(0ms), ElementsAre(name + " 0: There is no network", name + " 0: There is no network"));
-    EXPECT_THAT(told(59'998ms), ElementsAre());
-    EXPECT_FALSE(worker->isFinishedSuccessfully());
-    EXPECT_THAT(told(1ms), ElementsAre(name + " 200 with a response"));
+TEST_P(Workers, RememberTheLatestAnswer) {
+    backend->script(GetParam(), {Reply{.body = sampleBody(GetParam()), .after = 1s}, Reply::never()});
+    worker->execute();
+    worker->execute();
+    lines->clear();
+    pass(1s);
+    EXPECT_THAT(*lines, ElementsAre(name + " 200 with a response"));
     EXPECT_TRUE(worker->isFinishedSuccessfully());
-    EXPECT_THAT(told(1ms), ElementsAre(name + " 0: The request timed out"));
+    pass(59s);
+    EXPECT_THAT(*lines, ElementsAre(_, name + " 0: The request timed out"));
     EXPECT_FALSE(worker->isFinishedSuccessfully());
 }
 
-INSTANTIATE_TEST_SUITE_P(, Workers, ::testing::Values(Call::associate, Call::getOpenOrders, Call::checkout),
-                         [](const auto& parameter) {
-                             return parameter.param == Call::associate       ? "Associate"
-                                    : parameter.param == Call::getOpenOrders ? "GetOpenOrders"
-                                                                             : "Checkout";
-                         });
+INSTANTIATE_TEST_SUITE_P(, Workers, ::testing::Values(Call::associate, Call::getOpenOrders, Call::checkout));
 
 // From execute() over a real session to the process's main queue, each worker on its own connection.
-TEST(WorkersOverTheNetwork, DeliverOnTheMainQueueAndLogNoSecrets) {
+TEST(WorkersOverTheNetwork, SendExactlyTheseRequestsAndDeliverOnTheMainQueue) {
     SandboxedSession sandbox;
     Lines log;
     sandbox.configuration.log = [&](const platform::LoggedCall& call) { log.push_back(description(call)); };
     platform::URLSessionConfiguration::setDefaultConfiguration(sandbox.configuration);
     std::counting_semaphore waiting(0);
     platform::mainQueue().setWakeUp([&] { waiting.release(); });
-    const BackendClient client(*authorize("secret access", "idp", "527308"), {"cart 1", 41052, "CL"},
-                               gatewayHost);
+    const BackendClient client({"the.token", "idp"}, {"a b/../ñ", 18446744073709551615u, "PE"}, gatewayHost);
+    // An empty header is sent too.
+    const BackendClient emptyClient({"the.token", ""}, {"", 0, "CL"}, gatewayHost);
     const auto delegate = std::make_shared<RecordingDelegate>();
-    int status = 200;
-    for (const auto& worker :
-         {client.associate(delegate), client.getOpenOrders(delegate), client.checkout(delegate)}) {
-        sandbox.server.enqueue(Answer::complete(++status, R"({"consultant":{"id":7},"carts":[]})"));
+    const std::string common = " HTTP/1.1\r\nHost: gateway.test\r\nAccept-Encoding: gzip\r\n";
+    const std::string token = "Consultant-Token: the.token\r\n";
+    const std::string toSend =
+        common + "Content-Type: application/json\r\n" + token + "Authorization-Provider:";
+    const std::string toGet = common + "Accept: application/json\r\n";
+    const std::pair<std::shared_ptr<Executable>, std::string> cases[] = {
+        {client.associate(delegate), "PATCH /quillet-bff/sell-out-carts/a%20b/../%C3%B1" + toSend +
+                                         " idp\r\nContent-Length: 42\r\n\r\n" +
+                                         R"({"consultant":{"id":18446744073709551615}})"},
+        {client.getOpenOrders(delegate),
+         "GET /quillet-bff/consultants/PE/18446744073709551615/sell-out-carts?status=OPEN" + toGet + token +
+             "\r\n"},
+        {client.checkout(delegate),
+         "POST /quillet-bff/consultants/PE/18446744073709551615/sell-out-carts/checkout" + toGet +
+             "Authorization-Provider: idp\r\n" + token + "Content-Length: 0\r\n\r\n"},
+        {emptyClient.associate(delegate), "PATCH /quillet-bff/sell-out-carts/" + toSend +
+                                              "\r\nContent-Length: 23\r\n\r\n" +
+                                              R"({"consultant":{"id":0}})"},
+    };
+    for (const auto& [worker, request] : cases) {
+        sandbox.server.enqueue(Answer::complete(201, R"({"consultant":{"id":7},"carts":[]})"));
         worker->execute();
         ASSERT_TRUE(waiting.try_acquire_for(30s));
         platform::mainQueue().drain();
-        EXPECT_EQ(worker->isFinishedSuccessfully(), status == 202);
+        EXPECT_EQ(sandbox.server.requests().back(), request);
+        EXPECT_EQ(log.back(), request.substr(0, request.find(" HTTP")) + " 201, 34 bytes, 0 ms");
     }
     platform::mainQueue().setWakeUp(nullptr);
-
-    const Lines calls{"PATCH /quillet-bff/sell-out-carts/cart%201",
-                      "GET /quillet-bff/consultants/CL/41052/sell-out-carts?status=OPEN",
-                      "POST /quillet-bff/consultants/CL/41052/sell-out-carts/checkout"};
-    const auto requests = sandbox.server.requests();
-    ASSERT_EQ(requests.size(), 3u);
-    for (std::size_t index = 0; index < 3; ++index) {
-        EXPECT_THAT(requests[index], StartsWith(calls[index] + " HTTP/1.1\r\n"));
-        EXPECT_EQ(log.at(index), calls[index] + " " + std::to_string(201 + index) + ", 34 bytes, 0 ms");
-    }
-    EXPECT_THAT(requests.back(), HasSubstr("Authorization-Provider: idp\r\n"));
-    EXPECT_EQ(sandbox.server.connections(), 3u);
-    EXPECT_THAT(*delegate->lines, ElementsAre("associate 201", "open orders 202 with a response",
-                                              "checking out", "checkout 203"));
+    EXPECT_EQ(sandbox.server.connections(), 4u);
+    EXPECT_THAT(*delegate->lines, ElementsAre("associate 201", "open orders 201 with a response",
+                                              "checking out", "checkout 201", "associate 201"));
 }
 
 // The worker owns its session, so the session's thread frees both.
