@@ -13,10 +13,8 @@ namespace quillet::testing {
 
 /// The three services, as the workers make them.
 struct Services {
-    explicit Services(std::shared_ptr<const URLSessionDataTaskCreating> theirSession)
-        : session(std::move(theirSession)) {}
     explicit Services(const platform::URLSessionConfiguration& configuration)
-        : Services(
+        : session(
               std::make_shared<URLSessionWrapper>(std::make_shared<platform::URLSession>(configuration))) {}
 
     [[nodiscard]] SellOutCartService associate() const {

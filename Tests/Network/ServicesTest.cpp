@@ -54,10 +54,6 @@ TEST(Services, CompleteAtOnceWhenTheRequestCannotBeFormed) {
 TEST(Services, MakeAResultOfEveryStatusWithEveryBody) {
     testing::SandboxedSession sandbox;
     const Services services(sandbox.configuration);
-    const std::string ofClient = R"({"details":"d","error":"Not\/Found","statusCode":-404,"path":"/p"})";
-    const std::string ofServer =
-        R"({"error":{"response":{"statusCode":1,"message":"inner","error":"e"},"status":2,)"
-        R"("message":"ERROR_CART_ALREADY_SUBMITTED"},"statusCode":500,"path":"/p"})";
     const struct {
         std::vector<int> statuses;
         /// The body that is an error's record for these, and the error.
@@ -65,16 +61,17 @@ TEST(Services, MakeAResultOfEveryStatusWithEveryBody) {
         std::optional<ServiceError> error;
     } kinds[] = {
         {{200, 201, 302, 399, 600}, "", std::nullopt},
-        {{400, 401, 403, 404, 409, 422, 429, 499}, ofClient, ClientError{"d", "Not/Found", -404, "/p"}},
+        {{400, 401, 403, 404, 409, 422, 429, 499},
+         tests::clientErrorJson,
+         ClientError{"d", "Not/Found", -404, "/p"}},
         {{500, 502, 503, 504, 599},
-         ofServer,
-         ServerError{{{1, "inner", "e"}, 2, "ERROR_CART_ALREADY_SUBMITTED"}, 500, "/p"}},
+         tests::serverErrorJson,
+         ServerError{{{422, "inner", "Unprocessable"}, 422, "ERROR_CART_ALREADY_SUBMITTED"}, 500, "/p"}},
     };
-    std::vector<std::string> bodies = {"",       "{",     "null", "[]", "<html>502 Bad Gateway</html>",
-                                       ofClient, ofServer};
-    bodies.push_back(ofClient + "x");
-    bodies.push_back(tests::replaced(ofClient, R"(,"path":"/p")", ""));
-    bodies.push_back(tests::replaced(ofServer, R"(,"path":"/p")", ""));
+    std::vector<std::string> bodies = {"", "{", "null", "[]", "<html>502 Bad Gateway</html>"};
+    for (const auto& record : {tests::clientErrorJson, tests::serverErrorJson}) {
+        bodies.insert(bodies.end(), {record, record + "x", tests::replaced(record, R"(,"path":"/p")", "")});
+    }
     bodies.insert(bodies.end(), {tests::orderJson, tests::openOrdersJson, tests::checkoutJson});
     std::size_t pair = 0;
     const auto expect = [&]<typename Result>(auto Result::*response, const std::string& goodBody, auto call) {
