@@ -2,9 +2,11 @@
 #include "Quillet/Testing/ScriptedBackend.hpp"
 #include "Support/RecordingDelegate.hpp"
 #include "Support/SandboxedSession.hpp"
+#include "Workers/SharedResult.hpp"
 
 #include <gmock/gmock.h>
 
+#include <future>
 #include <latch>
 #include <semaphore>
 #include <thread>
@@ -42,6 +44,16 @@ struct Workers : ::testing::TestWithParam<Call> {
     std::shared_ptr<Lines> lines = delegate->lines;
     std::shared_ptr<Executable> worker;
 };
+
+/// A result that tells when it is freed.
+struct Sized {
+    std::size_t size = 0;
+    std::shared_ptr<void> last;
+};
+
+std::size_t records(const Sized& result) {
+    return result.size;
+}
 
 } // namespace
 
@@ -176,6 +188,15 @@ TEST(WorkersOverTheNetwork, MayBeReleasedLastOnTheirSessionsThread) {
     EXPECT_TRUE(watched.expired());
     platform::mainQueue().setWakeUp(nullptr);
     EXPECT_EQ(platform::mainQueue().drain(), 1u);
+}
+
+TEST(SharedResult, IsFreedOnAThreadOfItsOwnIfItIsLarge) {
+    for (const std::size_t size : {0, 999, 1000}) {
+        const auto freed = std::make_shared<std::promise<std::thread::id>>();
+        const auto tell = [freed](void*) { freed->set_value(std::this_thread::get_id()); };
+        sharedResult(Sized{size, {nullptr, tell}}).reset();
+        EXPECT_EQ(freed->get_future().get() == std::this_thread::get_id(), size < 1000) << size;
+    }
 }
 
 } // namespace quillet::testing
