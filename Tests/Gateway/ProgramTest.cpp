@@ -1,7 +1,8 @@
 #include "Gateway/RunningGateway.hpp"
 
+#include <QFile>
+
 #include <csignal>
-#include <iterator>
 
 namespace quillet::gateway {
 
@@ -9,15 +10,10 @@ namespace {
 
 using GatewayProgram = RunningGateway;
 
-std::string textOf(const std::filesystem::path& file) {
-    std::ifstream stream(file);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 } // namespace
 
 TEST_F(GatewayProgram, IsRefusedInOneClearLineOfErrors) {
-    const std::string data = folder.path();
+    const std::string data = folder;
     const auto taken = std::to_string(port);
     std::filesystem::create_directories(data + "/text/key");
     std::ofstream(data + "/text/gateway.sqlite") << std::string(5000, 'x');
@@ -45,17 +41,18 @@ TEST_F(GatewayProgram, IsRefusedInOneClearLineOfErrors) {
     };
     for (const auto& [arguments, status, message] : cases) {
         SCOPED_TRACE(message);
-        const auto ended = runGateway(arguments, "2>&1 >/dev/null");
-        EXPECT_EQ(ended.status, status);
-        EXPECT_THAT(ended.output, testing::HasSubstr(message));
-        EXPECT_EQ(ended.output.find('\n'), ended.output.size() - 1);
+        GatewayProcess refused(arguments);
+        EXPECT_EQ(refused.end(), status);
+        const auto complaint = refused.readAllStandardError();
+        EXPECT_THAT(complaint.toStdString(), ::testing::HasSubstr(message));
+        EXPECT_EQ(complaint.indexOf('\n'), complaint.size() - 1);
     }
 }
 
-TEST_F(GatewayProgram, TellsAboutItself) {
-    EXPECT_THAT(runGateway({"--help"}).output, testing::HasSubstr("--stop-with-stdin"));
-    EXPECT_THAT(runGateway({"--version"}).output, testing::MatchesRegex("quillet-gateway [0-9.]+\n"));
-    const auto list = Json::parse(runGateway({"--data", folder.path(), "--list"}).output);
+TEST_F(GatewayProgram, ListsItsOrders) {
+    GatewayProcess listing({"--data", folder, "--list"});
+    EXPECT_EQ(listing.end(), 0);
+    const auto list = Json::parse(listing.readAll().toStdString());
     EXPECT_EQ(list.size(), 18u);
     EXPECT_EQ(list[1].dump(), R"({"title":"Some products are added","customer":"Camila Fuentes","message":)"
                               R"("Hola, este es mi pedido de este ciclo. ¿Me avisas cuando llegue?","cart":)"
@@ -63,39 +60,7 @@ TEST_F(GatewayProgram, TellsAboutItself) {
                               R"("sentAt":"2026-03-14T12:00:00.000+0000"})");
 }
 
-TEST_F(GatewayProgram, StopsWhenAskedToInEachWay) {
-    EXPECT_EQ(runGateway({"--data", folder.path(), "--stop-with-stdin"}).status, 0);
-    EXPECT_EQ(client.send(openRequest(41051)).status, 200);
-    const auto ended = gateway.end(SIGINT);
-    EXPECT_EQ(ended.status, 0);
-    EXPECT_EQ(ended.output, "");
-}
-
-TEST_F(GatewayProgram, IsTrustedUnderAllItsNamesAndNoOther) {
-    for (const auto host :
-         {builtInIdentity().hosts[0], builtInIdentity().hosts[1], builtInIdentity().hosts[2],
-          std::string_view("localhost"), std::string_view("127.0.0.1")}) {
-        EXPECT_EQ(client.send(with(openRequest(41051), "Host", std::string(host))).status, 200) << host;
-    }
-    EXPECT_EQ(client.send(with(openRequest(41051), "Host", "elsewhere.example")).code,
-              CURLE_PEER_FAILED_VERIFICATION);
-    HttpsClient untrusting(port, "/etc/ssl/certs/ca-certificates.crt");
-    EXPECT_NE(untrusting.send(openRequest(41051)).code, CURLE_OK);
-}
-
-TEST_F(GatewayProgram, KeepsItsAuthorityAndAtAResetNothingElse) {
-    ASSERT_EQ(client.send(associateRequest(41051, cartOf(41051))).status, 200);
-    gateway.end(SIGKILL);
-    const auto trusted = folder.path() / "trust.pem";
-    GatewayProcess second({"--data", folder.path(), "--ca", trusted, "--reset"});
-    EXPECT_EQ(HttpsClient(second.port(), trusted).send(associateRequest(41060, cartOf(41051))).status, 200);
-    EXPECT_EQ(textOf(trusted), textOf(folder.path() / "ca.pem"));
-    using std::filesystem::perms;
-    EXPECT_EQ(std::filesystem::status(folder.path() / "authority.pem").permissions(),
-              perms::owner_read | perms::owner_write);
-}
-
-TEST_F(GatewayProgram, TurnsAwayWhatIsTooLargeAndGoesOn) {
+TEST_F(GatewayProgram, TurnsAwayWhatIsTooLargeAndStopsWhenAskedTo) {
     const std::tuple<long, std::string, std::string> cases[] = {
         {431, "Authorization-Provider", std::string(20'000, 'x')},
         {413, ":body", std::string(200'000, ' ')},
@@ -105,6 +70,23 @@ TEST_F(GatewayProgram, TurnsAwayWhatIsTooLargeAndGoesOn) {
     for (const auto& [status, part, value] : cases) {
         EXPECT_EQ(client.send(with(openRequest(41051), part, value)).status, status);
     }
+    EXPECT_EQ(gateway.end(SIGINT), 0);
+    EXPECT_EQ(gateway.readAll() + gateway.readAllStandardError(), "");
+    EXPECT_EQ(GatewayProcess({"--data", folder, "--stop-with-stdin"}).end(), 0);
+}
+
+TEST_F(GatewayProgram, KeepsItsAuthorityAndAtAResetNothingElse) {
+    ASSERT_EQ(client.send(associateRequest(41051, cartOf(41051))).status, 200);
+    gateway.end(SIGKILL);
+    GatewayProcess second({"--data", folder, "--ca", folder / "trust.pem", "--reset"});
+    HttpsClient known(second.port(), folder / "ca.pem");
+    EXPECT_EQ(known.send(associateRequest(41060, cartOf(41051))).status, 200);
+    QFile old(folder / "ca.pem");
+    QFile given(folder / "trust.pem");
+    EXPECT_TRUE(old.open(QIODevice::ReadOnly) && given.open(QIODevice::ReadOnly));
+    EXPECT_EQ(old.readAll(), given.readAll());
+    EXPECT_EQ(QFile(folder / "authority.pem").permissions() & ~(QFile::ReadUser | QFile::WriteUser),
+              QFile::ReadOwner | QFile::WriteOwner);
 }
 
 } // namespace quillet::gateway
