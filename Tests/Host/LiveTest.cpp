@@ -65,10 +65,7 @@ TEST(Live, TellsWhatHappensInItsOrderAndShowsTheHostCode) {
     QFile source(QUILLET_PROJECT_FOLDER "/" + HostCode::file());
     ASSERT_TRUE(source.open(QIODevice::ReadOnly));
     EXPECT_TRUE(QString::fromUtf8(source.readAll()).contains("\n" + shown + "\n")) << shown.toStdString();
-    for (const char* call : {"QuilletConfiguration::shared().configure(", "Starter::create(",
-                             "quillet::present(", "::navigateToCart()"}) {
-        EXPECT_TRUE(shown.contains(call)) << call;
-    }
+    EXPECT_TRUE(shown.contains("Starter::create(") && shown.contains("::navigateToCart()"));
     EXPECT_EQ(WarningCounter::count(), 0);
 }
 

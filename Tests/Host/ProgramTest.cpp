@@ -1,32 +1,19 @@
 #include "HostProgram.hpp"
 
-#include <QFile>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTcpServer>
 
-#include <gtest/gtest.h>
-
 namespace demo::testing {
 
 namespace {
 
-struct Program : ::testing::Test, HostProgram {
-    /// Runs the host on a play with this text and returns its exit status.
-    int play(const QByteArray& steps, const QStringList& more = {}) {
-        QFile file(folder.filePath("p.play"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(steps);
-        file.close();
-        return run(QStringList{"--play", file.fileName(), "--out", folder.filePath("out")} + more);
-    }
-
-    QJsonObject report() {
-        QFile file(folder.filePath("out/tour.json"));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return QJsonDocument::fromJson(file.readAll())["plays"][0].toObject();
+struct Program : HostProgram {
+    /// Runs the host on a play with these steps and returns its exit status.
+    int play(const QByteArray& steps, const QStringList& more) {
+        return run(QStringList{"--play", write(steps), "--out", folder.filePath("out")} + more);
     }
 };
 
@@ -41,7 +28,7 @@ size 844x390
 tap "Enviar productos a mi carrito"
 expect "Productos no enviados:"
 shot wide
-tap "Ir al carrito"
+tap "Ir para o carrinho"
 back
 title "Pedidos recibidos"
 )";
@@ -49,9 +36,11 @@ title "Pedidos recibidos"
 } // namespace
 
 TEST_F(Program, ReportsAPlayWithItsPicturesTrafficAnalyticsAndNavigation) {
-    ASSERT_EQ(play(noneAdded), 0) << complaint.toStdString();
-    EXPECT_EQ(complaint.toStdString(), "");
-    const QJsonObject told = report();
+    ASSERT_EQ(play(noneAdded, {"--language", "pt"}), 0) << complaint;
+    EXPECT_EQ(complaint, "");
+    QFile file(folder.filePath("out/tour.json"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonObject told = QJsonDocument::fromJson(file.readAll())["plays"][0].toObject();
     EXPECT_EQ(told["name"], "p");
     EXPECT_EQ(told["ok"], true);
     ASSERT_EQ(told["steps"].toArray().size(), 13);
@@ -78,32 +67,20 @@ TEST_F(Program, ReportsAPlayWithItsPicturesTrafficAnalyticsAndNavigation) {
     EXPECT_EQ(told["navigation"].toArray(), QJsonArray{"navigateToCart"});
 }
 
-TEST_F(Program, FailsWhereQtWarnsThoughThePlayWasMet) {
-    environment.insert("QT_QUICK_CONTROLS_CONF", "/nowhere");
-    EXPECT_EQ(play("handmade ERROR_CART_ALREADY_SUBMITTED\nexpect \"Você já registrou este pedido!\"\n",
-                   {"--language", "pt"}),
-              1);
-    EXPECT_EQ(report()["ok"], true);
-}
-
 TEST_F(Program, EndsWithOneLineWhereItCannotStart) {
     QTcpServer taken;
     ASSERT_TRUE(taken.listen(QHostAddress::LocalHost));
-    const std::pair<QStringList, QString> cases[] = {
-        {{"--gateway", "127.0.0.1:1", "--ca", "/nowhere"}, "cannot read the CA file /nowhere"},
-        {{"--port", QString::number(taken.serverPort())}, "quillet-gateway: cannot listen on 127.0.0.1:"},
-        {{"--gateway-program", "/nowhere"}, "cannot start the gateway: "},
+    const std::tuple<const char*, QStringList, std::string> cases[] = {
+        {"close", {"--gateway", "127.0.0.1:1", "--ca", "/nowhere"}, "cannot read the CA file /nowhere\n"},
+        {"close", {"--port", QString::number(taken.serverPort())}, "quillet-gateway: cannot listen on "},
+        {"close", {"--gateway-program", "/nowhere"}, "cannot start the gateway: "},
+        {"dance", {}, "p, line 1: unknown step \"dance\"\n"},
     };
-    for (const auto& [options, reason] : cases) {
-        SCOPED_TRACE(reason.toStdString());
-        EXPECT_GT(play("close\n", options), 0);
-        EXPECT_TRUE(complaint.startsWith("quillet-host: " + reason)) << complaint.toStdString();
-        EXPECT_EQ(complaint.count('\n'), 1) << complaint.toStdString();
+    for (const auto& [steps, options, reason] : cases) {
+        EXPECT_GT(play(steps, options), 0);
+        EXPECT_EQ(complaint.substr(0, reason.size() + 14), "quillet-host: " + reason);
+        EXPECT_EQ(complaint.find('\n'), complaint.size() - 1) << complaint;
     }
-    EXPECT_EQ(play("dance\n"), 2);
-    EXPECT_EQ(complaint.toStdString(), "quillet-host: p, line 1: unknown step \"dance\"\n");
-    EXPECT_EQ(run({"--play", folder.path(), "--out", folder.path()}), 2);
-    EXPECT_EQ(complaint, "quillet-host: cannot read the play " + folder.path() + "\n");
 }
 
 } // namespace demo::testing
