@@ -12,6 +12,7 @@ struct Chrome : HostWindow {
         return item.mapRectToItem(host->phone(), QRectF(0, 0, item.width(), item.height()));
     }
     [[nodiscard]] QQuickItem& page() const { return *stack().property("currentItem").value<QQuickItem*>(); }
+    [[nodiscard]] bool rests() const { return settle() && page().x() == 0 && page().opacity() == 1; }
     /// Every text that does not fit into the phone-sized area, or into its own box.
     [[nodiscard]] std::string cutTexts() const {
         QStringList cut;
@@ -30,49 +31,35 @@ struct Chrome : HostWindow {
 
 } // namespace
 
-TEST_F(Chrome, KeepsOffTheEdgesAndTurnsRound) {
-    const std::tuple<Qt::LayoutDirection, QMarginsF, QPointF, QPointF> cases[] = {
-        {Qt::LeftToRight, {}, {0, 0}, {56, 304}},
-        {Qt::RightToLeft, {}, {264, 0}, {16, 264}},
-        {Qt::LeftToRight, {20, 44, 30, 34}, {20, 44}, {76, 274}},
-        {Qt::RightToLeft, {20, 44, 30, 34}, {234, 44}, {36, 234}},
+TEST_F(Chrome, MovesItsPagesByDirectionOrFadesThemAndKeepsOffTheEdges) {
+    // The side from which a page comes, and where the bar's arrow, and its title from left to right, then
+    // are.
+    const std::tuple<Appearance, QMarginsF, double, QPointF, QPointF> cases[] = {
+        {{.direction = Qt::LeftToRight}, {}, 1, {0, 0}, {56, 304}},
+        {{.reducedMotion = true, .direction = Qt::RightToLeft}, {}, 0, {264, 0}, {16, 264}},
+        {{.direction = Qt::LeftToRight}, {20, 44, 30, 34}, 1, {20, 44}, {76, 274}},
+        {{.direction = Qt::RightToLeft}, {20, 44, 30, 34}, -1, {234, 44}, {36, 234}},
     };
-    host->navigateToCart();
-    ASSERT_TRUE(settle());
-    for (const auto& [direction, insets, back, title] : cases) {
-        SCOPED_TRACE(::testing::Message() << direction << ", top inset " << insets.top());
-        apply({.direction = direction});
-        quillet::setSafeAreaInsets(*host->phone(), insets);
-        EXPECT_EQ(place("hostBack").topLeft(), back);
-        EXPECT_EQ(item("hostBack").rotation(), direction == Qt::RightToLeft ? 180 : 0);
-        EXPECT_EQ(QPointF(place("hostTitle").left(), place("hostTitle").right()), title);
-        EXPECT_EQ(place("hostBar").bottom(), insets.top() + 56);
-        EXPECT_EQ(place("hostMessage").left(), insets.left() + 32);
-        EXPECT_EQ(place("hostMessage").right(), 320 - insets.right() - 32);
-        // On the page below, which has moved away.
-        EXPECT_EQ(item("hostOrder").x(), insets.left() + 16);
-        EXPECT_EQ(item("hostOrder").width(), 320 - insets.left() - insets.right() - 2 * 16);
-        EXPECT_EQ(place("hostOrder").top(), insets.top() + 56 + 16);
-    }
-}
-
-TEST_F(Chrome, MovesItsPagesByDirectionOrFadesThem) {
-    const std::pair<Appearance, double> cases[] = {
-        {{.direction = Qt::LeftToRight}, 1},
-        {{.direction = Qt::RightToLeft}, -1},
-        {{.reducedMotion = true, .direction = Qt::RightToLeft}, 0},
-    };
-    for (const auto& [appearance, side] : cases) {
-        SCOPED_TRACE(::testing::Message() << "side " << side);
+    for (const auto& [appearance, insets, side, back, title] : cases) {
+        SCOPED_TRACE(::testing::Message() << "side " << side << ", top inset " << insets.top());
         apply(appearance);
-        const auto rests = [&] { return settle() && page().x() == 0 && page().opacity() == 1; };
+        quillet::setSafeAreaInsets(*host->phone(), insets);
         host->navigateToCart();
         EXPECT_EQ(page().x(), side * stack().width());
         EXPECT_EQ(page().opacity(), side == 0 ? 0 : 1);
         EXPECT_TRUE(rests());
+        EXPECT_EQ(place("hostBack").topLeft(), back);
+        EXPECT_EQ(item("hostBack").rotation(), appearance.direction == Qt::RightToLeft ? 180 : 0);
+        EXPECT_EQ(QPointF(place("hostTitle").left(), place("hostTitle").right()), title);
+        EXPECT_EQ(place("hostBar").bottom(), insets.top() + 56);
+        EXPECT_EQ(place("hostMessage").left(), insets.left() + 32);
+        EXPECT_EQ(place("hostMessage").right(), 320 - insets.right() - 32);
         host->close();
         EXPECT_EQ(page().x(), -side * kel::KelSizes::large);
         EXPECT_TRUE(rests());
+        EXPECT_EQ(place("hostOrder"),
+                  QRectF(QPointF(insets.left() + 16, insets.top() + 72),
+                         QSizeF(288 - insets.left() - insets.right(), place("hostOrder").height())));
     }
 }
 

@@ -1,20 +1,51 @@
-#include "HostProgram.hpp"
+#include "Play/LanguagePlay.hpp"
 
+#include <QDir>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
+#include <QProcess>
 #include <QTcpServer>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <set>
 
 namespace demo::testing {
 
 namespace {
 
-struct Program : HostProgram {
-    /// Runs the host on a play with these steps and returns its exit status.
+/// The sample host as a person starts it, and a folder for what it writes.
+struct Program : ::testing::Test {
+    /// Runs the program to its end and returns its exit status, or -1 if it crashed.
+    int run(const QStringList& arguments) {
+        QProcess host;
+        // Qt warns where this variable is unset, which it is not in a desktop session.
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_RUNTIME_DIR", runtime.path());
+        host.setProcessEnvironment(environment);
+        host.start(QUILLET_HOST_PROGRAM, arguments);
+        EXPECT_TRUE(host.waitForFinished(50'000));
+        complaint = QString::fromUtf8(host.readAllStandardError()).toStdString();
+        return host.exitStatus() == QProcess::NormalExit ? host.exitCode() : -1;
+    }
+    /// Runs the host on a play with these steps.
     int play(const QByteArray& steps, const QStringList& more) {
         return run(QStringList{"--play", write(steps), "--out", folder.filePath("out")} + more);
     }
+    /// Writes a play with these steps.
+    QString write(const QByteArray& steps) {
+        QFile file(folder.filePath("p.play"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(steps);
+        return file.fileName();
+    }
+
+    const QTemporaryDir folder;
+    const QTemporaryDir runtime;
+    /// What the program wrote to standard error.
+    std::string complaint;
 };
 
 // The outcome that takes the fewest taps. The button is in view only where the page ends.
@@ -80,6 +111,67 @@ TEST_F(Program, EndsWithOneLineWhereItCannotStart) {
         EXPECT_GT(play(steps, options), 0);
         EXPECT_EQ(complaint.substr(0, reason.size() + 14), "quillet-host: " + reason);
         EXPECT_EQ(complaint.find('\n'), complaint.size() - 1) << complaint;
+    }
+}
+
+TEST_F(Program, PlaysALanguageInAProcessOfItsOwn) {
+    PlayScript play;
+    play.name = "p";
+    play.source = write("language pt\nhandmade ERROR_CART_ALREADY_SUBMITTED\n"
+                        "expect \"Você já registrou este pedido!\"\nshot asked\n");
+    Options tour;
+    tour.outFolder = folder.path();
+    tour.size = {320, 568};
+    // A play that was met fails where Qt warned.
+    for (const bool warns : {true, false}) {
+        qputenv("QT_QUICK_CONTROLS_CONF", warns ? "/nowhere" : "");
+        const QJsonObject report = runLanguagePlay(QUILLET_HOST_PROGRAM, play, tour);
+        EXPECT_EQ(report["ok"], !warns);
+        EXPECT_EQ(report["name"], "p");
+        EXPECT_EQ(report["steps"][3]["shot"], "p/asked.png");
+        EXPECT_EQ(QImage(folder.filePath("p/asked.png")).size(), QSize(640, 1136));
+        EXPECT_FALSE(QFile::exists(folder.filePath("p/tour.json")));
+    }
+}
+
+TEST_F(Program, DrawsAGalleryWithADifferenceAlongEachAxis) {
+    ASSERT_EQ(run({"--gallery", folder.path(), "--quick"}), 0) << complaint;
+    EXPECT_EQ(complaint, "");
+    QFile index(folder.filePath("index.html"));
+    ASSERT_TRUE(index.open(QIODevice::ReadOnly));
+    const QString html = QString::fromUtf8(index.readAll());
+    const QJsonArray axes =
+        QJsonDocument::fromJson(html.section("const axes = ", 1).section(";\n", 0, 0).toUtf8()).array();
+    qsizetype all = 1;
+    for (const QJsonValue axis : axes) {
+        EXPECT_GE(axis["values"].toArray().size(), 2) << axis["name"].toString().toStdString();
+        all *= axis["values"].toArray().size();
+    }
+
+    std::set<QByteArray> pictures;
+    for (const QString& file : QDir(folder.path()).entryList({"*.png"})) {
+        SCOPED_TRACE(file.toStdString());
+        const QImage picture(folder.filePath(file));
+        pictures.emplace(reinterpret_cast<const char*>(picture.constBits()), picture.sizeInBytes());
+        // By screen, theme, language, text size and size.
+        const QStringList name = file.chopped(4).split('.');
+        ASSERT_EQ(name.size(), axes.size());
+        EXPECT_EQ(QStringLiteral("%1x%2").arg(picture.width()).arg(picture.height()), name[4]);
+        for (qsizetype axis = 0; axis < name.size(); ++axis) {
+            EXPECT_TRUE(axes[axis]["values"].toArray().contains(name[axis]));
+        }
+    }
+    EXPECT_EQ(pictures.size(), all);
+}
+
+TEST_F(Program, FailsWhereItCannotWriteAPicture) {
+    for (const char* const language : {"es", "xb"}) {
+        const auto taken = QStringLiteral("loading.light.%1.100.320x568.png").arg(language);
+        ASSERT_TRUE(QDir(folder.path()).mkpath(taken));
+    }
+    EXPECT_EQ(run({"--gallery", folder.path(), "--quick"}), 1);
+    for (const char* const file : {"loading.light.es.100.320x568.png", "loading.light.xb.100.320x568.png"}) {
+        EXPECT_NE(complaint.find("cannot write " + folder.filePath(file).toStdString()), std::string::npos);
     }
 }
 
