@@ -2,6 +2,8 @@
 #include "Gateway/RunningGateway.hpp"
 #include "Support/Thorough.hpp"
 
+#include <QElapsedTimer>
+
 #include <csignal>
 #include <ctime>
 #include <future>
@@ -16,15 +18,7 @@ namespace {
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
-struct GatewayReliability : RunningGateway {
-    static void expectServerError(const Exchange& exchange) {
-        EXPECT_EQ(exchange.code, CURLE_OK) << curl_easy_strerror(exchange.code);
-        EXPECT_EQ(exchange.status, 500);
-        const auto body = Json::parse(exchange.body, nullptr, false);
-        ASSERT_TRUE(body.is_object()) << exchange.body;
-        EXPECT_EQ(body["error"]["message"], "ERROR_DATABASE");
-    }
-};
+using GatewayReliability = RunningGateway;
 
 // Consultant 41051's order gets forty products more. There is as much of each as she may send once, so that
 // half an order could not be sent again.
@@ -49,29 +43,30 @@ TEST_F(GatewayReliability, KeepsAnOrderWholeOrNotAtAllWhenItIsKilled) {
     gateway.end(SIGKILL);
     fs::copy_file(file, prepared);
     // Starts the gateway, and kills it when it has answered or this time is over.
-    const auto checkOut = [&](std::chrono::microseconds deadline, const std::string& fault) {
+    qint64 taken = 0;
+    const auto checkOut = [&](std::chrono::milliseconds deadline, const std::string& fault) {
         GatewayProcess serving({"--data", folder});
         HttpsClient caller(serving.port(), folder / "ca.pem");
         EXPECT_EQ(caller.send(openRequest(41051)).status, 200);
         Database(file).script(fault);
-        const auto begun = std::chrono::steady_clock::now();
-        const auto exchange =
-            caller.send(checkoutRequest(41051), std::chrono::ceil<std::chrono::milliseconds>(deadline));
-        const auto taken = std::chrono::steady_clock::now() - begun;
+        QElapsedTimer timer;
+        timer.start();
+        const auto status = caller.send(checkoutRequest(41051), deadline).status;
+        taken = timer.elapsed();
         EXPECT_EQ(serving.end(SIGKILL), -1);
-        return std::pair(exchange.status, std::chrono::ceil<std::chrono::microseconds>(taken));
+        return status;
     };
-    const auto [status, usual] = checkOut(20s, "");
-    ASSERT_EQ(status, 200);
+    ASSERT_EQ(checkOut(20s, ""), 200);
+    const auto usual = taken;
 
     int kept = 0;
     const auto moments = static_cast<int>(quillet::testing::thorough(6, 60));
     for (int moment = 1; moment <= moments; ++moment) {
         fs::copy_file(prepared, file, fs::copy_options::overwrite_existing);
         // With the answer held back, the later moments come after the order was sent.
-        checkOut(2 * usual * moment / moments,
+        checkOut(std::chrono::milliseconds(1 + 2 * usual * moment / moments),
                  "INSERT INTO faults VALUES (41051, 'checkout', 'delay', '600000', 1)");
-        const auto again = checkOut(20s, "DELETE FROM faults").first;
+        const auto again = checkOut(20s, "DELETE FROM faults");
         EXPECT_THAT(again, ::testing::AnyOf(200, 400));
         kept += again == 400 ? 1 : 0;
         Database database(file);
@@ -87,7 +82,7 @@ TEST_F(GatewayReliability, AnswersThatTheDatabaseIsLockedAndGoesOnOnceItIsNot) {
     EXPECT_EQ(client.send(associateRequest(41051, cartOf(41051))).status, 200);
     Database other(folder / "gateway.sqlite");
     other.script("BEGIN EXCLUSIVE");
-    expectServerError(client.send(checkoutRequest(41051), 10s));
+    EXPECT_EQ(client.ask(checkoutRequest(41051)), "500 ERROR_DATABASE");
     other.script("ROLLBACK");
     EXPECT_EQ(client.send(checkoutRequest(41051)).status, 200);
 }
@@ -109,7 +104,7 @@ TEST_F(GatewayReliability, AnswersThatTheDiskIsFullAndGoesOnOnceItIsNot) {
     EXPECT_EQ(caller.send(associateRequest(41051, cartOf(41051))).status, 200);
     std::ofstream(seen + "/filling") << std::string(1 << 20, 'x');
     for (int request = 0; request < 12; ++request) {
-        expectServerError(caller.send(checkoutRequest(41051)));
+        EXPECT_EQ(caller.ask(checkoutRequest(41051)), "500 ERROR_DATABASE");
     }
     EXPECT_EQ(caller.send(openRequest(41051)).status, 200);
     fs::remove(seen + "/filling");
@@ -144,16 +139,17 @@ TEST_F(GatewayReliability, WaitsForAHandleInsteadOfSpinning) {
     const rlimit none{.rlim_cur = 3, .rlim_max = usual.rlim_max};
     ASSERT_EQ(::prlimit(id, RLIMIT_NOFILE, &none, nullptr), 0);
     clockid_t clock{};
-    timespec before{};
-    timespec after{};
     ASSERT_EQ(::clock_getcpuclockid(id, &clock), 0);
-    ::clock_gettime(clock, &before);
+    const auto milliseconds = [&] {
+        timespec used{};
+        ::clock_gettime(clock, &used);
+        return static_cast<int>(used.tv_sec * 1000 + used.tv_nsec / 1'000'000);
+    };
+    const int before = milliseconds();
     EXPECT_EQ(client.send(openRequest(41051), 1s).code, CURLE_OPERATION_TIMEDOUT);
-    ::clock_gettime(clock, &after);
-    const auto milliseconds =
-        (after.tv_sec - before.tv_sec) * 1000 + (after.tv_nsec - before.tv_nsec) / 1'000'000;
-    EXPECT_LT(milliseconds, 50);
-    RecordProperty("milliseconds", static_cast<int>(milliseconds));
+    const int taken = milliseconds() - before;
+    EXPECT_LT(taken, 50);
+    RecordProperty("milliseconds", taken);
     ASSERT_EQ(::prlimit(id, RLIMIT_NOFILE, &usual, nullptr), 0);
     EXPECT_EQ(client.send(openRequest(41051)).status, 200);
 }

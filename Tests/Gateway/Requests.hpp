@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Gateway/Json.hpp"
 #include "Gateway/RequestCheck.hpp"
 #include "Quillet/Authorization.hpp"
 
@@ -40,10 +41,6 @@ inline Request request(const std::string& method, const std::string& target,
     return {.method = method, .target = target, .headers = std::move(headers), .body = body};
 }
 
-inline std::string pathOf(std::uint64_t consultant, const std::string& country) {
-    return "/quillet-bff/consultants/" + country + "/" + std::to_string(consultant) + "/sell-out-carts";
-}
-
 /// The first of the three calls as the module makes them.
 inline Request associateRequest(std::uint64_t consultant, const std::string& cart) {
     return request("PATCH", "/quillet-bff/sell-out-carts/" + cart,
@@ -52,11 +49,16 @@ inline Request associateRequest(std::uint64_t consultant, const std::string& car
 }
 
 inline Request openRequest(std::uint64_t consultant, const std::string& country = "CL") {
-    return request("GET", pathOf(consultant, country) + "?status=OPEN", {{"Accept", "application/json"}});
+    return request("GET",
+                   "/quillet-bff/consultants/" + country + "/" + std::to_string(consultant) +
+                       "/sell-out-carts?status=OPEN",
+                   {{"Accept", "application/json"}});
 }
 
 inline Request checkoutRequest(std::uint64_t consultant, const std::string& country = "CL") {
-    return request("POST", pathOf(consultant, country) + "/checkout",
+    return request("POST",
+                   "/quillet-bff/consultants/" + country + "/" + std::to_string(consultant) +
+                       "/sell-out-carts/checkout",
                    {{"Accept", "application/json"}, {"Authorization-Provider", "sales-app"}});
 }
 
@@ -65,6 +67,23 @@ inline std::string cartOf(std::uint64_t consultant) {
     const auto number = std::to_string(consultant);
     return consultant == 41052 ? "7f3c9a10-52e1-4d0b-9c77-1f0a6b2e84d3"
                                : number + "a00-52e1-4d0b-9c77-1f0a6b2e84" + number.substr(3);
+}
+
+/// An answer's status, what it says of a failure, a verdict or a cart, and of each product and open cart.
+inline std::string told(long status, const std::string& answer) {
+    const auto body = Json::parse(answer, nullptr, false);
+    auto text = std::to_string(status);
+    for (const char* const place : {"/error/message", "/message", "/cart/status"}) {
+        const auto said = body.value(Json::json_pointer(place), std::string());
+        text += (said.empty() ? "" : " ") + said;
+    }
+    for (const auto& product : body.value("products", Json())) {
+        text += ", " + product["productCode"].dump() + " " + product["status"].get<std::string>();
+    }
+    for (const auto& cart : body.value("carts", Json())) {
+        text += ", " + cart["cartNumber"].dump();
+    }
+    return text;
 }
 
 } // namespace quillet::gateway

@@ -1,21 +1,54 @@
 #pragma once
 
-#include "Gateway/GatewayProcess.hpp"
 #include "Gateway/Json.hpp"
 #include "Gateway/Requests.hpp"
 
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest/qtestsystem.h>
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include <curl/curl.h>
 #include <gmock/gmock.h>
 
 namespace quillet::gateway {
+
+/// The program as a child process, whose standard input has ended. The destructor kills it if it still runs.
+struct GatewayProcess : QProcess {
+    /// `launcher` is a command that is followed by the program and its arguments.
+    explicit GatewayProcess(const std::vector<std::string>& arguments, QStringList launcher = {}) {
+        launcher << QUILLET_GATEWAY_PROGRAM;
+        for (const auto& argument : arguments) {
+            launcher << QString::fromStdString(argument);
+        }
+        setStandardInputFile(nullDevice());
+        start(launcher.takeFirst(), launcher);
+    }
+    ~GatewayProcess() override { end(SIGKILL); }
+
+    /// Waits for the line with the port; 0 if the program ended without one.
+    std::uint16_t port() {
+        while (!canReadLine() && waitForReadyRead()) {
+        }
+        return readLine().trimmed().split(':').last().toUShort();
+    }
+
+    /// Sends a signal, if there is one, and waits for the end. Death by a signal is the status -1.
+    int end(int signal = 0) {
+        if (state() != NotRunning) {
+            ::kill(static_cast<pid_t>(processId()), signal);
+        }
+        waitForFinished();
+        return exitStatus() == NormalExit ? exitCode() : -1;
+    }
+};
 
 /// The outcome of an exchange.
 struct Exchange {
@@ -60,6 +93,12 @@ public:
         curl_easy_getinfo(curl_.get(), CURLINFO_RESPONSE_CODE, &exchange.status);
         curl_slist_free_all(headers);
         return exchange;
+    }
+
+    /// What the answer tells.
+    std::string ask(const Request& request) {
+        const auto exchange = send(request);
+        return told(exchange.status, exchange.body);
     }
 
     /// Connects, up to the end of the TLS handshake or without one, and says nothing.

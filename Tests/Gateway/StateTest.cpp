@@ -18,22 +18,9 @@ struct GatewayState : ::testing::Test {
     [[nodiscard]] Json ask(const Request& request) const {
         return Json::parse(router.handle(request).reply.body);
     }
-    /// The status, what the body says of a failure, a verdict or a cart, and of each product and open cart.
     [[nodiscard]] std::string told(const Request& request) const {
         const auto reply = router.handle(request).reply;
-        const auto body = Json::parse(reply.body);
-        auto text = std::to_string(reply.status);
-        for (const char* const place : {"/error/message", "/message", "/cart/status"}) {
-            const auto said = body.value(Json::json_pointer(place), std::string());
-            text += (said.empty() ? "" : " ") + said;
-        }
-        for (const auto& product : body.value("products", Json())) {
-            text += ", " + product["productCode"].dump() + " " + product["status"].get<std::string>();
-        }
-        for (const auto& cart : body.value("carts", Json())) {
-            text += ", " + cart["cartNumber"].dump();
-        }
-        return text;
+        return gateway::told(reply.status, reply.body);
     }
     [[nodiscard]] std::string associate(std::uint64_t consultant, std::uint64_t owner) const {
         return told(associateRequest(consultant, cartOf(owner)));
@@ -164,13 +151,6 @@ TEST_F(GatewayState, SendsOnlyOnceWhenTwoCheckoutsMeet) {
     std::ranges::sort(answers);
     EXPECT_THAT(answers, ::testing::ElementsAre(sent, nothingToSend, nothingToSend, nothingToSend));
     EXPECT_EQ(stock(70412), 498);
-}
-
-TEST_F(GatewayState, AnswersAServerErrorWhenItsDatabaseIsSpoilt) {
-    database.script("UPDATE faults SET kind = 'earthquake' WHERE consultant = 41055;"
-                    "UPDATE cart_lines SET description = CAST(x'ff' AS TEXT)");
-    EXPECT_EQ(associate(41055, 41055), "500 ERROR_DATABASE");
-    EXPECT_EQ(associate(41051, 41051), "500 ERROR_DATABASE");
 }
 
 } // namespace quillet::gateway

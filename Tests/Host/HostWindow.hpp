@@ -23,23 +23,22 @@ inline QList<QQuickItem*> itemsIn(const QQuickItem& item) {
     return items;
 }
 
-inline QList<QQuickItem*> textsIn(const QQuickItem& item) {
-    QList<QQuickItem*> texts = itemsIn(item);
-    texts.removeIf([](const QQuickItem* text) {
-        return !text->property("truncated").isValid() || !text->isVisible() ||
-               text->property("text").toString().isEmpty();
-    });
-    return texts;
-}
-
+/// The texts that are shown, each with a mark where it does not fit into its box.
 inline std::string wordsIn(const QQuickItem& item) {
     QStringList words;
-    for (const QQuickItem* text : textsIn(item)) {
-        words << text->property("text").toString();
+    for (const QQuickItem* text : itemsIn(item)) {
+        const QString word = text->property("text").toString();
+        // An icon is a letter of a font of its own.
+        if (!text->property("truncated").isValid() || !text->isVisible() || word.isEmpty() ||
+            word[0].category() == QChar::Other_PrivateUse) {
+            continue;
+        }
+        const bool isCut = text->property("truncated").toBool() ||
+                           text->property("contentWidth").toDouble() > text->width() + 1 ||
+                           text->property("contentHeight").toDouble() > text->height() + 1;
+        words << word + (isCut ? " (cut)" : "");
     }
-    // An icon is a letter of a font of its own.
-    words.removeIf([](const QString& word) { return word[0].category() == QChar::Other_PrivateUse; });
-    return words.join(QStringLiteral(" | ")).toStdString();
+    return words.join(" | ").toStdString();
 }
 
 /// The host in a window, with one order in its list and no gateway. No test may make it warn.

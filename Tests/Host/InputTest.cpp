@@ -1,6 +1,6 @@
-#include "Options.hpp"
 #include "KelCommon/KelLocalized.hpp"
 #include "Language.hpp"
+#include "Options.hpp"
 #include "PhoneArea.hpp"
 #include "Play/PlayScript.hpp"
 #include "Resources/ModuleBundle.hpp"
