@@ -6,6 +6,22 @@
 
 namespace quillet::gateway {
 
+namespace {
+
+void expectRefused(const Request& request, int status) {
+    SCOPED_TRACE(request.method + " " + request.target);
+    const auto checked = checkRequest(request, builtInIdentity());
+    ASSERT_FALSE(checked);
+    EXPECT_EQ(checked.error().status, status);
+    const auto json = Json::parse(checked.error().body);
+    EXPECT_EQ(json["statusCode"], status);
+    EXPECT_EQ(json["path"], request.target);
+    EXPECT_EQ(json["error"], reasonPhrase(status));
+    EXPECT_FALSE(json["details"].get<std::string>().empty());
+}
+
+} // namespace
+
 TEST(GatewayRequests, AreTakenAsTheModuleSendsThem) {
     const auto associate =
         checkRequest(associateRequest(18446744073709551615u, "a%20b/%C3%B1"), builtInIdentity());
@@ -54,16 +70,8 @@ TEST(GatewayRequests, ThatAreWrongGetAClientErrorWithAllItsKeys) {
         {422, associate, ":body", R"({"id":41051})"},
     };
     for (const auto& [status, good, part, value] : cases) {
-        SCOPED_TRACE(good.target + " with " + part + " " + value.value_or("left out"));
-        const auto request = with(good, part, value);
-        const auto checked = checkRequest(request, builtInIdentity());
-        ASSERT_FALSE(checked);
-        EXPECT_EQ(checked.error().status, status);
-        const auto json = Json::parse(checked.error().body);
-        EXPECT_EQ(json["statusCode"], status);
-        EXPECT_EQ(json["path"], request.target);
-        EXPECT_EQ(json["error"], reasonPhrase(status));
-        EXPECT_FALSE(json["details"].get<std::string>().empty());
+        SCOPED_TRACE(part + " " + value.value_or("left out"));
+        expectRefused(with(good, part, value), status);
     }
 }
 
@@ -87,10 +95,7 @@ TEST(GatewayRequests, SteerToNoOtherResource) {
     for (const auto& [target, status] : targets) {
         for (const auto& request :
              {associateRequest(41051, ""), openRequest(41051), checkoutRequest(41051)}) {
-            SCOPED_TRACE(request.method + " " + target);
-            const auto checked = checkRequest(with(request, ":target", target), builtInIdentity());
-            ASSERT_FALSE(checked);
-            EXPECT_EQ(checked.error().status, status);
+            expectRefused(with(request, ":target", target), status);
         }
     }
     RecordProperty("cases", static_cast<int>(3 * std::size(targets)));
