@@ -2,6 +2,7 @@
 #include "Kept.hpp"
 #include "Language.hpp"
 #include "Looks.hpp"
+#include "Named.hpp"
 #include "Support/Reading.hpp"
 
 #include <gtest/gtest.h>
@@ -81,12 +82,6 @@ std::vector<Translated> translated() {
     return all;
 }
 
-GalleryTheme themeCalled(const char* name) {
-    const auto themes = galleryAxes(false).themes;
-    return *std::ranges::find(themes, QLatin1String(name),
-                              [](const GalleryTheme& theme) { return QLatin1String(theme.name); });
-}
-
 QStringList heardOn(const GalleryStage& stage) {
     return toLines(
         quillet::testing::readingOrder(*QAccessible::queryAccessibleInterface(stage.host().window())));
@@ -107,7 +102,7 @@ TEST_P(Descriptions, SayWhatIsSeenAndHeard) {
     GalleryStage stage;
     const auto opened = stage.open(galleryScreen(GetParam().screen), {GetParam().width, height});
     ASSERT_TRUE(opened) << opened.error().toStdString();
-    const auto picture = stage.picture(themeCalled(GetParam().theme), {100, false});
+    const auto picture = stage.picture(galleryTheme(GetParam().theme), {100, false});
     ASSERT_TRUE(picture) << picture.error().toStdString();
     expectKept(GetParam().name(), QStringList("seen:") + looksOf(*stage.host().phone()) +
                                       QStringList("heard:") + heardOn(stage));
@@ -121,7 +116,7 @@ TEST_P(Translations, SayWhatIsHeard) {
         useLanguage(language);
         GalleryStage stage;
         if (stage.open(galleryScreen(screen), {390, height}) &&
-            stage.picture(themeCalled("light"), {100, false})) {
+            stage.picture(galleryTheme("light"), {100, false})) {
             expectKept(QStringLiteral("%1.%2").arg(screen, language), heardOn(stage));
             std::fflush(nullptr);
             // The window is still there, which a check for leaks would take for many.

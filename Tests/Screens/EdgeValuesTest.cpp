@@ -1,4 +1,6 @@
+#include "Gallery/GalleryStage.hpp"
 #include "Kept.hpp"
+#include "Named.hpp"
 #include "Support/Reading.hpp"
 
 #include <gtest/gtest.h>

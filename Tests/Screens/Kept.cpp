@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace demo::testing {
 
 void expectKept(const QString& name, const QStringList& lines) {
@@ -17,11 +15,6 @@ void expectKept(const QString& name, const QStringList& lines) {
     }
     ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
     EXPECT_EQ(told.toStdString(), file.readAll().toStdString()) << file.fileName().toStdString();
-}
-
-GalleryScreen galleryScreen(const QString& name) {
-    const auto screens = galleryScreens(false);
-    return *std::ranges::find(screens, name, &GalleryScreen::name);
 }
 
 QStringList toLines(const std::vector<std::string>& lines) {

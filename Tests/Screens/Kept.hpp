@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Gallery/GalleryStage.hpp"
-
 #include <QStringList>
 
 namespace demo::testing {
@@ -9,9 +7,6 @@ namespace demo::testing {
 /// Compares lines with those kept in Expected under this name, and fails where they differ. With
 /// QUILLET_RENEW_DESCRIPTIONS set it keeps them instead, and the test counts as skipped.
 void expectKept(const QString& name, const QStringList& lines);
-
-/// A screen of the gallery by its name.
-[[nodiscard]] GalleryScreen galleryScreen(const QString& name);
 
 [[nodiscard]] QStringList toLines(const std::vector<std::string>& lines);
 

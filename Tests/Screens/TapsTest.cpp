@@ -1,6 +1,7 @@
 #include "Gallery/GalleryStage.hpp"
 #include "KelCommon/KelAnalyticsManager.hpp"
 #include "Kept.hpp"
+#include "Named.hpp"
 #include "Play/Hands.hpp"
 #include "Play/Stage.hpp"
 #include "Quillet/Testing/RecordingHost.hpp"

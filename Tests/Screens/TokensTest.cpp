@@ -1,3 +1,4 @@
+#include "Gallery/GalleryAxes.hpp"
 #include "KelCommon/KelLocalized.hpp"
 #include "KelDS/KelDS.hpp"
 #include "KelDS/KelIcons.hpp"
