@@ -54,43 +54,6 @@ struct SaleSummaryCalls : ModuleTest {
 
 } // namespace
 
-TEST_F(SaleSummaryCalls, AskForTheOpenOrdersOnlyAfterTheAssociationHoweverItEnded) {
-    const platform::URLError timedOut{platform::URLError::Code::timedOut, ""};
-    std::string sofar;
-    for (const Reply& reply :
-         {Reply::sample(Call::associate), Reply{.status = 422}, Reply{.error = timedOut}}) {
-        backend->script(Call::associate, {Reply{reply.status, reply.body, seconds(5), reply.error}});
-        backend->script(Call::getOpenOrders, {openOrdersFail});
-        ASSERT_TRUE(open(stage.stack()));
-        EXPECT_EQ(calls(), sofar + "PATCH ...");
-        expectAfter(seconds(5), sofar + "PATCH GET ...");
-        sofar += "PATCH GET ";
-        expectAfter(seconds(2), sofar);
-        stage.popAll();
-    }
-}
-
-TEST_F(SaleSummaryCalls, RepeatOnlyThoseThatHaveNotSucceeded) {
-    backend->script(Call::associate, {Reply{.status = 504, .after = seconds(5)}});
-    ASSERT_TRUE(open(stage.stack()));
-    expectAfter(seconds(5), "PATCH GET ");
-    stage.click("Actualizar");
-    EXPECT_EQ(calls(), "PATCH GET PATCH ...");
-}
-
-TEST_F(SaleSummaryCalls, AreOneCheckoutHoweverOftenItIsTapped) {
-    backend->script(Call::checkout, {Reply::never()});
-    ASSERT_TRUE(open(stage.stack()) && showSummary(stage));
-    taken(log);
-    const QPointF button = stage.middle(send);
-    stage.clickAt(button);
-    stage.clickAt(button);
-    stage.touchAt(button);
-    EXPECT_THAT(taken(log),
-                ::testing::ElementsAre(event("My Clients Orders", "Send Orders to Cart - Click")));
-    EXPECT_EQ(calls(), "PATCH GET POST ...");
-}
-
 TEST_F(SaleSummaryCalls, LeadNowhereWithoutAHost) {
     backend->script(Call::associate, {Reply{.status = 500}});
     ASSERT_TRUE(open(stage.stack()) && turnUntil([&] { return stage.shows("Volver"); }));

@@ -6,32 +6,13 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <ctime>
 #include <limits>
 
 namespace quillet::testing {
 
-namespace {
-
-constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
-
-/// Sets the device's time zone while it exists.
-class DeviceZone {
-public:
-    explicit DeviceZone(const char* zone) {
-        ::setenv("TZ", zone, 1);
-        ::tzset();
-    }
-    ~DeviceZone() {
-        ::unsetenv("TZ");
-        ::tzset();
-    }
-};
-
-} // namespace
-
 TEST(SaleSummaryPresenters, HandPointsBeyondAllNumbersToTheFatalHook) {
+    constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
     std::vector<std::string> files;
     const auto previous =
         std::exchange(FatalErrorWrapper::fatalErrorClosure,
@@ -66,12 +47,15 @@ TEST(SaleSummaryPresenters, ShowTheCyclesDaysInUtcAndTheOrdersInTheDevicesZone) 
                                       *iso8601Full("2023-03-21T23:59:59.000+0000")};
     for (const auto& [zone, created, day] : cases) {
         SCOPED_TRACE(std::string(zone) + " " + created);
-        const DeviceZone device(zone);
+        qputenv("TZ", zone);
+        ::tzset();
         const HighlightedOrderView order({OrderPointsPresenter(0), {}, *iso8601Full(created), 0});
         EXPECT_EQ(order.orderDateLabel(), day);
         EXPECT_EQ(period.startText(), "Inicio: 01/03/2023");
         EXPECT_EQ(period.endText(), "Cierre: 21/03/2023");
     }
+    qunsetenv("TZ");
+    ::tzset();
 }
 
 } // namespace quillet::testing
