@@ -2,7 +2,6 @@
 #include "KelDS/KelDialogController.hpp"
 #include "Kept.hpp"
 #include "Looks.hpp"
-#include "Support/Reading.hpp"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -52,10 +51,6 @@ struct Controls : ::testing::Test {
         EXPECT_TRUE(window) << component.errorString().toStdString();
     }
 
-    [[nodiscard]] QStringList heard() const {
-        return toLines(quillet::testing::readingOrder(*QAccessible::queryAccessibleInterface(window.get())));
-    }
-
     QQmlEngine engine;
     std::unique_ptr<QQuickWindow> window;
 };
@@ -63,13 +58,14 @@ struct Controls : ::testing::Test {
 } // namespace
 
 TEST_F(Controls, LookAndSoundAsTheyAreDescribed) {
-    expectKept(QStringLiteral("controls"), looksOf(*window->contentItem()) + heard());
+    expectKept(QStringLiteral("controls"), looksOf(*window->contentItem()) + heardOf(*window));
 }
 
 TEST_F(Controls, HaveAnAlertThatIsHeard) {
     kel::KelDialogController::present(std::make_unique<kel::KelDialogController>("Title", "Body"), engine,
                                       *window->contentItem(), false);
-    EXPECT_EQ(heard().filter("Title") + heard().filter("Body") + heard().filter("Cerrar"),
+    const QStringList heard = heardOf(*window);
+    EXPECT_EQ(heard.filter("Title") + heard.filter("Body") + heard.filter("Cerrar"),
               QStringList({"dialog \"Title\"", "text \"Title\"", "text \"Body\"",
                            "button \"Cerrar\" #dialogCloseIcon"}));
 }

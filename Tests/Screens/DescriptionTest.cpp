@@ -3,7 +3,6 @@
 #include "Language.hpp"
 #include "Looks.hpp"
 #include "Named.hpp"
-#include "Support/Reading.hpp"
 
 #include <gtest/gtest.h>
 
@@ -82,11 +81,6 @@ std::vector<Translated> translated() {
     return all;
 }
 
-QStringList heardOn(const GalleryStage& stage) {
-    return toLines(
-        quillet::testing::readingOrder(*QAccessible::queryAccessibleInterface(stage.host().window())));
-}
-
 template <typename Param>
 std::string testName(const ::testing::TestParamInfo<Param>& instance) {
     QString name = QString::fromStdString(::testing::PrintToString(instance.param));
@@ -105,7 +99,7 @@ TEST_P(Descriptions, SayWhatIsSeenAndHeard) {
     const auto picture = stage.picture(galleryTheme(GetParam().theme), {100, false});
     ASSERT_TRUE(picture) << picture.error().toStdString();
     expectKept(GetParam().name(), QStringList("seen:") + looksOf(*stage.host().phone()) +
-                                      QStringList("heard:") + heardOn(stage));
+                                      QStringList("heard:") + heardOf(*stage.host().window()));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Descriptions, ::testing::ValuesIn(described), testName<Described>);
@@ -117,7 +111,7 @@ TEST_P(Translations, SayWhatIsHeard) {
         GalleryStage stage;
         if (stage.open(galleryScreen(screen), {390, height}) &&
             stage.picture(galleryTheme("light"), {100, false})) {
-            expectKept(QStringLiteral("%1.%2").arg(screen, language), heardOn(stage));
+            expectKept(QStringLiteral("%1.%2").arg(screen, language), heardOf(*stage.host().window()));
             std::fflush(nullptr);
             // The window is still there, which a check for leaks would take for many.
             std::_Exit(HasFailure() ? 1 : 0);

@@ -1,7 +1,6 @@
 #include "Gallery/GalleryStage.hpp"
 #include "Kept.hpp"
 #include "Named.hpp"
-#include "Support/Reading.hpp"
 
 #include <gtest/gtest.h>
 
@@ -94,9 +93,7 @@ TEST_P(EdgeValues, AreHeardAsTheyAreDescribed) {
     GalleryStage stage;
     const auto opened = stage.open(screen, {390, 1500});
     ASSERT_TRUE(opened) << opened.error().toStdString();
-    expectKept(QStringLiteral("edge.") + name,
-               toLines(quillet::testing::readingOrder(
-                   *QAccessible::queryAccessibleInterface(stage.host().window()))));
+    expectKept(QStringLiteral("edge.") + name, heardOf(*stage.host().window()));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, EdgeValues, ::testing::ValuesIn(edgeValues()), [](const auto& instance) {

@@ -1,5 +1,7 @@
 #include "Kept.hpp"
 
+#include "Support/Reading.hpp"
+
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -17,12 +19,8 @@ void expectKept(const QString& name, const QStringList& lines) {
     EXPECT_EQ(told.toStdString(), file.readAll().toStdString()) << file.fileName().toStdString();
 }
 
-QStringList toLines(const std::vector<std::string>& lines) {
-    QStringList result;
-    for (const std::string& line : lines) {
-        result << QString::fromStdString(line);
-    }
-    return result;
+QStringList heardOf(QWindow& window) {
+    return quillet::testing::readingOrder(*QAccessible::queryAccessibleInterface(&window));
 }
 
 } // namespace demo::testing

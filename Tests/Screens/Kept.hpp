@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <QWindow>
 
 namespace demo::testing {
 
@@ -8,6 +9,7 @@ namespace demo::testing {
 /// QUILLET_RENEW_DESCRIPTIONS set it keeps them instead, and the test counts as skipped.
 void expectKept(const QString& name, const QStringList& lines);
 
-[[nodiscard]] QStringList toLines(const std::vector<std::string>& lines);
+/// What a screen reader reads of a window, in its order.
+[[nodiscard]] QStringList heardOf(QWindow& window);
 
 } // namespace demo::testing

@@ -8,8 +8,6 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <array>
-#include <map>
 #include <optional>
 #include <ranges>
 #include <utility>
@@ -47,12 +45,10 @@ QString sizeOf(const QRectF& place) {
     return QStringLiteral("%1x%2").arg(std::lround(place.width())).arg(std::lround(place.height()));
 }
 
-QString weightName(int weight) {
-    static const std::map<int, QString> names{{QFont::Normal, QStringLiteral("regular")},
-                                              {QFont::Medium, QStringLiteral("medium")},
-                                              {QFont::DemiBold, QStringLiteral("semibold")}};
-    const auto found = names.find(weight);
-    return found == names.end() ? QString::number(weight) : found->second;
+/// The value's name in an enumeration of Qt's.
+template <typename Enum>
+QString keyOf(int value) {
+    return QString::fromLatin1(QMetaEnum::fromType<Enum>().valueToKey(value));
 }
 
 QString iconName(const QString& glyph) {
@@ -77,13 +73,11 @@ QString describedText(const QQuickItem& item) {
             .arg(font.pixelSize())
             .arg(color, turned);
     }
-    static const std::map<int, QString> alignments{{Qt::AlignLeft, QStringLiteral("left")},
-                                                   {Qt::AlignRight, QStringLiteral("right")},
-                                                   {Qt::AlignHCenter, QStringLiteral("centre")}};
+    const auto alignment = item.property("effectiveHorizontalAlignment").toInt();
     return QStringLiteral("\"%1\" %2, %3 %4 %5, %6")
         .arg(text, color, font.family())
         .arg(font.pixelSize())
-        .arg(weightName(font.weight()), alignments.at(item.property("effectiveHorizontalAlignment").toInt()));
+        .arg(keyOf<QFont::Weight>(font.weight()), keyOf<Qt::Alignment>(alignment).remove("Align"));
 }
 
 QString describedBox(const QQuickItem& item, double opacity) {
@@ -164,21 +158,18 @@ void collect(const QQuickItem& item, double opacity, Element& ground) {
     if (!item.isVisible() || opacity == 0) {
         return;
     }
-    // From bottom to top, as they are painted.
-    std::multimap<double, const QQuickItem*> children;
-    for (const QQuickItem* child : item.childItems()) {
-        children.emplace(child->z(), child);
-    }
-    const auto above = children.lower_bound(0);
-    for (auto child = children.begin(); child != above; ++child) {
-        collect(*child->second, opacity, ground);
-    }
+    // From bottom to top, as they are painted: those below zero lie under the item itself.
+    QList<QQuickItem*> children = item.childItems();
+    std::ranges::stable_sort(children, {}, &QQuickItem::z);
+    const auto above = std::ranges::lower_bound(children, 0.0, {}, &QQuickItem::z);
+    const auto collectAll = [&](auto first, auto last) {
+        std::for_each(first, last, [&](const QQuickItem* child) { collect(*child, opacity, ground); });
+    };
+    collectAll(children.begin(), above);
     if (auto element = describe(item, opacity)) {
         put(ground, *std::move(element));
     }
-    for (auto child = above; child != children.end(); ++child) {
-        collect(*child->second, opacity, ground);
-    }
+    collectAll(above, children.end());
 }
 
 bool areInOneRow(const Element& one, const Element& other) {
@@ -193,8 +184,7 @@ bool comesBefore(const Element& one, const Element& other) {
 }
 
 void write(std::vector<Element> elements, int depth, QStringList& lines) {
-    const Element* previous = nullptr;
-    std::optional<Element> last;
+    std::optional<Element> previous;
     while (!elements.empty()) {
         // To be beside another is not transitive, so this is no sort.
         const auto first = std::ranges::find_if(elements, [&](const Element& one) {
@@ -203,37 +193,27 @@ void write(std::vector<Element> elements, int depth, QStringList& lines) {
         });
         const auto next = first == elements.end() ? elements.begin() : first;
         const bool goesOn = previous && areInOneRow(*previous, *next);
-        const QString size =
-            next->isGround && !holdsText(*next) ? QStringLiteral(", ") + sizeOf(next->place) : QString();
-        const auto* const mark = goesOn ? "+ " : "- ";
-        lines << QString(2 * depth, u' ') + QLatin1String(mark) + next->line + size;
-        write(std::exchange(next->above, {}), depth + 1, lines);
-        last = *std::move(next);
-        previous = &*last;
+        lines << QString(2 * depth, u' ') + (goesOn ? "+ " : "- ") + next->line;
+        if (next->isGround && !holdsText(*next)) {
+            lines.last() += ", " + sizeOf(next->place);
+        }
+        previous = std::move(*next);
         elements.erase(next);
+        write(std::move(previous->above), depth + 1, lines);
     }
 }
 
 } // namespace
 
 QString colorName(const QColor& color) {
-    const kel::KelPalette& theme = kel::KelAppearance::current().palette();
-    const std::pair<const char*, QRgb> tokens[] = {{"background", theme.background},
-                                                   {"surface", theme.surface},
-                                                   {"primary", theme.primary},
-                                                   {"onPrimary", theme.onPrimary},
-                                                   {"highEmphasis", theme.highEmphasis},
-                                                   {"mediumEmphasis", theme.mediumEmphasis},
-                                                   {"lowEmphasis", theme.lowEmphasis},
-                                                   {"success", theme.success},
-                                                   {"alert", theme.alert},
-                                                   {"warning", theme.warning},
-                                                   {"link", theme.link},
-                                                   {"onTag", theme.onTag},
-                                                   {"primaryEdge", theme.primaryEdge},
-                                                   {"edge", theme.edge}};
-    const auto* const token = std::ranges::find(tokens, color.rgb(), &std::pair<const char*, QRgb>::second);
-    const QString name = token == std::end(tokens) ? color.name() : QString::fromLatin1(token->first);
+    // Of those that have one colour in a theme, the first is the one that is meant.
+    const auto tokens = {"background",     "surface",     "primary",     "inkOnPrimary", "highEmphasis",
+                         "mediumEmphasis", "lowEmphasis", "success",     "alert",        "warning",
+                         "link",           "inkOnTag",    "primaryEdge", "edge"};
+    const kel::KelColors theme;
+    const auto* const token = std::ranges::find_if(
+        tokens, [&](const char* one) { return theme.property(one).value<QColor>().rgb() == color.rgb(); });
+    const QString name = token == tokens.end() ? color.name() : QString::fromLatin1(*token);
     return color.alpha() == 255 ? name : name + QStringLiteral(" %1%").arg(std::lround(100 * color.alphaF()));
 }
 

@@ -39,13 +39,22 @@ struct Taps : ::testing::TestWithParam<const char*> {
         for (const Call call : {Call::associate, Call::getOpenOrders, Call::checkout}) {
             stage.backend().script(call, {Reply::never()});
         }
-        return toLines(quillet::testing::taken(log));
+        return told();
     }
 
     [[nodiscard]] std::vector<QAccessibleInterface*> buttons() const {
         auto all = quillet::testing::buttonsOf(*QAccessible::queryAccessibleInterface(stage.host().window()));
         std::erase_if(all, [](auto* button) { return button->object()->objectName() == "hostBack"; });
         return all;
+    }
+
+    /// What the host has been told since it was last asked.
+    [[nodiscard]] QStringList told() const {
+        QStringList lines;
+        for (const std::string& line : quillet::testing::taken(log)) {
+            lines << "  " + QString::fromStdString(line);
+        }
+        return lines;
     }
 
     /// What a tap leads to: what the host is told, and what the back end is asked.
@@ -55,46 +64,38 @@ struct Taps : ::testing::TestWithParam<const char*> {
         act();
         // A dialog acts once it has faded.
         EXPECT_TRUE(Stage::wait(std::chrono::seconds(10), [&] { return !reader.named("dialogCloseIcon"); }));
-        QStringList lines = toLines(quillet::testing::taken(log));
+        QStringList lines = told();
         const auto requests = stage.backend().requests();
         for (const auto& request : requests | std::views::drop(asked)) {
             const auto url = QString::fromStdString(request.url.absoluteString());
-            lines << QString::fromStdString(request.httpMethod.value_or("GET")) + u' ' + url.section(u'/', 3);
+            lines << "  " + QString::fromStdString(request.httpMethod.value_or("GET")) + ' ' +
+                         url.section(u'/', 3);
         }
-        return lines.isEmpty() ? QStringList("nothing") : lines;
+        return lines.isEmpty() ? QStringList("  nothing") : lines;
     }
 
     quillet::testing::Log log = quillet::testing::makeLog();
     GalleryStage stage;
 };
 
-QStringList indented(const QStringList& lines) {
-    QStringList result;
-    for (const QString& line : lines) {
-        result << "  " + line;
-    }
-    return result;
-}
-
 } // namespace
 
 TEST_P(Taps, TellTheHostWhatIsDescribed) {
-    QStringList lines = QStringList("opening it:") + indented(open());
+    QStringList lines = QStringList("opening it:") + open();
     const std::size_t count = buttons().size();
     for (std::size_t i = 0; i < count; ++i) {
         if (i > 0) {
             open();
         }
         QAccessibleInterface* const button = buttons().at(i);
-        lines << toLines({quillet::testing::reading(*button)}).first() + ":";
-        lines << indented(
-            tap([&] { button->actionInterface()->doAction(QAccessibleActionInterface::pressAction()); }));
+        lines << quillet::testing::reading(*button) + ":";
+        lines << tap([&] { button->actionInterface()->doAction(QAccessibleActionInterface::pressAction()); });
     }
     if (galleryScreen(GetParam()).kind == GalleryKind::dialog) {
         open();
-        lines << "beside the dialog:" << indented(tap([&] {
+        lines << "beside the dialog:" << tap([&] {
             Hands(*stage.host().window()).tap({5, 5}, Device::mouse);
-        }));
+        });
     }
     expectKept(QStringLiteral("%1.taps").arg(GetParam()), lines);
 }

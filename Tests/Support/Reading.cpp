@@ -36,13 +36,13 @@ void walk(QAccessibleInterface& element, const std::function<void(QAccessibleInt
 
 } // namespace
 
-std::string reading(const QAccessibleInterface& element) {
+QString reading(const QAccessibleInterface& element) {
     const char* const role = roleOf(element);
     if (!role) {
         return {};
     }
     const QAccessible::State state = element.state();
-    std::string line = role + (" \"" + element.text(QAccessible::Name).toStdString() + '"');
+    QString line = QStringLiteral("%1 \"%2\"").arg(role, element.text(QAccessible::Name));
     const std::pair<bool, const char*> states[] = {
         {state.expandable, state.expanded ? ", open" : ", closed"},
         {state.busy, ", busy"},
@@ -52,18 +52,18 @@ std::string reading(const QAccessibleInterface& element) {
     for (const auto& [holds, word] : states) {
         line += holds ? word : "";
     }
-    const std::string description = element.text(QAccessible::Description).toStdString();
-    const std::string identifier = element.object()->objectName().toStdString();
-    line += description.empty() ? "" : " (" + description + ")";
-    line += identifier.empty() ? "" : " #" + identifier;
+    const QString description = element.text(QAccessible::Description);
+    const QString identifier = element.object()->objectName();
+    line += description.isEmpty() ? "" : " (" + description + ")";
+    line += identifier.isEmpty() ? "" : " #" + identifier;
     return line;
 }
 
-std::vector<std::string> readingOrder(QAccessibleInterface& element) {
-    std::vector<std::string> lines;
+QStringList readingOrder(QAccessibleInterface& element) {
+    QStringList lines;
     walk(element, [&](const QAccessibleInterface& one) {
-        if (const std::string line = reading(one); !line.empty()) {
-            lines.push_back(line);
+        if (const QString line = reading(one); !line.isEmpty()) {
+            lines << line;
         }
     });
     return lines;
