@@ -4,8 +4,6 @@
 
 #include <QFile>
 
-#include <gtest/gtest.h>
-
 namespace demo::testing {
 
 void expectKept(const QString& name, const QStringList& lines) {
@@ -17,6 +15,10 @@ void expectKept(const QString& name, const QStringList& lines) {
     }
     ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
     EXPECT_EQ(told.toStdString(), file.readAll().toStdString()) << file.fileName().toStdString();
+}
+
+std::string testName(const ::testing::TestParamInfo<const char*>& instance) {
+    return QString(instance.param).replace(u'-', u'_').replace(u'.', u'_').toStdString();
 }
 
 QStringList heardOf(QWindow& window) {

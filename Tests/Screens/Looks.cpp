@@ -37,6 +37,20 @@ QVariant valueOf(const QObject& object, const char* path) {
                             : object.property(names[0]).value<QObject*>()->property(names[1]);
 }
 
+/// The name of the theme's colour that this one is, or its digits; how opaque it is where that is less than
+/// wholly.
+QString colorName(const QColor& color) {
+    // Of those that have one colour in a theme, the first is the one that is meant.
+    const auto tokens = {"background",     "surface",     "primary",     "inkOnPrimary", "highEmphasis",
+                         "mediumEmphasis", "lowEmphasis", "success",     "alert",        "warning",
+                         "link",           "inkOnTag",    "primaryEdge", "edge"};
+    const kel::KelColors theme;
+    const auto* const token = std::ranges::find_if(
+        tokens, [&](const char* one) { return theme.property(one).value<QColor>().rgb() == color.rgb(); });
+    const QString name = token == tokens.end() ? color.name() : QString::fromLatin1(*token);
+    return color.alpha() == 255 ? name : name + QStringLiteral(" %1%").arg(std::lround(100 * color.alphaF()));
+}
+
 bool has(const QQuickItem& item, const char* property) {
     return item.metaObject()->indexOfProperty(property) >= 0;
 }
@@ -204,18 +218,6 @@ void write(std::vector<Element> elements, int depth, QStringList& lines) {
 }
 
 } // namespace
-
-QString colorName(const QColor& color) {
-    // Of those that have one colour in a theme, the first is the one that is meant.
-    const auto tokens = {"background",     "surface",     "primary",     "inkOnPrimary", "highEmphasis",
-                         "mediumEmphasis", "lowEmphasis", "success",     "alert",        "warning",
-                         "link",           "inkOnTag",    "primaryEdge", "edge"};
-    const kel::KelColors theme;
-    const auto* const token = std::ranges::find_if(
-        tokens, [&](const char* one) { return theme.property(one).value<QColor>().rgb() == color.rgb(); });
-    const QString name = token == tokens.end() ? color.name() : QString::fromLatin1(*token);
-    return color.alpha() == 255 ? name : name + QStringLiteral(" %1%").arg(std::lround(100 * color.alphaF()));
-}
 
 QStringList looksOf(QQuickItem& item) {
     Element all{{}, item.mapRectToScene(QRectF(0, 0, item.width(), item.height())), true};

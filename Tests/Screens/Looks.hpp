@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QColor>
 #include <QQuickItem>
 #include <QStringList>
 
@@ -10,9 +9,5 @@ namespace demo::testing {
 /// boxes with fill, edge and corners. What lies on a box is indented below it. "-" opens a row and "+" goes
 /// on in it. Where things are is told by their order alone, so that it holds with any font.
 [[nodiscard]] QStringList looksOf(QQuickItem& item);
-
-/// The names of the theme's colours that this one has, or its digits; how opaque it is where that is less
-/// than wholly.
-[[nodiscard]] QString colorName(const QColor& color);
 
 } // namespace demo::testing

@@ -104,8 +104,6 @@ INSTANTIATE_TEST_SUITE_P(All, Taps,
                          ::testing::Values("order-registered", "other-consultant", "already-submitted",
                                            "summary", "no-connection", "time-out", "generic-error",
                                            "checkout-error", "some-sent", "section-closed"),
-                         [](const auto& instance) {
-                             return QString(instance.param).remove(u'-').toStdString();
-                         });
+                         testName);
 
 } // namespace demo::testing

@@ -31,6 +31,17 @@ QStringList valuesOf() {
     return lines;
 }
 
+/// The values of an enumeration, and what each stands for.
+template <typename Enum>
+QStringList valuesOf(const std::function<QString(int)>& meaning) {
+    const auto values = QMetaEnum::fromType<Enum>();
+    QStringList lines;
+    for (int i = 0; i < values.keyCount(); ++i) {
+        lines << QStringLiteral("  %1 %2").arg(values.key(i), meaning(values.value(i)));
+    }
+    return lines;
+}
+
 /// A key as the code uses it, out of the lists that the code itself is made of.
 struct TextKey {
     const char* key;
@@ -97,27 +108,16 @@ TEST_F(Tokens, HaveTheirMeasures) {
         lines << QStringLiteral("text scale %1: %2").arg(scale).arg(kel::KelFonts::scale());
     }
     kel::KelAppearance::current().setTextScale(1);
-    lines << QStringLiteral("fonts:");
-    const auto sizes = QMetaEnum::fromType<kel::KelFonts::Size>();
-    for (int i = 0; i < sizes.keyCount(); ++i) {
-        const QFont font = kel::KelFonts::font(sizes.value(i), kel::KelFonts::Regular);
-        lines << QStringLiteral("  %1 %2 %3").arg(sizes.key(i), font.family()).arg(font.pixelSize());
-    }
-    const auto weights = QMetaEnum::fromType<kel::KelFonts::Weight>();
-    for (int i = 0; i < weights.keyCount(); ++i) {
-        lines << QStringLiteral("  %1 %2")
-                     .arg(weights.key(i))
-                     .arg(int(kel::KelFonts::font(kel::KelFonts::Body1, weights.value(i)).weight()));
-    }
-    lines << QStringLiteral("icons:");
-    const auto icons = QMetaEnum::fromType<kel::KelIcons::Number>();
-    for (int i = 0; i < icons.keyCount(); ++i) {
-        const QString glyph = kel::KelIcons::glyph(icons.value(i));
-        lines << QStringLiteral("  %1 %2 %3")
-                     .arg(icons.key(i))
-                     .arg(icons.value(i))
-                     .arg(glyph.at(0).unicode(), 4, 16);
-    }
+    lines << "fonts:" << valuesOf<kel::KelFonts::Size>([](int size) {
+        const QFont font = kel::KelFonts::font(size, kel::KelFonts::Regular);
+        return QStringLiteral("%1 %2").arg(font.family()).arg(font.pixelSize());
+    });
+    lines << valuesOf<kel::KelFonts::Weight>([](int weight) {
+        return QString::number(kel::KelFonts::font(kel::KelFonts::Body1, weight).weight());
+    });
+    lines << "icons:" << valuesOf<kel::KelIcons::Number>([](int icon) {
+        return QStringLiteral("%1 %2").arg(icon).arg(kel::KelIcons::glyph(icon).at(0).unicode(), 4, 16);
+    });
     expectKept(QStringLiteral("measures"), lines);
 }
 
