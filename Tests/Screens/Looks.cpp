@@ -5,6 +5,7 @@
 #include "Views/ProgressIndicatorCircular/ProgressIndicatorItem.hpp"
 
 #include <QMetaEnum>
+#include <QQmlProperty>
 #include <QUrl>
 
 #include <algorithm>
@@ -29,12 +30,6 @@ struct Element {
 /// Text makes what is around it as large as its font asks for.
 bool holdsText(const Element& element) {
     return element.isText || std::ranges::any_of(element.above, holdsText);
-}
-
-QVariant valueOf(const QObject& object, const char* path) {
-    const QList<QByteArray> names = QByteArray(path).split('.');
-    return names.size() < 2 ? object.property(path)
-                            : object.property(names[0]).value<QObject*>()->property(names[1]);
 }
 
 /// The name of the theme's colour that this one is, or its digits; how opaque it is where that is less than
@@ -94,10 +89,10 @@ QString describedText(const QQuickItem& item) {
         .arg(keyOf<QFont::Weight>(font.weight()), keyOf<Qt::Alignment>(alignment).remove("Align"));
 }
 
-QString describedBox(const QQuickItem& item, double opacity) {
-    const auto edgeWidth = valueOf(item, "border.width").toDouble();
+QString describedBox(QQuickItem& item, double opacity) {
+    const auto edgeWidth = QQmlProperty::read(&item, "border.width").toDouble();
     auto fill = item.property("color").value<QColor>();
-    auto edge = valueOf(item, "border.color").value<QColor>();
+    auto edge = QQmlProperty::read(&item, "border.color").value<QColor>();
     fill.setAlphaF(static_cast<float>(fill.alphaF() * opacity));
     edge.setAlphaF(static_cast<float>(edge.alphaF() * opacity));
     // An edge that nobody set cannot be told from a black one, which no theme has.
@@ -123,9 +118,9 @@ QString describedBox(const QQuickItem& item, double opacity) {
     return item.objectName().isEmpty() ? line : line + QStringLiteral(" #") + item.objectName();
 }
 
-std::optional<Element> describe(const QQuickItem& item, double opacity) {
+std::optional<Element> describe(QQuickItem& item, double opacity) {
     const QRectF place = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
-    if (const auto* ring = qobject_cast<const quillet::ProgressIndicatorItem*>(&item)) {
+    if (const auto* ring = qobject_cast<quillet::ProgressIndicatorItem*>(&item)) {
         const auto& arc = *ring->indicator()->semiCircleLayer();
         return Element{QStringLiteral("ring %1, %2, %3 thick")
                            .arg(sizeOf(place), colorName(arc.strokeColor.value_or(QColor())))
@@ -145,12 +140,8 @@ std::optional<Element> describe(const QQuickItem& item, double opacity) {
         return Element{QStringLiteral("picture ") + name + (isFrame ? QString() : u' ' + sizeOf(place)),
                        place};
     }
-    if (has(item, "radius") && has(item, "border")) {
-        if (const QString line = describedBox(item, opacity); !line.isEmpty()) {
-            return Element{line, place, item.height() > 4};
-        }
-    }
-    return std::nullopt;
+    const QString box = has(item, "radius") && has(item, "border") ? describedBox(item, opacity) : QString();
+    return box.isEmpty() ? std::nullopt : std::optional(Element{box, place, item.height() > 4});
 }
 
 /// Puts an element on the last of the grounds that it lies on. What is as large as its ground leaves nothing
@@ -167,7 +158,7 @@ void put(Element& ground, Element element) {
     ground.above.push_back(std::move(element));
 }
 
-void collect(const QQuickItem& item, double opacity, Element& ground) {
+void collect(QQuickItem& item, double opacity, Element& ground) {
     opacity *= item.opacity();
     if (!item.isVisible() || opacity == 0) {
         return;
@@ -177,7 +168,7 @@ void collect(const QQuickItem& item, double opacity, Element& ground) {
     std::ranges::stable_sort(children, {}, &QQuickItem::z);
     const auto above = std::ranges::lower_bound(children, 0.0, {}, &QQuickItem::z);
     const auto collectAll = [&](auto first, auto last) {
-        std::for_each(first, last, [&](const QQuickItem* child) { collect(*child, opacity, ground); });
+        std::for_each(first, last, [&](QQuickItem* child) { collect(*child, opacity, ground); });
     };
     collectAll(children.begin(), above);
     if (auto element = describe(item, opacity)) {
