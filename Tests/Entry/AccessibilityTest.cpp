@@ -69,11 +69,13 @@ TEST_F(Accessibility, TellsWhatHappensInItsOrderAndOnce) {
     ASSERT_TRUE(turnUntil([&] { return settled(); }));
     // In place of the five seconds.
     auto* const patience = screen.lock()->property("loadingView").value<QObject*>()->findChild<QTimer*>();
+    EXPECT_EQ(patience->interval(), 5000);
     ASSERT_TRUE(patience->isActive());
     QMetaObject::invokeMethod(patience, "timeout", Qt::DirectConnection);
     ASSERT_TRUE(turnUntil([&] { return stage->shows("Está tardando más de lo habitual."); }));
     backend->clock()->advance(std::chrono::seconds(8));
     ASSERT_TRUE(comesToShow(retry));
+    EXPECT_FALSE(patience->isActive());
     EXPECT_THAT(std::exchange(heard, {}),
                 ElementsAre("Resumen de venta is busy", "says: Cargando",
                             "says: Está tardando más de lo habitual.", "Resumen de venta is no longer busy",

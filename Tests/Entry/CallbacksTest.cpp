@@ -1,3 +1,4 @@
+#include "Support/ActingHost.hpp"
 #include "Support/Thorough.hpp"
 #include "Targets.hpp"
 
@@ -10,39 +11,15 @@ namespace quillet::testing {
 
 namespace {
 
-/// A host, and its analytics, that does something the first time that this line would be logged.
-struct Reacting final : QuilletNavigationDelegate, kel::KelAnalyticsManagerType {
-    void navigateToCart() override { react("navigateToCart"); }
-    void navigateToHome() override { react("navigateToHome"); }
-    void navigateToShareMagazine() override { react("navigateToShareMagazine"); }
-    void trackScreen(const kel::KelAnalyticsScreenType& screen) override { react("screen " + screen.name()); }
-    void trackEvent(const kel::KelAnalyticsEventType& event) override {
-        react(testing::event(event.action(), event.label().value_or("")));
-    }
-
-    void react(const std::string& line) {
-        lines->push_back(line);
-        if (line == trigger) {
-            std::exchange(reaction, [] {})();
-        }
-    }
-
-    Log lines;
-    std::string trigger;
-    std::function<void()> reaction;
-};
-
 struct Callbacks : AtTargets {
-    /// Taps there and has the host react to one of the lines. The host that reacts is the only one.
-    void react(const Target& target, const std::string& line, const std::function<void()>& reaction) {
+    /// Taps there and has the host react to the first such line. The host that reacts is the only one.
+    void react(const Target& target, const std::string& trigger, const std::function<void()>& reaction) {
         bool hasReacted = false;
-        reacting = std::make_shared<Reacting>();
-        reacting->lines = log;
-        reacting->trigger = line;
-        reacting->reaction = [&] {
-            hasReacted = true;
-            reaction();
-        };
+        reacting = std::make_shared<ActingHost>(log, [&](const std::string& line) {
+            if (line == trigger && !std::exchange(hasReacted, true)) {
+                reaction();
+            }
+        });
         kel::KelAnalyticsManager::shared()->setSink(reacting);
         host = reacting;
         ASSERT_NO_FATAL_FAILURE(reach(target));
@@ -50,13 +27,14 @@ struct Callbacks : AtTargets {
         stage->clickAt(place(tapped));
         ASSERT_TRUE(turnUntil([&] { return hasReacted; }));
         animateFor(std::chrono::milliseconds(800));
-        EXPECT_EQ(std::ranges::count(*log, line), 1);
+        EXPECT_EQ(std::ranges::count(*log, trigger), 1);
+        kel::KelAnalyticsManager::shared()->setSink(nullptr);
         host.reset();
         reacting.reset();
     }
 
     QString tapped;
-    std::shared_ptr<Reacting> reacting;
+    std::shared_ptr<ActingHost> reacting;
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "Checkout/CheckoutFactory.hpp"
 #include "KelDS/KelAppearance.hpp"
+#include "Support/ActingHost.hpp"
 #include "Support/FaultServer.hpp"
 #include "Support/ModuleOnStage.hpp"
 #include "Support/Reading.hpp"
@@ -104,23 +105,6 @@ std::vector<Fault> faults() {
     return all;
 }
 
-/// Whatever it is told comes on the main thread.
-class MainThreadAnalytics final : public kel::KelAnalyticsManagerType {
-public:
-    explicit MainThreadAnalytics(const Log& log) : recording_(log) {}
-    void trackScreen(const kel::KelAnalyticsScreenType& screen) override {
-        EXPECT_EQ(QThread::currentThread(), qApp->thread());
-        recording_.trackScreen(screen);
-    }
-    void trackEvent(const kel::KelAnalyticsEventType& event) override {
-        EXPECT_EQ(QThread::currentThread(), qApp->thread());
-        recording_.trackEvent(event);
-    }
-
-private:
-    RecordingAnalytics recording_;
-};
-
 struct Faults : ModuleOnStage {
     Faults() {
         kel::KelAppearance::current().setReducedMotion(true);
@@ -128,7 +112,8 @@ struct Faults : ModuleOnStage {
         stage->window().resize(390, 1500);
         stage->stack().setProperty("pushEnter", QVariant::fromValue<QObject*>(nullptr));
         stage->stack().setProperty("pushExit", QVariant::fromValue<QObject*>(nullptr));
-        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<MainThreadAnalytics>(log));
+        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<ActingHost>(
+            log, [](const auto&) { EXPECT_EQ(QThread::currentThread(), qApp->thread()); }));
         platform::URLSessionConfiguration::setDefaultConfiguration(
             {.caBundleFile = authority.bundleFile(),
              .hostMappings = {{.host = gateway, .address = "127.0.0.1", .port = server.port()}},

@@ -2,7 +2,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -27,34 +26,21 @@ const Moment moments[] = {{0, 0, 0},    {0.25, 0.0194, 0.1292}, {0.5, 0.075, 0.5
 
 constexpr QSizeF item(56, 56);
 
-TEST(LoadingView, SaysThatItTakesLongAfterFiveSecondsOnScreen) {
+TEST(ProgressIndicator, DrawsTheArcWhereTheFormulaHasItUntilItStops) {
     LoadingView loading;
-    auto& patience = *loading.findChild<QTimer*>();
-    EXPECT_EQ(patience.interval(), 5000);
-    EXPECT_FALSE(patience.isActive());
-    for (int round = 0; round < 2; ++round) {
-        loading.startLoading();
-        EXPECT_TRUE(patience.isActive());
-        EXPECT_EQ(loading.notice(), "");
-        // In place of the five seconds.
-        QMetaObject::invokeMethod(&patience, "timeout", Qt::DirectConnection);
-        EXPECT_EQ(loading.notice(), "Está tardando más de lo habitual.");
-        loading.stopLoading();
-        EXPECT_FALSE(patience.isActive());
-    }
-}
-
-TEST(ProgressIndicator, DrawsTheArcWhereTheFormulaHasIt) {
-    LoadingView loading;
-    loading.startLoading();
-    loading.progressIndicator()->draw(item);
+    ProgressIndicatorCircular& indicator = *loading.progressIndicator();
     for (const auto& [time, start, end] : moments) {
         SCOPED_TRACE(time);
+        loading.startLoading();
+        EXPECT_TRUE(indicator.layer().sublayers().empty()) << "shown before it was drawn";
+        indicator.draw(item);
+        indicator.draw(item);
+        EXPECT_EQ(indicator.layer().sublayers().size(), 1u);
         QImage image(item.toSize() * 4, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         QPainter painter(&image);
         painter.scale(4, 4);
-        loading.progressIndicator()->layer().draw(painter, time);
+        indicator.layer().draw(painter, time);
         painter.end();
         for (int step = 0; step < 72; ++step) {
             const double part = (step + 0.5) / 72;
@@ -66,19 +52,6 @@ TEST(ProgressIndicator, DrawsTheArcWhereTheFormulaHasIt) {
             const QPoint ring(int(4 * (28 + 24 * std::cos(angle))), int(4 * (28 + 24 * std::sin(angle))));
             EXPECT_EQ(qAlpha(image.pixel(ring)) > 128, part > start && part < end) << part;
         }
-    }
-}
-
-TEST(ProgressIndicator, HasItsRingsOnceAndLosesThemAtOnce) {
-    LoadingView loading;
-    ProgressIndicatorCircular& indicator = *loading.progressIndicator();
-    for (int round = 0; round < 2; ++round) {
-        loading.startLoading();
-        EXPECT_TRUE(indicator.layer().sublayers().empty()) << "shown before it was drawn";
-        indicator.draw(item);
-        indicator.draw(item);
-        EXPECT_EQ(indicator.layer().sublayers().size(), 1u);
-        EXPECT_EQ(indicator.semiCircleLayer()->animations().size(), 2u);
         loading.stopLoading();
         EXPECT_FALSE(indicator.isVisible());
         EXPECT_TRUE(indicator.layer().sublayers().empty());
