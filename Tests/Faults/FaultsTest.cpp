@@ -1,5 +1,5 @@
 #include "Checkout/CheckoutFactory.hpp"
-#include "KelDS/KelAppearance.hpp"
+#include "Models/Bodies.hpp"
 #include "Support/ActingHost.hpp"
 #include "Support/FaultServer.hpp"
 #include "Support/ModuleOnStage.hpp"
@@ -74,9 +74,6 @@ std::vector<Fault> faults() {
     const std::string page = "<html><body>A page</body></html>";
     const std::string refusal =
         R"({"details":"d","error":"ERROR_CART_ALREADY_SUBMITTED","statusCode":422,"path":"/p"})";
-    const std::string failure =
-        R"({"error":{"response":{"statusCode":422,"message":"m","error":"e"},"status":422,)"
-        R"("message":"ERROR_CART_ALREADY_SUBMITTED"},"statusCode":500,"path":"/p"})";
     std::vector<Fault> all = {
         {"none", 200, "@", registered, result},
         {"closed", 0, "", gone, dialog, "", close},
@@ -85,33 +82,29 @@ std::vector<Fault> faults() {
         {"closed in a body without length", 0, "HTTP/1.1 200 OK\r\n\r\n{", gone, nothing, "", close},
         {"reset", 0, "", gone, dialog, "", reset},
         {"a redirect", 307, "", gone, nothing, "Location: https://other.test/\r\n"},
-        {"a time-out", 504, failure, timeOut, dialog},
+        {"a time-out", 504, tests::serverErrorJson, timeOut, dialog},
         {untrusted, 0, "", gone, dialog},
         {"over the limit", 200, std::string(20'000, ' '), gone, dialog},
         {"damaged packing", 200, "@", gone, dialog, "Content-Encoding: gzip\r\n"},
         {"no HTTP", 0, "220 ready\r\n", gone, dialog, "", close},
+        {"a refusal with a good body", 422, "@", registered, result},
+        {"a failure with a good body", 500, "@", registered, result},
+        {"no content", 204, "", gone, nothing},
     };
-    for (const auto& body : {page, refusal, failure, std::string()}) {
+    for (const auto& body : {page, refusal, tests::serverErrorJson, std::string()}) {
         all.push_back({"a strange body", 200, body, gone, nothing});
         all.push_back({"a strange time-out", 504, body, timeOut, dialog});
         for (const int status : {401, 403, 404, 409, 422, 429, 500, 502, 503}) {
             all.push_back({std::to_string(status) + " " + body, status, body, gone, dialog});
         }
     }
-    for (const int status : {422, 500}) {
-        all.push_back({"a good body", status, "@", registered, result});
-    }
-    all.push_back({"no content", 204, "", gone, nothing});
     return all;
 }
 
 struct Faults : ModuleOnStage {
     Faults() {
-        kel::KelAppearance::current().setReducedMotion(true);
         // So high that nothing scrolls.
         stage->window().resize(390, 1500);
-        stage->stack().setProperty("pushEnter", QVariant::fromValue<QObject*>(nullptr));
-        stage->stack().setProperty("pushExit", QVariant::fromValue<QObject*>(nullptr));
         kel::KelAnalyticsManager::shared()->setSink(std::make_shared<ActingHost>(
             log, [](const auto&) { EXPECT_EQ(QThread::currentThread(), qApp->thread()); }));
         platform::URLSessionConfiguration::setDefaultConfiguration(
@@ -119,7 +112,6 @@ struct Faults : ModuleOnStage {
              .hostMappings = {{.host = gateway, .address = "127.0.0.1", .port = server.port()}},
              .maximumBodyBytes = 16 << 10});
     }
-    ~Faults() override { kel::KelAppearance::current().setReducedMotion(false); }
 
     /// Plays the faults, all of them or some, each with a screen of its own. Of these calls the first has the
     /// fault.
