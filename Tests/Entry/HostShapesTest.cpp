@@ -4,9 +4,8 @@ namespace quillet::testing {
 
 namespace {
 
-/// A window with `bars` in it, and around the stack what the host has there. Where a tap is to reach a bar
-/// this counts it.
-std::string windowOf(const std::string& bars, const std::string& around) {
+/// A host's window with this in it. Where a tap is to reach the bar, the bar counts it.
+std::string windowWith(const std::string& content) {
     return R"(
     import QtQuick
     import QtQuick.Controls
@@ -15,28 +14,34 @@ std::string windowOf(const std::string& bars, const std::string& around) {
         id: window
         width: 390; height: 844; visible: true
         property Item stack: null
-        property Item bar: null
         property Item right: null
+        property Item bar: null
         component Bar: Rectangle {
             property int clicks: 0
             implicitHeight: 64; implicitWidth: 200
             MouseArea { anchors.fill: parent; onClicked: parent.clicks++ }
+            Component.onCompleted: window.bar = this
         }
-        component Stack: StackView {
+        component HostStack: StackView {
             Layout.fillWidth: true; Layout.fillHeight: true
             initialItem: Item {}
         }
+        component ModuleStack: HostStack { Component.onCompleted: window.stack = this }
         )" +
-           bars + around + "}";
+           content + "}";
 }
 
-const std::string stackAlone = "Stack { anchors.fill: parent; Component.onCompleted: window.stack = this }";
-const std::string barAbove = "Bar { width: parent.width; Component.onCompleted: window.bar = this }";
+const std::string inLayout = R"(
+    Bar { width: parent.width }
+    Item {
+        y: 64; width: parent.width; height: 780
+        ColumnLayout { anchors.fill: parent; ModuleStack {} }
+    })";
 
 /// Whether the module covers the host's bar while it loads, in hosts of other shapes.
 struct Shape {
     const char* name;
-    std::string window;
+    std::string content;
     bool coversBar;
     /// Whether the host names the whole window for covers.
     bool namesWindow = false;
@@ -44,45 +49,37 @@ struct Shape {
     friend void PrintTo(const Shape& shape, std::ostream* stream) { *stream << shape.name; }
 };
 
-const std::string inLayout = R"(
-        Item {
-            anchors.fill: parent; anchors.topMargin: 64
-            ColumnLayout {
-                anchors.fill: parent
-                Stack { Component.onCompleted: window.stack = this }
-            }
-        })";
-
-const std::string inDrawer = R"(
+const Shape shapes[] = {
+    {"header", "header: Bar {} ModuleStack { anchors.fill: parent }", true},
+    {"footer", "footer: Bar {} ModuleStack { anchors.fill: parent }", true},
+    {"layout", inLayout, false},
+    {"layoutWithinAnAreaThatIsNamed", inLayout, true, true},
+    {"drawer", R"(
+        Bar { width: parent.width }
         Drawer {
             width: 300; height: parent.height; visible: true; modal: false; interactive: false
             enter: null
-            Stack { anchors.fill: parent; Component.onCompleted: window.stack = this }
-        })";
+            ModuleStack { anchors.fill: parent }
+        })",
+     false},
+    {"besideAnotherStack", R"(
+        Bar { width: parent.width }
+        HostStack { y: 700; width: parent.width; height: 144 }
+        ModuleStack { y: 64; width: parent.width; height: 636 })",
+     false},
+};
 
-std::vector<Shape> shapes() {
-    return {
-        {"header", windowOf("header: Bar { Component.onCompleted: window.bar = this }", stackAlone), true},
-        {"footer", windowOf("footer: Bar { Component.onCompleted: window.bar = this }", stackAlone), true},
-        {"layout", windowOf(barAbove, inLayout), false},
-        {"layoutWithinAnAreaThatIsNamed", windowOf(barAbove, inLayout), true, true},
-        {"drawer", windowOf(barAbove, inDrawer), false},
-        {"besideAnotherStack", windowOf(barAbove + "Stack { y: 700; width: parent.width; height: 144 }", R"(
-        Stack { y: 64; width: parent.width; height: 636; Component.onCompleted: window.stack = this })"),
-         false},
-    };
-}
+const std::string sideBySide = R"(
+    Bar { width: parent.width }
+    RowLayout {
+        y: 64; width: parent.width; height: 780
+        ModuleStack {}
+        HostStack { Component.onCompleted: window.right = this }
+    })";
 
 struct CoveredShapes : ModuleTest, ::testing::WithParamInterface<Shape> {};
 struct HostShapes : ModuleTest {};
 struct TwoModules : ModuleTest, ::testing::WithParamInterface<bool> {};
-
-const std::string sideBySide = windowOf(barAbove, R"(
-        RowLayout {
-            anchors.fill: parent; anchors.topMargin: 64
-            Stack { Component.onCompleted: window.stack = this }
-            Stack { Component.onCompleted: window.right = this }
-        })");
 
 bool isUnder(const QQuickItem* item, const QQuickItem& ancestor) {
     return item && ancestor.isAncestorOf(item);
@@ -93,7 +90,7 @@ bool isUnder(const QQuickItem* item, const QQuickItem& ancestor) {
 TEST_P(CoveredShapes, AreCoveredAsFarAsTheModuleReaches) {
     backend->script(Call::associate,
                     {Reply{.body = sampleBody(Call::associate), .after = std::chrono::seconds(5)}});
-    Stage stage(GetParam().window.c_str());
+    Stage stage(windowWith(GetParam().content).c_str());
     ASSERT_TRUE(open(stage.stack(), GetParam().namesWindow ? stage.window().contentItem() : nullptr));
     const QSizeF size = stage.stack().size();
     // The bar of the drawer's window begins beside the drawer.
@@ -108,12 +105,12 @@ TEST_P(CoveredShapes, AreCoveredAsFarAsTheModuleReaches) {
     EXPECT_TRUE(showResult(stage, stage.stack()));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, CoveredShapes, ::testing::ValuesIn(shapes()),
+INSTANTIATE_TEST_SUITE_P(All, CoveredShapes, ::testing::ValuesIn(shapes),
                          [](const auto& instance) { return std::string(instance.param.name); });
 
 TEST_P(TwoModules, AreApart) {
     backend->script(Call::associate, {Reply::never(), Reply::sample(Call::associate)});
-    Stage left(GetParam() ? nullptr : sideBySide.c_str());
+    Stage left(GetParam() ? nullptr : windowWith(sideBySide).c_str());
     std::unique_ptr<Stage> other = GetParam() ? std::make_unique<Stage>() : nullptr;
     Stage& right = other ? *other : left;
     QQuickItem& stack = other ? other->stack() : *left.window().property("right").value<QQuickItem*>();
