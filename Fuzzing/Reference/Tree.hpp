@@ -21,9 +21,9 @@ using platform::DecodingError;
 
 /// A body as another parser reads it: all members, in their order, and numbers as texts.
 struct Tree {
-    enum class Kind { null, no, yes, number, text, list, object };
+    enum class Kind { nothing, no, yes, number, text, list, object };
 
-    Kind kind = Kind::null;
+    Kind kind = Kind::nothing;
     std::string text;
     /// An object's values or a list's elements; their keys are empty.
     std::vector<Tree> members;
@@ -32,26 +32,24 @@ struct Tree {
 
 /// Makes a tree of what nlohmann's parser tells.
 class TreeBuilder : public nlohmann::json_sax<nlohmann::json> {
+    using enum Tree::Kind;
+
 public:
     Tree tree;
     std::size_t depth = 0;
     /// The parser ends at a number that is too large for a double, which JSON allows.
     bool numberTooLarge = false;
 
-    bool null() override { return add(Tree::Kind::null); }
-    bool boolean(bool value) override { return add(value ? Tree::Kind::yes : Tree::Kind::no); }
-    bool number_integer(std::int64_t value) override {
-        return add(Tree::Kind::number, std::to_string(value));
-    }
-    bool number_unsigned(std::uint64_t value) override {
-        return add(Tree::Kind::number, std::to_string(value));
-    }
-    bool number_float(double, const std::string& text) override { return add(Tree::Kind::number, text); }
-    bool string(std::string& text) override { return add(Tree::Kind::text, text); }
+    bool null() override { return add(nothing); }
+    bool boolean(bool value) override { return add(value ? yes : no); }
+    bool number_integer(std::int64_t value) override { return add(number, std::to_string(value)); }
+    bool number_unsigned(std::uint64_t value) override { return add(number, std::to_string(value)); }
+    bool number_float(double, const std::string& digits) override { return add(number, digits); }
+    bool string(std::string& value) override { return add(text, value); }
     bool binary(nlohmann::json::binary_t&) override { return false; }
-    bool start_object(std::size_t) override { return open(Tree::Kind::object); }
+    bool start_object(std::size_t) override { return open(object); }
     bool end_object() override { return close(); }
-    bool start_array(std::size_t) override { return open(Tree::Kind::list); }
+    bool start_array(std::size_t) override { return open(list); }
     bool end_array() override { return close(); }
     bool key(std::string& key) override {
         key_ = key;
@@ -64,8 +62,8 @@ public:
     }
 
 private:
-    bool add(Tree::Kind kind, std::string text = {}) {
-        Tree value{kind, std::move(text), {}, std::exchange(key_, {})};
+    bool add(Tree::Kind kind, std::string content = {}) {
+        Tree value{kind, std::move(content), {}, std::exchange(key_, {})};
         if (open_.empty()) {
             tree = std::move(value);
         } else {
@@ -125,7 +123,7 @@ T fromTree(const Tree& tree, const std::string& path = "") {
         }
     };
     if constexpr (platform::json::isOptional<T>) {
-        return tree.kind == Tree::Kind::null ? T() : T(fromTree<typename T::value_type>(tree, path));
+        return tree.kind == Tree::Kind::nothing ? T() : T(fromTree<typename T::value_type>(tree, path));
     } else if constexpr (platform::json::isList<T>) {
         require(tree.kind == Tree::Kind::list);
         T list;

@@ -8,12 +8,9 @@
 #include <cstdlib>
 #include <iostream>
 
-namespace quillet {
+namespace quillet::testing {
 
 namespace {
-
-using testing::Answer;
-using testing::FaultServer;
 
 // An interface that is up, with link-local addresses of both families and no route.
 const std::vector<std::string> link = {"link add near type veth peer name far", "link set near up",
@@ -33,14 +30,12 @@ struct Place {
     std::vector<std::string> commands;
     /// The status of a call, or the code of its error.
     std::string outcome;
-    testing::ServerPlace server = {};
+    ServerPlace server = {};
+
+    friend void PrintTo(const Place& place, std::ostream* stream) { *stream << place.name; }
 };
 
-std::ostream& operator<<(std::ostream& stream, const Place& place) {
-    return stream << place.name;
-}
-
-const testing::ServerPlace httpsPort{.port = 443};
+const ServerPlace httpsPort{.port = 443};
 const std::string toDefault = "route add default dev near";
 const std::string itself = "127.0.0.1 gateway.test\n";
 const std::string far = "203.0.113.5 gateway.test\n";
@@ -72,29 +67,22 @@ const Place places[] = {
      httpsPort},
 };
 
-class SessionPlace : public ::testing::TestWithParam<Place> {
-protected:
-    void SetUp() override {
-        if (!testing::mayMakeNetworkNamespace()) {
-            GTEST_SKIP() << "This machine lets no process have a network of its own.";
-        }
-    }
-};
+struct SessionPlace : ::testing::TestWithParam<Place> {};
 
 // Prints on standard error the outcome of a POST, how often it was sent, and whether it took too long.
 void tryPlace(const Place& place) {
-    testing::enterNetworkNamespace(place.hosts, place.commands);
-    const testing::TestAuthority authority;
-    FaultServer server(authority.serverContext(testing::gatewayHost), place.server);
+    enterNetworkNamespace(place.hosts, place.commands);
+    const TestAuthority authority;
+    FaultServer server(authority.serverContext(gatewayHost), place.server);
     server.enqueue(Answer::complete(200, "{}"));
     if (place.server.isProxy) {
         setenv("https_proxy", ("http://127.0.0.1:" + std::to_string(server.port())).c_str(), 1);
     }
     const auto start = std::chrono::steady_clock::now();
-    testing::CallRecorder calls;
-    const platform::URLSession session({.caBundleFile = authority.bundleFile(),
-                                        .connectTimeout = std::chrono::seconds(testing::thorough(2, 15))});
-    session.dataTask({.url = {testing::gatewayHost, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
+    CallRecorder calls;
+    const platform::URLSession session(
+        {.caBundleFile = authority.bundleFile(), .connectTimeout = std::chrono::seconds(thorough(2, 15))});
+    session.dataTask({.url = {gatewayHost, "/"}, .httpMethod = "POST"}, calls.completion()).resume();
     const auto& outcome = calls.wait();
     const bool isLate = std::chrono::steady_clock::now() - start > std::chrono::seconds(10);
     std::cerr << (outcome.error ? static_cast<std::int64_t>(outcome.error->code)
@@ -106,6 +94,9 @@ void tryPlace(const Place& place) {
 } // namespace
 
 TEST_P(SessionPlace, TellsWhereACallFails) {
+    if (!mayMakeNetworkNamespace()) {
+        GTEST_SKIP() << "This machine lets no process have a network of its own.";
+    }
     for (const char* const name : {"https_proxy", "HTTPS_PROXY", "all_proxy", "ALL_PROXY"}) {
         unsetenv(name);
     }
@@ -114,7 +105,6 @@ TEST_P(SessionPlace, TellsWhereACallFails) {
                 "^" + GetParam().outcome + requests + "$");
 }
 
-INSTANTIATE_TEST_SUITE_P(, SessionPlace, ::testing::ValuesIn(places),
-                         [](const auto& parameter) { return parameter.param.name; });
+INSTANTIATE_TEST_SUITE_P(, SessionPlace, ::testing::ValuesIn(places), ::testing::PrintToStringParamName());
 
-} // namespace quillet
+} // namespace quillet::testing

@@ -186,7 +186,6 @@ TEST_P(CutAnswers, AreNeverTakenAndNeverAskedForAgain) {
     RecordProperty("cases", static_cast<int>(results.count()));
 }
 
-INSTANTIATE_TEST_SUITE_P(, CutAnswers, ::testing::ValuesIn(answers),
-                         [](const auto& parameter) { return parameter.param.name; });
+INSTANTIATE_TEST_SUITE_P(, CutAnswers, ::testing::ValuesIn(answers), ::testing::PrintToStringParamName());
 
 } // namespace quillet::testing

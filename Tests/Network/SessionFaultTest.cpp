@@ -101,8 +101,7 @@ TEST_P(SessionFault, EndsThePostWithAnErrorAloneInLittleMemory) {
     warmUp();
 }
 
-INSTANTIATE_TEST_SUITE_P(, SessionFault, ::testing::ValuesIn(faults),
-                         [](const auto& parameter) { return parameter.param.name; });
+INSTANTIATE_TEST_SUITE_P(, SessionFault, ::testing::ValuesIn(faults), ::testing::PrintToStringParamName());
 
 TEST_F(SessionFaults, OfALostConnectionLetNothingButAGetBeSentAgain) {
     for (const std::string method : {"POST", "PATCH", "PUT", "DELETE", "OPTIONS"}) {

@@ -101,7 +101,7 @@ TEST_P(SessionHandshake, LetsNoByteOfTheRequestOutUnlessItIsSound) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, SessionHandshake, ::testing::ValuesIn(handshakes),
-                         [](const auto& parameter) { return parameter.param.name; });
+                         ::testing::PrintToStringParamName());
 
 TEST(CurlLibrary, NeedsTheTlsLibraryThatTheModuleWasBuiltWith) {
     const std::string own = "OpenSSL/" + std::to_string(OPENSSL_VERSION_MAJOR) + ".";

@@ -151,6 +151,6 @@ INSTANTIATE_TEST_SUITE_P(, OutOf,
                                            Scarcity{"Threads", Resource::threads, 1, 1000},
                                            Scarcity{"Sockets", Resource::sockets},
                                            Scarcity{"Files", Resource::files}),
-                         [](const auto& parameter) { return parameter.param.name; });
+                         ::testing::PrintToStringParamName());
 
 } // namespace quillet
