@@ -141,7 +141,8 @@ TEST_F(GatewayProgram, StopsWhateverItsClientsWaitFor) {
     // One client in a silence fault, one in a long delay, one with a TCP connection only, and one idle after
     // a fault that was taken away.
     adjust({"--fault", "consultant=41051 call=open kind=delay value=600000", "--fault",
-            "consultant=41052 call=open kind=cut", "--fault", "consultant=41052 call=open kind=none"});
+            "consultant=41052 call=open kind=status value=500", "--fault",
+            "consultant=41052 call=open kind=none"});
     auto delayed = newClient();
     EXPECT_EQ(client.send(checkoutRequest(41062), 300ms).code, CURLE_OPERATION_TIMEDOUT);
     EXPECT_EQ(delayed.send(openRequest(41051), 300ms).code, CURLE_OPERATION_TIMEDOUT);
