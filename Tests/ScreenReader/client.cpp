@@ -2,139 +2,168 @@
 // are
 //
 //   expect FILE  the window becomes what FILE tells, element by element
-//   renew FILE   writes FILE, once the window has changed no more for a second
+//   renew FILE   the same, but if it does not become that, FILE is written anew
 //   press NAME   presses the element of that name, once there is one
 //
 // It ends with 1, and tells what there was instead, if a step is not met within its time.
-#include "ScreenReader/Accessible.hpp"
+#include <atspi/atspi.h>
 
 #include <chrono>
 #include <fstream>
 #include <functional>
 #include <iostream>
 #include <iterator>
+#include <memory>
+#include <string>
 #include <thread>
-
-namespace quillet::testing {
+#include <vector>
 
 namespace {
 
-using std::chrono::steady_clock;
+using Element = std::shared_ptr<AtspiAccessible>;
 
-constexpr auto patience = std::chrono::seconds(20);
-constexpr auto stillness = std::chrono::seconds(1);
-constexpr auto glance = std::chrono::milliseconds(50);
-
-/// The bus tells of changes too, but one has to look again for what they were.
-bool waitUntil(const std::function<bool()>& condition) {
-    const auto deadline = steady_clock::now() + patience;
-    while (!condition()) {
-        if (steady_clock::now() > deadline) {
-            return false;
-        }
-        std::this_thread::sleep_for(glance);
-    }
-    return true;
+template <typename T>
+std::shared_ptr<T> owned(T* object) {
+    return {object, [](T* one) { g_clear_object(&one); }};
 }
 
-void write(const Accessible& element, const std::string& indent, std::string& text) {
-    text += indent + element.role();
-    if (const std::string name = element.name(); !name.empty()) {
-        text += " \"" + name + '"';
+std::string taken(gchar* text) {
+    const std::unique_ptr<gchar, decltype(&g_free)> held(text, g_free);
+    return held ? held.get() : "";
+}
+
+std::string nameOf(const Element& element) {
+    return taken(atspi_accessible_get_name(element.get(), nullptr));
+}
+
+/// Each time anew. An element that has gone has neither name nor children.
+std::vector<Element> childrenOf(const Element& element) {
+    std::vector<Element> children;
+    const int count = atspi_accessible_get_child_count(element.get(), nullptr);
+    for (int i = 0; i < count; ++i) {
+        if (auto child = owned(atspi_accessible_get_child_at_index(element.get(), i, nullptr))) {
+            // What was read before may have changed since.
+            atspi_accessible_clear_cache(child.get());
+            children.push_back(std::move(child));
+        }
     }
-    if (const std::string description = element.description(); !description.empty()) {
-        text += " (" + description + ')';
+    return children;
+}
+
+/// The states that a person is told of.
+std::string statesOf(const Element& element) {
+    static const struct {
+        AtspiStateType state;
+        bool told;
+        const char* name;
+    } known[] = {
+        // clang-format off
+        {ATSPI_STATE_FOCUSED, true, ", focused"},
+        {ATSPI_STATE_EXPANDABLE, true, ", expandable"},
+        {ATSPI_STATE_EXPANDED, true, ", expanded"},
+        {ATSPI_STATE_SELECTED, true, ", selected"},
+        {ATSPI_STATE_CHECKED, true, ", checked"},
+        {ATSPI_STATE_PRESSED, true, ", pressed"},
+        {ATSPI_STATE_BUSY, true, ", busy"},
+        {ATSPI_STATE_MODAL, true, ", modal"},
+        {ATSPI_STATE_ENABLED, false, ", disabled"},
+        {ATSPI_STATE_SHOWING, false, ", hidden"},
+        // clang-format on
+    };
+    const auto set = owned(atspi_accessible_get_state_set(element.get()));
+    std::string states;
+    for (const auto& [state, told, name] : known) {
+        states += set && (atspi_state_set_contains(set.get(), state) == TRUE) == told ? name : "";
     }
-    for (const std::string& state : element.states()) {
-        text += ", " + state;
-    }
-    text += '\n';
-    for (const Accessible& child : element.children()) {
+    return states;
+}
+
+void write(const Element& element, const std::string& indent, std::string& text) {
+    const std::string name = nameOf(element);
+    const std::string description = taken(atspi_accessible_get_description(element.get(), nullptr));
+    text += indent + taken(atspi_accessible_get_role_name(element.get(), nullptr));
+    text += name.empty() ? "" : " \"" + name + '"';
+    text += description.empty() ? "" : " (" + description + ')';
+    text += statesOf(element) + '\n';
+    for (const Element& child : childrenOf(element)) {
         write(child, indent + "  ", text);
     }
 }
 
-std::string windowsOf(const std::string& program) {
-    std::string text;
-    if (const Accessible found = Accessible::program(program)) {
-        for (const Accessible& window : found.children()) {
-            write(window, "", text);
+std::vector<Element> windowsOf(const std::string& program) {
+    const Element desktop = owned(atspi_get_desktop(0));
+    atspi_accessible_clear_cache(desktop.get());
+    for (const Element& one : childrenOf(desktop)) {
+        if (nameOf(one) == program) {
+            return childrenOf(one);
         }
+    }
+    return {};
+}
+
+std::string textOf(const std::string& program) {
+    std::string text;
+    for (const Element& window : windowsOf(program)) {
+        write(window, "", text);
     }
     return text;
 }
 
-bool pressIn(const Accessible& element, const std::string& name) {
-    if (element.name() == name && element.press()) {
-        return true;
-    }
-    for (const Accessible& child : element.children()) {
-        if (pressIn(child, name)) {
+/// Presses the first of these, or of what is in them, that has this name and can be pressed.
+bool pressAmong(const std::vector<Element>& elements, const std::string& name) {
+    for (const Element& element : elements) {
+        const auto action = owned(atspi_accessible_get_action_iface(element.get()));
+        const int count =
+            action && nameOf(element) == name ? atspi_action_get_n_actions(action.get(), nullptr) : 0;
+        for (int i = 0; i < count; ++i) {
+            if (taken(atspi_action_get_action_name(action.get(), i, nullptr)) == "Press") {
+                return atspi_action_do_action(action.get(), i, nullptr) == TRUE;
+            }
+        }
+        if (pressAmong(childrenOf(element), name)) {
             return true;
         }
     }
     return false;
 }
 
-bool expect(const std::string& program, const std::string& path) {
-    std::ifstream file(path);
-    const std::string expected(std::istreambuf_iterator<char>(file), {});
-    std::string found;
-    if (waitUntil([&] { return (found = windowsOf(program)) == expected; })) {
-        return true;
-    }
-    std::cerr << "The window is not what " << path << " tells, but:\n" << found;
-    return false;
-}
-
-bool renew(const std::string& program, const std::string& path) {
-    std::string found;
-    auto since = steady_clock::now();
-    const bool isStill = waitUntil([&] {
-        if (const std::string now = windowsOf(program); now.empty() || now != found) {
-            found = now;
-            since = steady_clock::now();
+/// The bus tells of changes too, but one has to look again for what they were.
+bool waitUntil(const std::function<bool()>& condition) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > deadline) {
+            return false;
         }
-        return steady_clock::now() - since > stillness;
-    });
-    if (isStill) {
-        std::ofstream(path) << found;
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
     }
-    return isStill;
+    return true;
 }
 
-bool press(const std::string& program, const std::string& name) {
-    const bool isPressed = waitUntil([&] {
-        const Accessible found = Accessible::program(program);
-        return found && pressIn(found, name);
-    });
-    if (!isPressed) {
-        std::cerr << "Nothing that can be pressed is called " << name << ", but there is:\n"
-                  << windowsOf(program);
+bool perform(const std::string& program, const std::string& step, const std::string& object) {
+    if (step == "press") {
+        return waitUntil([&] { return pressAmong(windowsOf(program), object); });
     }
-    return isPressed;
+    std::ifstream file(object);
+    const std::string expected(std::istreambuf_iterator<char>(file), {});
+    const bool isMet = waitUntil([&] { return textOf(program) == expected; });
+    if (!isMet && step == "renew") {
+        std::ofstream(object) << textOf(program);
+    }
+    return isMet || step == "renew";
 }
 
 } // namespace
 
-} // namespace quillet::testing
-
 int main(int argc, char** argv) {
-    using namespace quillet::testing;
     const std::vector<std::string> words(argv + 1, argv + argc);
-    if (words.size() % 2 == 0) {
-        std::cerr << "quillet-screen-reader takes a program and steps of two words.\n";
+    if (words.size() % 2 == 0 || atspi_init() != 0) {
+        std::cerr << "A program and steps of two words are needed, and an accessibility bus.\n";
         return 2;
     }
-    if (atspi_init() != 0) {
-        std::cerr << "There is no accessibility bus.\n";
-        return 2;
-    }
-    const std::string& program = words[0];
     for (std::size_t i = 1; i < words.size(); i += 2) {
-        const std::string &step = words[i], &object = words[i + 1];
-        const auto perform = step == "press" ? press : step == "renew" ? renew : expect;
-        if (!perform(program, object)) {
+        if (!perform(words[0], words[i], words[i + 1])) {
+            std::cerr << "Not met: " << words[i] << ' ' << words[i + 1] << ". There is:\n"
+                      << textOf(words[0]);
             return 1;
         }
     }
