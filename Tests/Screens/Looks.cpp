@@ -60,25 +60,15 @@ QString keyOf(int value) {
     return QString::fromLatin1(QMetaEnum::fromType<Enum>().valueToKey(value));
 }
 
-QString iconName(const QString& glyph) {
-    const auto numbers = QMetaEnum::fromType<kel::KelIcons::Number>();
-    for (int i = 0; i < numbers.keyCount(); ++i) {
-        if (kel::KelIcons::glyph(numbers.value(i)) == glyph) {
-            return QString::fromLatin1(numbers.key(i));
-        }
-    }
-    return QStringLiteral("unknown");
-}
-
 QString describedText(const QQuickItem& item) {
     const QString text = item.property("text").toString();
     const auto font = item.property("font").value<QFont>();
     const QString color = colorName(item.property("color").value<QColor>());
-    if (font.family() == kel::KelIcons::family()) {
+    if (has(item, "number")) {
         const QString turned =
             item.rotation() == 0 ? QString() : QStringLiteral(", turned %1").arg(item.rotation());
         return QStringLiteral("icon %1 %2, %3%4")
-            .arg(iconName(text))
+            .arg(keyOf<kel::KelIcons::Number>(item.property("number").toInt()))
             .arg(font.pixelSize())
             .arg(color, turned);
     }
@@ -131,8 +121,7 @@ std::optional<Element> describe(QQuickItem& item, double opacity) {
         return Element{QStringLiteral("scrolling:"), place, true};
     }
     if (has(item, "lineCount") && !item.property("text").toString().isEmpty()) {
-        const bool isIcon = item.property("font").value<QFont>().family() == kel::KelIcons::family();
-        return Element{describedText(item), place, false, !isIcon};
+        return Element{describedText(item), place, false, !has(item, "number")};
     }
     if (has(item, "source") && has(item, "status") && !item.property("source").toUrl().isEmpty()) {
         const QString name = item.property("source").toUrl().fileName();
