@@ -27,17 +27,17 @@ const std::string dialog = "checkout-error.light.390";
 const std::string nothing = "a checkout without content";
 
 /// What a screen reader finds on this screen.
-Lines described(const std::string& screen) {
+QStringList described(const std::string& screen) {
     if (screen == nothing) {
         return {"page \"Envío al carrito\""};
     }
-    Lines lines;
+    QStringList lines;
     std::ifstream file(QUILLET_KEPT_DESCRIPTIONS "/" + screen + ".txt");
     for (std::string line; std::getline(file, line);) {
         if (line == "heard:") {
             lines.clear();
         } else if (!line.contains("#host")) {
-            lines.push_back(line);
+            lines.push_back(QString::fromStdString(line));
         }
     }
     return lines;
@@ -150,12 +150,12 @@ struct Faults : ModuleOnStage {
     }
     /// Waits until this and nothing else can be heard, and compares what has been told by then.
     void expect(const std::string& screen, const Lines& told) {
-        const Lines expected = described(screen);
-        Lines heard;
+        const QStringList expected = described(screen);
+        QStringList heard;
         EXPECT_TRUE(turnUntil([&] {
             heard = readingOrder(*QAccessible::queryAccessibleInterface(&stage->window()));
             return heard == expected && settled() && server.requests().size() == requests;
-        })) << ::testing::PrintToString(heard);
+        })) << heard.join('\n').toStdString();
         EXPECT_EQ(taken(log), told);
     }
     /// Waits until nothing covers the host's bar.

@@ -50,6 +50,8 @@ struct Taps : ::testing::TestWithParam<const char*> {
 
     /// What the host has been told since it was last asked.
     [[nodiscard]] QStringList told() const {
+        // A button acts once the event is over.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
         QStringList lines;
         for (const std::string& line : quillet::testing::taken(log)) {
             lines << "  " + QString::fromStdString(line);
