@@ -1,7 +1,7 @@
 #include "KelDS/KelDS.hpp"
 #include "Support/Stage.hpp"
 #include <Quillet/Quillet.hpp>
-#include <Quillet/Testing/ScriptedBackend.hpp>
+#include <Quillet/Testing.hpp>
 
 #include <QGuiApplication>
 

@@ -2,7 +2,7 @@
 
 #include "Quillet/QuilletNavigationDelegate.hpp"
 
-#include <KelCommon/KelAnalytics.hpp>
+#include <KelCommon/KelCommon.hpp>
 
 #include <memory>
 #include <string>
