@@ -68,7 +68,7 @@ TEST_P(TapsBy, HaveOneEffectHoweverFastTheyFollow) {
     RecordProperty("cases", cases);
 }
 
-TEST_P(TapsBy, DoNothingOnCardsAndTexts) {
+TEST_P(TapsBy, DoNothingOnCardsOnTextsAndBelowADialog) {
     int cases = 0;
     for (const Target& target : targets()) {
         SCOPED_TRACE(target.name);
@@ -80,6 +80,10 @@ TEST_P(TapsBy, DoNothingOnCardsAndTexts) {
         for (const QPointF point : texts) {
             stage->tapRepeatedly(point, 2, GetParam());
             ++cases;
+        }
+        // A screen reader may still have the button that a dialog has come to lie over.
+        if (stage->shows(send) && target.tapped != send) {
+            stage->pressByScreenReader(send);
         }
         animateFor(std::chrono::milliseconds(800));
         EXPECT_THAT(*log, IsEmpty());
