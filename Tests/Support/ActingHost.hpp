@@ -2,6 +2,8 @@
 
 #include "Quillet/Testing/RecordingHost.hpp"
 
+#include <gtest/gtest.h>
+
 #include <functional>
 
 namespace quillet::testing {
@@ -20,6 +22,8 @@ public:
     }
     void trackEvent(const kel::KelAnalyticsEventType& event) override {
         RecordingAnalytics(log_).trackEvent(event);
+        EXPECT_FALSE(event.value() || event.event() || event.error() || event.errorCodes() ||
+                     event.shouldLeave());
         act_(log_->back());
     }
 

@@ -38,9 +38,6 @@ public:
     void trackEvent(const kel::KelAnalyticsEventType& event) override {
         log_->push_back("event " + event.category() + " / " + event.action() + " / " +
                         event.label().value_or("no label"));
-        if (event.value() || event.event() || event.error() || event.errorCodes() || event.shouldLeave()) {
-            log_->push_back("an event with more than its three texts");
-        }
     }
 
 private:
