@@ -7,6 +7,7 @@
 #include <pthread.h>
 #include <sys/socket.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cerrno>
@@ -54,13 +55,14 @@ void release(void* memory) {
     std::free(memory);
 }
 
-template <Resource resource>
-void* allocate(std::size_t size) {
+// OpenSSL adds the file and the line that ask.
+template <Resource resource, typename... Place>
+void* allocate(std::size_t size, Place...) {
     return fails(resource) ? nullptr : std::malloc(size > 0 ? size : 1);
 }
 
-template <Resource resource>
-void* reallocate(void* memory, std::size_t size) {
+template <Resource resource, typename... Place>
+void* reallocate(void* memory, std::size_t size, Place...) {
     return fails(resource) ? nullptr : std::realloc(memory, size);
 }
 
@@ -74,15 +76,10 @@ char* copyText(const char* text) {
 
 // Both libraries accept such functions only before their first allocation.
 const bool isInstalled = [] {
-    const auto allocateForOpenSsl = [](std::size_t size, const char*, int) {
-        return allocate<Resource::openSsl>(size);
-    };
-    const auto reallocateForOpenSsl = [](void* memory, std::size_t size, const char*, int) {
-        return reallocate<Resource::openSsl>(memory, size);
-    };
     const auto freeForOpenSsl = [](void* memory, const char*, int) { std::free(memory); };
     const bool isTaken =
-        CRYPTO_set_mem_functions(allocateForOpenSsl, reallocateForOpenSsl, freeForOpenSsl) == 1 &&
+        CRYPTO_set_mem_functions(&allocate<Resource::openSsl, const char*, int>,
+                                 &reallocate<Resource::openSsl, const char*, int>, freeForOpenSsl) == 1 &&
         curl_global_init_mem(CURL_GLOBAL_DEFAULT, &allocate<Resource::curl>, &std::free,
                              &reallocate<Resource::curl>, &copyText, &allocateZeroed) == CURLE_OK;
     if (!isTaken) {
@@ -104,12 +101,7 @@ FailingResource::~FailingResource() {
 }
 
 bool FailingResource::hasFailed() const {
-    for (const auto& counter : left) {
-        if (counter > 0) {
-            return false;
-        }
-    }
-    return true;
+    return std::ranges::none_of(left, [](const auto& counter) { return counter > 0; });
 }
 
 void FailingResource::spareThisThread() {
@@ -126,9 +118,10 @@ std::size_t PeakMemory::bytes() const {
 
 } // namespace quillet::testing
 
+using namespace quillet::testing;
+
 // The forms of `new` that are not replaced here call these.
 void* operator new(std::size_t size) {
-    using namespace quillet::testing;
     if (void* const memory = allocate<Resource::cpp>(size)) {
         return hold(memory);
     }
@@ -136,45 +129,40 @@ void* operator new(std::size_t size) {
 }
 
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-    using namespace quillet::testing;
     void* const memory = allocate<Resource::cpp>(size);
     return memory ? hold(memory) : nullptr;
 }
 
 void operator delete(void* memory) noexcept {
-    quillet::testing::release(memory);
+    release(memory);
 }
 
 void operator delete(void* memory, std::size_t) noexcept {
-    quillet::testing::release(memory);
+    release(memory);
 }
 
 void operator delete(void* memory, const std::nothrow_t&) noexcept {
-    quillet::testing::release(memory);
+    release(memory);
 }
 
 extern "C" {
 
 int pthread_create(pthread_t* thread, const pthread_attr_t* attributes, void* (*run)(void*),
                    void* argument) noexcept {
-    using namespace quillet::testing;
     const int result = givenBySystem(Resource::threads, "pthread_create", thread, attributes, run, argument);
     return result < 0 ? EAGAIN : result;
 }
 
 int socket(int domain, int type, int protocol) noexcept {
-    using namespace quillet::testing;
     return givenBySystem(Resource::sockets, "socket", domain, type, protocol);
 }
 
 int socketpair(int domain, int type, int protocol, int* pair) noexcept {
-    using namespace quillet::testing;
     return givenBySystem(Resource::sockets, "socketpair", domain, type, protocol, pair);
 }
 
 // Libraries that take large files on every machine open them with this one.
 FILE* fopen64(const char* path, const char* mode) {
-    using namespace quillet::testing;
     if (fails(Resource::files)) {
         errno = EMFILE;
         return nullptr;

@@ -13,8 +13,9 @@ inline constexpr auto gatewayHost = "gateway.test";
 
 /// A fault server in the place of `gatewayHost`, and the configuration that leads a session to it.
 struct SandboxedSession {
-    TestAuthority authority;
-    FaultServer server{authority.serverContext(gatewayHost)};
+    ServerPlace serverPlace = {};
+    TestAuthority authority{};
+    FaultServer server{authority.serverContext(gatewayHost), serverPlace};
     std::shared_ptr<ManualClock> clock = std::make_shared<ManualClock>();
     platform::URLSessionConfiguration configuration{
         .caBundleFile = authority.bundleFile(),

@@ -1,9 +1,7 @@
 #include "Models/Bodies.hpp"
 #include "Quillet/Platform/MainQueue.hpp"
-#include "Quillet/Platform/URLSessionConfiguration.hpp"
-#include "Quillet/Testing/ManualClock.hpp"
 #include "Support/FailingAllocations.hpp"
-#include "Support/FaultServer.hpp"
+#include "Support/SandboxedSession.hpp"
 #include "Workers/AssociateConsultantToCartWorker.hpp"
 
 #include <curl/curl.h>
@@ -51,10 +49,9 @@ public:
 };
 
 /// A worker with its own server, which has two complete answers.
-class WorkerTrial {
-public:
-    WorkerTrial(const testing::TestAuthority& authority, std::size_t items)
-        : server(authority.serverContext("gateway.test"), {.onThread = &FailingResource::spareThisThread}) {
+struct WorkerTrial : testing::SandboxedSession {
+    explicit WorkerTrial(std::size_t items)
+        : SandboxedSession{.serverPlace = {.onThread = &FailingResource::spareThisThread}} {
         std::string lines = tests::itemJson;
         for (std::size_t line = 1; line < items; ++line) {
             lines += "," + tests::itemJson;
@@ -62,12 +59,9 @@ public:
         const std::string body = tests::replaced(tests::orderJson, tests::itemJson, lines);
         server.enqueue(Answer::complete(200, body));
         server.enqueue(Answer::complete(200, body));
-        platform::URLSessionConfiguration::setDefaultConfiguration(
-            {.caBundleFile = authority.bundleFile(),
-             .hostMappings = {{.host = "gateway.test", .address = "127.0.0.1", .port = server.port()}},
-             .clock = clock});
-        worker =
-            AssociateConsultantToCartWorker::factoryMethod("cart", 7, "gateway.test", {"token", "provider"});
+        platform::URLSessionConfiguration::setDefaultConfiguration(configuration);
+        worker = AssociateConsultantToCartWorker::factoryMethod("cart", 7, testing::gatewayHost,
+                                                                {"token", "provider"});
         worker->setDelegate(delegate);
         platform::mainQueue().setWakeUp([this] { waiting.release(); });
     }
@@ -84,8 +78,6 @@ public:
         std::thread([] { platform::mainQueue().drain(); }).join();
     }
 
-    testing::FaultServer server;
-    std::shared_ptr<testing::ManualClock> clock = std::make_shared<testing::ManualClock>();
     std::counting_semaphore<> waiting{0};
     std::shared_ptr<CountingDelegate> delegate = std::make_shared<CountingDelegate>();
     std::shared_ptr<AssociateConsultantToCartWorker> worker;
@@ -93,8 +85,6 @@ public:
 
 struct OutOf : ::testing::TestWithParam<Scarcity> {
     OutOf() { FailingResource::spareThisThread(); }
-
-    testing::TestAuthority authority;
 };
 
 // libcurl 8.22 passes a null pointer to OpenSSL, which crashes. 8.14 does not.
@@ -117,7 +107,7 @@ TEST_P(OutOf, FailsTheCallAndNotTheNextOne) {
     const std::size_t before = openFiles();
     for (std::size_t index = 1; wasReached; index += step) {
         SCOPED_TRACE(index);
-        WorkerTrial trial(authority, items);
+        WorkerTrial trial(items);
         {
             const FailingResource failing(resource, index);
             std::thread([&] { trial.worker->execute(); }).join();
