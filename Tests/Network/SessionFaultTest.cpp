@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <latch>
+
 namespace quillet::testing {
 
 namespace {
@@ -188,7 +190,8 @@ TEST_F(SessionFaults, OfOneSessionDoNotHoldUpAnother) {
     // The gate opens also where the test fails.
     std::shared_ptr<void> closedGate(nullptr, [gate](void*) { gate->count_down(); });
     const platform::URLSession busy(configuration);
-    server.enqueue({{ok + repeated(3'000, header), repeated(100'000, header)}, keepOpen, gate});
+    server.enqueue(
+        {{ok + repeated(3'000, header), repeated(100'000, header)}, keepOpen, [gate] { gate->wait(); }});
     start(busy);
     ASSERT_TRUE(server.waitForRequests(1));
     warmUp();

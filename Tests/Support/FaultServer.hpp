@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
-#include <latch>
 #include <list>
 #include <memory>
 #include <mutex>
@@ -29,11 +28,9 @@ struct Answer {
         reset,
     };
 
-    /// Sent unchanged in these pieces; before each piece but the first the server waits for `gate`, and calls
-    /// `pace`.
+    /// Sent unchanged in these pieces; before each piece but the first the server calls `pace`.
     std::vector<std::string> pieces;
     Ending ending = Ending::keepOpen;
-    std::shared_ptr<std::latch> gate = nullptr;
     std::function<void()> pace = {};
 
     /// A complete answer with a content length.
