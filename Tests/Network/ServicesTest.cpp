@@ -40,13 +40,13 @@ struct Services : ::testing::Test, SandboxedSession {
 
 using enum Answer::Ending;
 
-const std::string& body = tests::checkoutJson;
+const std::string& sample = tests::checkoutJson;
 const std::string head = "HTTP/1.1 200 OK\r\n";
-const std::string byLength = head + "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n" + body;
-const std::string inChunks = head + "Transfer-Encoding: chunked\r\n\r\n5\r\n" + body.substr(0, 5) + "\r\n" +
-                             (std::ostringstream() << std::hex << body.size() - 5).str() + "\r\n" +
-                             body.substr(5) + "\r\n0\r\n\r\n";
-const std::string byEnd = head + "\r\n" + body;
+const std::string byLength = head + "Content-Length: " + std::to_string(sample.size()) + "\r\n\r\n" + sample;
+const std::string inChunks = head + "Transfer-Encoding: chunked\r\n\r\n5\r\n" + sample.substr(0, 5) + "\r\n" +
+                             (std::ostringstream() << std::hex << sample.size() - 5).str() + "\r\n" +
+                             sample.substr(5) + "\r\n0\r\n\r\n";
+const std::string byEnd = head + "\r\n" + sample;
 
 /// An answer that is cut somewhere.
 struct CutAnswer {
