@@ -31,7 +31,7 @@ bool write(const QImage& picture, const QString& file) {
 QRect difference(const QImage& expected, const QImage& actual) {
     QRect place = expected.size() == actual.size() ? QRect() : actual.rect();
     for (const auto& [side, tolerance] : scales) {
-        const auto averages = [side = side](const QImage& picture) {
+        const auto averages = [side](const QImage& picture) {
             return picture.scaled(picture.size() / side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         };
         const QImage before = averages(expected);

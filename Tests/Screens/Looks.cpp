@@ -9,6 +9,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <map>
 #include <optional>
 #include <ranges>
 #include <utility>
@@ -152,12 +153,15 @@ void collect(QQuickItem& item, double opacity, Element& ground) {
     if (!item.isVisible() || opacity == 0) {
         return;
     }
-    // From bottom to top, as they are painted: those below zero lie under the item itself.
-    QList<QQuickItem*> children = item.childItems();
-    std::ranges::stable_sort(children, {}, &QQuickItem::z);
-    const auto above = std::ranges::lower_bound(children, 0.0, {}, &QQuickItem::z);
+    // From bottom to top, as they are painted: those below zero lie under the item itself, and of the same
+    // height the later one is above.
+    std::multimap<double, QQuickItem*> children;
+    for (QQuickItem* child : item.childItems()) {
+        children.emplace(child->z(), child);
+    }
+    const auto above = children.lower_bound(0);
     const auto collectAll = [&](auto first, auto last) {
-        std::for_each(first, last, [&](QQuickItem* child) { collect(*child, opacity, ground); });
+        std::for_each(first, last, [&](const auto& child) { collect(*child.second, opacity, ground); });
     };
     collectAll(children.begin(), above);
     if (auto element = describe(item, opacity)) {
