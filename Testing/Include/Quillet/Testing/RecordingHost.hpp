@@ -2,7 +2,13 @@
 
 #include "Quillet/QuilletNavigationDelegate.hpp"
 
+// Kel's own build has the analytics in a header without Qt. Another design system has the header that Kel's
+// page names.
+#if __has_include(<KelCommon/KelAnalytics.hpp>)
+#include <KelCommon/KelAnalytics.hpp>
+#else
 #include <KelCommon/KelCommon.hpp>
+#endif
 
 #include <memory>
 #include <string>
