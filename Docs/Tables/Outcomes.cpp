@@ -11,6 +11,7 @@
 #include <ostream>
 #include <set>
 #include <stdexcept>
+#include <tuple>
 
 namespace quillet::docs {
 
@@ -108,10 +109,24 @@ void printOutcomes(std::ostream& out) {
         printRow(out, {std::to_string(status), docs::nameOf(withBody) + " or " + docs::nameOf(without), shown,
                        check(status)});
     }
-    for (const char* code : {"ERROR_CART_OTHER_CONSULTANT", "ERROR_CART_ALREADY_SUBMITTED"}) {
-        printRow(out, {std::string("422 as a server error with `") + code + '`', "`ServerError`",
-                       shownForError(refusal(code), 422), "see below"});
+    const std::string other = "ERROR_CART_OTHER_CONSULTANT";
+    const std::string submitted = "ERROR_CART_ALREADY_SUBMITTED";
+    ServerError deeper = refusal("");
+    deeper.error.response.message = submitted;
+    const std::tuple<std::string, ServiceError, int> refusals[] = {
+        {"422 as a server error with `" + other + '`', refusal(other), 422},
+        {"422 as a server error with `" + submitted + '`', refusal(submitted), 422},
+        {"the same with a longer text", refusal(submitted + "_AGAIN"), 422},
+        {"the same with the code in `error.response.message`", deeper, 422},
+        {"the same as the client's error", ClientError{submitted, submitted, 422, ""}, 422},
+        {"the same with status 409", refusal(submitted), 409},
+        {"the same with status 504", refusal(submitted), 504},
+    };
+    for (const auto& [answer, error, status] : refusals) {
+        printRow(out, {answer, docs::nameOf(error), shownForError(error, status), "see below"});
     }
+    printRow(out, {"any error status with an order", "none that counts",
+                   shownFor(OrderResult{OrderResponse{}, refusal(other), 422}), "see above"});
 }
 
 void printCheckouts(std::ostream& out) {
