@@ -146,7 +146,7 @@ QQuickItem* Stage::item(const QString& textOrName) const {
 }
 
 void Stage::press(const QString& textOrName) {
-    mouse(QEvent::MouseButtonPress, middle(textOrName));
+    QTest::mousePress(window_.get(), Qt::LeftButton, {}, middle(textOrName).toPoint());
 }
 
 void Stage::click(const QString& textOrName) {
@@ -154,8 +154,9 @@ void Stage::click(const QString& textOrName) {
 }
 
 void Stage::releaseAt(QPointF point) {
-    mouse(QEvent::MouseMove, point);
-    mouse(QEvent::MouseButtonRelease, point);
+    QTest::mouseMove(window_.get(), point.toPoint());
+    QTest::mouseRelease(window_.get(), Qt::LeftButton, {}, point.toPoint());
+    finishEvent();
 }
 
 void Stage::clickBar() {
@@ -163,8 +164,8 @@ void Stage::clickBar() {
 }
 
 void Stage::clickAt(QPointF point) {
-    mouse(QEvent::MouseButtonPress, point);
-    mouse(QEvent::MouseButtonRelease, point);
+    QTest::mouseClick(window_.get(), Qt::LeftButton, {}, point.toPoint());
+    finishEvent();
 }
 
 void Stage::touchAt(QPointF point) {
@@ -181,7 +182,7 @@ void Stage::tapRepeatedly(QPointF point, int times, bool byFinger) {
         QTest::mouseDClick(window_.get(), Qt::LeftButton, {}, point.toPoint());
     }
     if (!byFinger && times != 2) {
-        QTest::mouseClick(window_.get(), Qt::LeftButton, {}, point.toPoint());
+        clickAt(point);
     }
 }
 
@@ -226,14 +227,6 @@ QPointF Stage::middle(const QString& textOrName) const {
         throw std::runtime_error("not on the stage: " + textOrName.toStdString());
     }
     return found->mapToScene(QPointF(found->width() / 2, found->height() / 2));
-}
-
-void Stage::mouse(QEvent::Type type, QPointF point) {
-    const auto held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    const auto changed = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, point, point, window_->mapToGlobal(point), changed, held, {});
-    QCoreApplication::sendEvent(window_.get(), &event);
-    finishEvent();
 }
 
 } // namespace quillet::testing

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QMouseEvent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -77,8 +76,6 @@ public:
     [[nodiscard]] static std::vector<std::string> complaints();
 
 private:
-    void mouse(QEvent::Type type, QPointF point);
-
     std::unique_ptr<QQmlEngine> engine_;
     std::unique_ptr<QQuickWindow> window_;
 };
