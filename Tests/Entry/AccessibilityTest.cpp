@@ -43,8 +43,7 @@ struct Accessibility : ModuleOnStage {
             if (changed.busy) {
                 heard.push_back(name + (interface->state().busy ? " is busy" : " is no longer busy"));
             }
-            // An element that is being made has no name yet.
-            if (changed.expanded && !name.empty()) {
+            if (changed.expanded) {
                 heard.push_back(name + (interface->state().expanded ? " is open" : " is closed"));
             }
         }

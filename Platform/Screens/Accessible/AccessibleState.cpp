@@ -14,6 +14,8 @@ AccessibleState::AccessibleState(QObject* item) : QObject(item), item_(qobject_c
         QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(given));
     }
     connect(this, &AccessibleState::changed, this, &AccessibleState::tell);
+    // What an item is when it is made is no change, and it may have no name yet.
+    QMetaObject::invokeMethod(this, [this] { isMade_ = true; }, Qt::QueuedConnection);
     if (item_) {
         connect(item_, &QQuickItem::visibleChanged, this, &AccessibleState::announce);
         connect(item_, &QQuickItem::windowChanged, this, &AccessibleState::announce);
@@ -30,7 +32,7 @@ AccessibleState* AccessibleState::of(QObject& item) {
 
 void AccessibleState::tell() {
     QAccessible::State differs;
-    differs.expanded = std::exchange(toldExpanded_, expanded) != expanded;
+    differs.expanded = std::exchange(toldExpanded_, expanded) != expanded && isMade_;
     differs.collapsed = differs.expanded;
     differs.busy = std::exchange(toldBusy_, busy) != busy;
     // What is not on the screen yet has no state before.

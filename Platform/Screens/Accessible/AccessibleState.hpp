@@ -52,6 +52,7 @@ private:
     void announce();
 
     QQuickItem* item_;
+    bool isMade_ = false;
     bool toldExpanded_ = false;
     bool toldBusy_ = false;
     bool toldSealed_ = false;
