@@ -4,7 +4,9 @@
 
 #include <QLoggingCategory>
 #include <QQmlComponent>
+#include <QQmlContext>
 #include <QQmlEngine>
+#include <QQmlExpression>
 #include <QQuickWindow>
 
 #include <algorithm>
@@ -116,20 +118,22 @@ bool NavigationController::push(const std::shared_ptr<QuickViewController>& scre
     screen->setStackView(stackView_);
 
     // StackView destroys a popped page only if it created the page, hence a component. Its `push` can only be
-    // called from JavaScript. The engine must own neither the component nor the screen.
+    // called from JavaScript, and only within a QML context: Qt 6.8 keeps that of the caller, and crashes
+    // without one while it collects garbage. The engine must own neither the component nor the screen.
     QQmlEngine::setObjectOwnership(component, QQmlEngine::CppOwnership);
     QQmlEngine::setObjectOwnership(screen.get(), QQmlEngine::CppOwnership);
-    QJSValue properties = engine->newObject();
-    properties.setProperty(QStringLiteral("controller"), engine->newQObject(screen.get()));
-    const QJSValue stack = engine->toScriptValue<QObject*>(stackView_.data());
-    const QJSValue page = stack.property(QStringLiteral("push"))
-                              .callWithInstance(stack, {engine->newQObject(component), properties});
-    if (page.isError() || !page.isQObject()) {
-        qCWarning(lcNavigation) << "push failed:" << page.toString();
+    auto* const context = new QQmlContext(engine->rootContext(), component);
+    context->setContextProperties({{QStringLiteral("stack"), QVariant::fromValue(stackView_.data())},
+                                   {QStringLiteral("component"), QVariant::fromValue(component)},
+                                   {QStringLiteral("controller"), QVariant::fromValue(screen.get())}});
+    QQmlExpression push(context, nullptr, QStringLiteral("stack.push(component, {controller: controller})"));
+    auto* const page = push.evaluate().value<QObject*>();
+    if (!page) {
+        qCWarning(lcNavigation) << "push failed:" << push.error();
         delete component;
         return false;
     }
-    component->setParent(page.toQObject());
+    component->setParent(page);
     return true;
 }
 
