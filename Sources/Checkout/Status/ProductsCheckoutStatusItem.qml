@@ -146,7 +146,8 @@ Item {
         // middle of it.
         header: list.width <= 0 ? null : root.isWide ? gap : above
         footer: root.isWide ? gap : below
-        onHeaderItemChanged: list.positionViewAtBeginning()
+        // Unlike positionViewAtBeginning() this works before the list is complete, too.
+        onHeaderItemChanged: list.contentY = list.originY
     }
     Item {
         id: end
