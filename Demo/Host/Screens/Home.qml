@@ -21,66 +21,74 @@ ListView {
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
     model: home.host.orders
-    delegate: KelPressable {
-        id: order
+    // From Qt 6.8 on a list places its delegates at its own edge, whatever their x.
+    delegate: Item {
+        id: row
 
         required property var modelData
         required property int index
 
-        objectName: "hostOrder"
-        x: safe.left + KelSpacing.small
-        width: ListView.view.width - safe.left - safe.right - 2 * KelSpacing.small
-        implicitHeight: implicitContentHeight
-        Accessible.name: order.modelData.customer + ". " + order.modelData.title
-        onActivated: home.host.openOrder(order.index)
-        onVisualFocusChanged: if (visualFocus) home.positionViewAtIndex(order.index, ListView.Contain)
+        width: ListView.view.width
+        implicitHeight: order.implicitHeight
 
-        contentItem: KelCard {
-            border.width: order.visualFocus ? 2 : 1
-            border.color: order.visualFocus ? KelColors.highEmphasis : KelColors.hairline
-            color: order.down ? KelColors.tint(KelColors.primary) : KelColors.surface
+        KelPressable {
+            id: order
 
-            Row {
-                width: parent.width
-                spacing: 12
+            objectName: "hostOrder"
+            x: safe.left + KelSpacing.small
+            width: row.width - safe.left - safe.right - 2 * KelSpacing.small
+            implicitHeight: implicitContentHeight
+            Accessible.name: row.modelData.customer + ". " + row.modelData.title
+            onActivated: home.host.openOrder(row.index)
+            onVisualFocusChanged: if (visualFocus) home.positionViewAtIndex(row.index, ListView.Contain)
 
-                Rectangle {
-                    width: KelSizes.semiX
-                    height: KelSizes.semiX
-                    radius: width / 2
-                    color: KelColors.tint(KelColors.success)
+            contentItem: KelCard {
+                border.width: order.visualFocus ? 2 : 1
+                border.color: order.visualFocus ? KelColors.highEmphasis : KelColors.hairline
+                color: order.down ? KelColors.tint(KelColors.primary) : KelColors.surface
 
-                    KelIcon {
-                        anchors.centerIn: parent
-                        number: KelIcons.Message
-                        size: KelSizes.standard
-                        color: KelColors.success
+                Row {
+                    width: parent.width
+                    spacing: 12
+
+                    Rectangle {
+                        width: KelSizes.semiX
+                        height: KelSizes.semiX
+                        radius: width / 2
+                        color: KelColors.tint(KelColors.success)
+
+                        KelIcon {
+                            anchors.centerIn: parent
+                            number: KelIcons.Message
+                            size: KelSizes.standard
+                            color: KelColors.success
+                        }
                     }
-                }
-                Column {
-                    width: parent.width - KelSizes.semiX - 12
-                    spacing: KelSpacing.micro
+                    Column {
+                        width: parent.width - KelSizes.semiX - 12
+                        spacing: KelSpacing.micro
 
-                    KelLabel {
-                        width: parent.width
-                        text: order.modelData.customer
-                        weight: KelFonts.Medium
-                        wrapMode: Text.Wrap
-                    }
-                    KelLabel {
-                        width: parent.width
-                        text: order.modelData.message
-                        size: KelFonts.Subtitle2
-                        lineHeight: 1.2
-                        color: KelColors.mediumEmphasis
-                        wrapMode: Text.Wrap
-                    }
-                    KelLabel {
-                        width: parent.width
-                        text: order.modelData.consultant + " · " + order.modelData.title
-                        wrapMode: Text.Wrap
-                        size: KelFonts.Caption
-                        color: KelColors.mediumEmphasis
+                        KelLabel {
+                            width: parent.width
+                            text: row.modelData.customer
+                            weight: KelFonts.Medium
+                            wrapMode: Text.Wrap
+                        }
+                        KelLabel {
+                            width: parent.width
+                            text: row.modelData.message
+                            size: KelFonts.Subtitle2
+                            lineHeight: 1.2
+                            color: KelColors.mediumEmphasis
+                            wrapMode: Text.Wrap
+                        }
+                        KelLabel {
+                            width: parent.width
+                            text: row.modelData.consultant + " · " + row.modelData.title
+                            wrapMode: Text.Wrap
+                            size: KelFonts.Caption
+                            color: KelColors.mediumEmphasis
+                        }
                     }
                 }
             }
