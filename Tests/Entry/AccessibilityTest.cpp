@@ -132,8 +132,13 @@ TEST_F(Accessibility, ShowsWhereTheKeysAreToThoseWhoUseKeys) {
 }
 
 TEST_F(Accessibility, TakesAllKeysWhileItWaitsButThePlatformsForGoingBack) {
-    backend->script(Call::associate, {Reply::never()});
+    backend->script(Call::associate, {Reply{.status = 504}, Reply::never()});
     open();
+    clickThrough({retry});
+    // The ring turns in each wait, not in the first one alone.
+    const auto ring = [&] { return stage->window().grabWindow().copy(167, 394, 56, 56); };
+    const QImage before = ring();
+    EXPECT_TRUE(turnUntilFor(std::chrono::seconds(5), [&] { return ring() != before; }));
     for (const Qt::Key key : {Qt::Key_A, Qt::Key_Down, Qt::Key_Back}) {
         QKeyEvent event(QEvent::KeyPress, key, {});
         QCoreApplication::sendEvent(&stage->window(), &event);

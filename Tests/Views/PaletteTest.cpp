@@ -1,10 +1,6 @@
 #include "KelDS/KelDS.hpp"
-#include "Resources/ModuleBundle.hpp"
 #include "Support/Contrast.hpp"
 #include "Views/Tokens/HexColor.hpp"
-
-#include <QImage>
-#include <QPainter>
 
 #include <gtest/gtest.h>
 
@@ -75,31 +71,6 @@ TEST(Palettes, StandOutFromTheirGrounds) {
     }
     // Who asks for more contrast gets it.
     expectContrast("text", kel::contrastPalette.mediumEmphasis, kel::contrastPalette.background, 7);
-}
-
-TEST(Illustrations, StandOutFromTheirGroundsInEachTheme) {
-    // A point of what is drawn, and one of what it is drawn on.
-    const struct {
-        const char* name;
-        QPoint ink, ground;
-        QColor (*behind)();
-    } drawings[] = {
-        {"cart_already_submitted", {32, 55}, {10, 40}, kel::KelColors::surface},
-        {"other_consultant", {33, 30}, {8, 40}, kel::KelColors::surface},
-        {"sad_face", {40, 57}, {24, 60}, kel::KelColors::background},
-        {"surprise_face", {40, 56}, {24, 60}, kel::KelColors::background},
-    };
-    for (const auto theme : {kel::KelTheme::light, kel::KelTheme::dark, kel::KelTheme::contrast}) {
-        kel::KelAppearance::current().setTheme(theme);
-        for (const auto& [name, ink, ground, behind] : drawings) {
-            QImage picture(80, 80, QImage::Format_RGB32);
-            picture.fill(behind());
-            QPainter(&picture).drawImage(QRect(0, 0, 80, 80), QImage(':' + moduleImage(name).path()));
-            EXPECT_GE(contrast(picture.pixelColor(ink), picture.pixelColor(ground)), forShapes)
-                << name << " in theme " << int(theme);
-        }
-    }
-    kel::KelAppearance::current().setTheme(kel::KelTheme::light);
 }
 
 } // namespace quillet::testing
