@@ -1,12 +1,12 @@
 #include "Checkout/CheckoutFactory.hpp"
-#include "Support/ModuleOnStage.hpp"
+#include "Support/ModuleTest.hpp"
 #include "Workers/CheckoutWorkerFactory.hpp"
 
 #include <QCoreApplication>
 
 namespace quillet::testing {
 
-using CheckoutScreen = ModuleOnStage;
+using CheckoutScreen = ModuleTest;
 
 TEST_F(CheckoutScreen, GoesOnUnderAPageThatCoversItAndChecksOutOnceHoweverOftenItAppears) {
     backend->script(Call::checkout, {Reply{.status = 500, .after = std::chrono::seconds(5)}});

@@ -1,6 +1,6 @@
 #include "Platform/Screens/Accessible/AccessibleState.hpp"
 #include "Platform/Screens/QuickViewController.hpp"
-#include "Support/ModuleOnStage.hpp"
+#include "Support/ModuleTest.hpp"
 
 #include <QAccessible>
 #include <QCoreApplication>
@@ -13,7 +13,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-struct Accessibility : ModuleOnStage {
+struct Accessibility : ModuleTest {
     Accessibility() {
         heard.clear();
         platform::AccessibleState::post = hear;

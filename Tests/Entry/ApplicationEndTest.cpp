@@ -1,6 +1,6 @@
 #include "Platform/Screens/MainQueuePump.hpp"
 #include "Quillet/Platform/MainQueue.hpp"
-#include "Support/ModuleOnStage.hpp"
+#include "Support/ModuleTest.hpp"
 #include "Support/SilentPort.hpp"
 
 #include <KelCommon/KelLocalized.hpp>
@@ -66,7 +66,7 @@ std::unique_ptr<Application> makeApplication() {
 /// Where the module is when its application ends.
 enum class Step { beforeStart, underWay, underWayOverTheNetwork, queued, delivered, fading };
 
-struct Module final : ModuleOnStage {
+struct Module final : ModuleTest {
     void TestBody() override {}
 
     void reach(Step step) {

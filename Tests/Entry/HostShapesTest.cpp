@@ -62,11 +62,6 @@ const Shape shapes[] = {
             ModuleStack { anchors.fill: parent }
         })",
      false},
-    {"besideAnotherStack", R"(
-        Bar { width: parent.width }
-        HostStack { y: 700; width: parent.width; height: 144 }
-        ModuleStack { y: 64; width: parent.width; height: 636 })",
-     false},
 };
 
 const std::string sideBySide = R"(
@@ -77,9 +72,16 @@ const std::string sideBySide = R"(
         HostStack { Component.onCompleted: window.right = this }
     })";
 
-struct CoveredShapes : ModuleTest, ::testing::WithParamInterface<Shape> {};
-struct HostShapes : ModuleTest {};
-struct TwoModules : ModuleTest, ::testing::WithParamInterface<bool> {};
+struct HostShapes : ModuleTest {
+    void useWindow(const std::string& content) {
+        stage = std::make_unique<Stage>(windowWith(content).c_str());
+        // The window and its layouts get their sizes in the event loop.
+        ASSERT_TRUE(turnUntil([&] { return stage->stack().height() > 0 && stage->window().isExposed(); }));
+    }
+};
+
+struct CoveredShapes : HostShapes, ::testing::WithParamInterface<Shape> {};
+struct TwoModules : HostShapes, ::testing::WithParamInterface<bool> {};
 
 bool isUnder(const QQuickItem* item, const QQuickItem& ancestor) {
     return item && ancestor.isAncestorOf(item);
@@ -90,19 +92,23 @@ bool isUnder(const QQuickItem* item, const QQuickItem& ancestor) {
 TEST_P(CoveredShapes, AreCoveredAsFarAsTheModuleReaches) {
     backend->script(Call::associate,
                     {Reply{.body = sampleBody(Call::associate), .after = std::chrono::seconds(5)}});
-    Stage stage(windowWith(GetParam().content).c_str());
-    ASSERT_TRUE(open(stage.stack(), GetParam().namesWindow ? stage.window().contentItem() : nullptr));
-    const QSizeF size = stage.stack().size();
+    useWindow(GetParam().content);
+    open(GetParam().namesWindow ? stage->window().contentItem() : nullptr);
+    ASSERT_TRUE(turnUntil([&] { return settled(); }));
+    const QSizeF size = stage->stack().size();
     // The bar of the drawer's window begins beside the drawer.
-    const auto clickBar = [&] { stage.clickAt(stage.bar().mapToScene({stage.bar().width() - 20, 32})); };
-    clickBar();
-    EXPECT_EQ(stage.barClicks(), GetParam().coversBar ? 0 : 1);
-    EXPECT_EQ(stage.stack().size(), size);
+    const auto clickBar = [&] {
+        stage->clickAt(stage->bar().mapToScene({stage->bar().width() - 20, 32}));
+        return stage->barClicks();
+    };
+    EXPECT_EQ(clickBar(), GetParam().coversBar ? 0 : 1);
+    EXPECT_EQ(stage->stack().size(), size);
     backend->clock()->advance(std::chrono::seconds(5));
-    ASSERT_TRUE(showSummary(stage));
-    clickBar();
-    EXPECT_EQ(stage.barClicks(), GetParam().coversBar ? 1 : 2);
-    EXPECT_TRUE(showResult(stage, stage.stack()));
+    clickThrough({viewOrders});
+    ASSERT_TRUE(comesToShow(send));
+    EXPECT_EQ(clickBar(), GetParam().coversBar ? 1 : 2);
+    clickThrough({send});
+    EXPECT_TRUE(comesToShow(someSent));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, CoveredShapes, ::testing::ValuesIn(shapes),
@@ -110,38 +116,49 @@ INSTANTIATE_TEST_SUITE_P(All, CoveredShapes, ::testing::ValuesIn(shapes),
 
 TEST_P(TwoModules, AreApart) {
     backend->script(Call::associate, {Reply::never(), Reply::sample(Call::associate)});
-    Stage left(GetParam() ? nullptr : windowWith(sideBySide).c_str());
-    std::unique_ptr<Stage> other = GetParam() ? std::make_unique<Stage>() : nullptr;
-    Stage& right = other ? *other : left;
-    QQuickItem& stack = other ? other->stack() : *left.window().property("right").value<QQuickItem*>();
-    left.window().setWidth(800);
-    ASSERT_TRUE(open(left.stack()));
-    ASSERT_TRUE(open(stack));
-    right.window().requestActivate();
-    ASSERT_TRUE(turnUntil([&] { return right.window().isActive(); }) && showSummary(right));
-    ASSERT_TRUE(isUnder(right.item(send), stack));
-    stack.forceActiveFocus();
+    std::unique_ptr<Stage> other;
+    if (!GetParam()) {
+        useWindow(sideBySide);
+        stage->window().setWidth(800);
+    }
+    QQuickItem& left = stage->stack();
+    open();
+    if (GetParam()) {
+        other = std::exchange(stage, std::make_unique<Stage>());
+    } else {
+        stage->window().setProperty("stack", stage->window().property("right"));
+    }
+    Stage& leftStage = other ? *other : *stage;
+    QQuickItem& right = stage->stack();
+    open();
+    stage->window().requestActivate();
+    ASSERT_TRUE(turnUntil([&] { return stage->window().isActive(); }));
+    clickThrough({viewOrders});
+    ASSERT_TRUE(comesToShow(send) && isUnder(stage->item(send), right));
+    right.forceActiveFocus();
 
     // The left one still waits; the right one works by mouse, by key and for a screen reader.
-    ASSERT_TRUE(showResult(right, stack));
-    EXPECT_TRUE(isUnder(right.item(someSent), stack));
-    left.clickBar();
-    right.clickBar();
-    EXPECT_EQ(right.barClicks() - left.barClicks(), other ? 1 : 0);
+    clickThrough({send});
+    ASSERT_TRUE(comesToShow(someSent) && isUnder(stage->item(someSent), right));
+    leftStage.clickBar();
+    stage->clickBar();
+    EXPECT_EQ(stage->barClicks() - leftStage.barClicks(), other ? 1 : 0);
     log->clear();
-    right.pressByScreenReader("Ir al carrito");
+    stage->pressByScreenReader(goToCart);
     EXPECT_THAT(*log, ::testing::Contains("navigateToCart"));
 
     // Its end puts an outcome on the left, and leaves the right one its focus.
-    const QQuickItem* const focus = right.focus();
-    EXPECT_TRUE(focus && (other || isUnder(focus, stack)));
+    const QQuickItem* const focus = stage->focus();
+    EXPECT_TRUE(focus && (other || isUnder(focus, right)));
     backend->clock()->advance(std::chrono::seconds(60));
     const QString outcome = "Lo sentimos, pero esta información ya no está disponible.";
-    ASSERT_TRUE(turnUntil([&] { return isUnder(left.item(outcome), left.stack()); }));
-    EXPECT_EQ(right.focus(), focus);
-    other.reset();
+    ASSERT_TRUE(turnUntil([&] { return isUnder(leftStage.item(outcome), left); }));
+    EXPECT_EQ(stage->focus(), focus);
+    if (other) {
+        stage = std::move(other);
+    }
     log->clear();
-    left.click("Volver");
+    stage->click("Volver");
     EXPECT_THAT(*log, ::testing::ElementsAre("navigateToHome"));
 }
 
@@ -151,21 +168,23 @@ INSTANTIATE_TEST_SUITE_P(, TwoModules, ::testing::Bool(),
 TEST_F(HostShapes, GiveTheKeysToADialogThatWasHiddenAndGetThemBackOnlyWhereTheyAreSeen) {
     backend->script(Call::checkout, {Reply{.status = 500}});
     for (const bool hidesThePage : {false, true}) {
-        Stage stage;
-        ASSERT_TRUE(open(stage.stack()) && showSummary(stage));
+        stage = std::make_unique<Stage>();
+        open();
+        clickThrough({viewOrders});
+        ASSERT_TRUE(comesToShow(send));
         // The focus stays behind on the button of the page that the checkout covers.
-        stage.item(send)->forceActiveFocus();
-        stage.key(Qt::Key_Return);
-        ASSERT_TRUE(turnUntil([&] { return stage.shows("dialogCloseIcon") && !stage.shows(send); }));
-        stage.stack().parentItem()->setVisible(!hidesThePage);
-        EXPECT_EQ(stage.shows("dialogCloseIcon"), !hidesThePage);
-        stage.stack().parentItem()->setVisible(true);
+        stage->item(send)->forceActiveFocus();
+        stage->key(Qt::Key_Return);
+        ASSERT_TRUE(turnUntil([&] { return stage->shows(closeIcon) && !stage->shows(send); }));
+        stage->stack().parentItem()->setVisible(!hidesThePage);
+        EXPECT_EQ(stage->shows(closeIcon), !hidesThePage);
+        stage->stack().parentItem()->setVisible(true);
         log->clear();
-        stage.key(Qt::Key_Escape);
-        ASSERT_TRUE(turnUntil([&] { return !log->empty() && !stage.shows("dialogCloseIcon"); }));
-        stage.key(Qt::Key_Return);
+        stage->key(Qt::Key_Escape);
+        ASSERT_TRUE(turnUntil([&] { return !log->empty() && !stage->shows(closeIcon); }));
+        stage->key(Qt::Key_Return);
         EXPECT_THAT(*log, ::testing::ElementsAre("navigateToHome"));
-        EXPECT_TRUE(!stage.focus() || stage.focus()->isVisible());
+        EXPECT_TRUE(!stage->focus() || stage->focus()->isVisible());
     }
 }
 

@@ -73,9 +73,9 @@ struct Layout : ModuleTest, ::testing::WithParamInterface<Shape> {
         kel::KelAppearance::current().setTextScale(GetParam().textScale);
         QGuiApplication::setLayoutDirection(GetParam().direction);
         // Its stack reaches all edges.
-        stage.bar().setHeight(0);
-        stage.window().resize(size);
-        setSafeAreaInsets(*stage.window().contentItem(), GetParam().insets);
+        stage->bar().setHeight(0);
+        stage->window().resize(size);
+        setSafeAreaInsets(*stage->window().contentItem(), GetParam().insets);
     }
     ~Layout() override {
         QGuiApplication::setLayoutDirection(Qt::LeftToRight);
@@ -97,7 +97,7 @@ struct Layout : ModuleTest, ::testing::WithParamInterface<Shape> {
         const QRectF safe = QRectF(QPointF(), QSizeF(size)).marginsRemoved(GetParam().insets);
         std::vector<std::pair<const QQuickItem*, QRectF>> texts;
         int buttons = 0;
-        visit(*stage.window().contentItem(), QRectF(0, 0, size.width(), 1e6),
+        visit(*stage->window().contentItem(), QRectF(0, 0, size.width(), 1e6),
               [&](const auto& item, auto seen) {
                   const QRectF place = placeOf(item);
                   const bool isSeenText = isText(item) && place.intersects(seen);
@@ -127,7 +127,7 @@ struct Layout : ModuleTest, ::testing::WithParamInterface<Shape> {
 
     // Where the keys are is in view, so that a page's last button can be looked at.
     void checkLastButton(const QString& button) {
-        QQuickItem* const item = stage.item(button);
+        QQuickItem* const item = stage->item(button);
         item->forceActiveFocus(Qt::TabFocusReason);
         const double edge = size.height() - GetParam().insets.bottom();
         EXPECT_TRUE(turnUntil([&] {
@@ -137,30 +137,32 @@ struct Layout : ModuleTest, ::testing::WithParamInterface<Shape> {
     }
 
     const QSize size = GetParam().size;
-    Stage stage;
 };
 
 } // namespace
 
 TEST_P(Layout, KeepsTextsApartWholeAndInTheSafePartOfTheWindow) {
     backend->script(Call::associate, {Reply{.status = 500}, Reply::sample(Call::associate)});
-    ASSERT_TRUE(turnUntil([&] { return stage.stack().width() == size.width(); }));
-    ASSERT_TRUE(open(stage.stack()));
-    ASSERT_TRUE(turnUntil([&] { return stage.shows("Volver"); }));
+    ASSERT_TRUE(turnUntil([&] { return stage->stack().width() == size.width(); }));
+    open();
+    ASSERT_TRUE(comesToShow("Volver"));
     check("try again");
-    stage.popAll();
+    stage->popAll();
 
-    ASSERT_TRUE(open(stage.stack()) && showSummary(stage));
+    open();
+    clickThrough({viewOrders});
+    ASSERT_TRUE(comesToShow(send));
     check("summary");
-    EXPECT_EQ(stage.item("14/03/2026")->property("font").value<QFont>().pixelSize(),
+    EXPECT_EQ(stage->item("14/03/2026")->property("font").value<QFont>().pixelSize(),
               16 * GetParam().textScale);
     checkLastButton(send);
-    ASSERT_TRUE(showResult(stage, stage.stack()));
+    clickThrough({send});
+    ASSERT_TRUE(comesToShow(someSent));
     check("result");
-    stage.key(Qt::Key_End);
+    stage->key(Qt::Key_End);
     if (size.width() < 840) {
-        ASSERT_TRUE(turnUntil([&] { return stage.shows("Ir al carrito"); }));
-        checkLastButton("Ir al carrito");
+        ASSERT_TRUE(comesToShow(goToCart));
+        checkLastButton(goToCart);
     }
     check("the end of the result");
 }

@@ -1,5 +1,5 @@
 #include "Support/FaultServer.hpp"
-#include "Support/ModuleOnStage.hpp"
+#include "Support/ModuleTest.hpp"
 #include "Support/Thorough.hpp"
 
 #include <algorithm>
@@ -27,7 +27,7 @@ int entries(const char* folder) {
 /// How many objects, threads and files the process has, which could be left behind.
 using Possessions = std::array<int, 3>;
 
-struct Openings : ModuleOnStage {
+struct Openings : ModuleTest {
     Openings() {
         qtHookData[objectMade] = reinterpret_cast<quintptr>(+[](QObject*) { ++objects; });
         qtHookData[objectDestroyed] = reinterpret_cast<quintptr>(+[](QObject*) { --objects; });
@@ -43,7 +43,7 @@ struct Openings : ModuleOnStage {
         const std::vector<QString> steps{viewOrders, send, goToCart};
         for (std::size_t round = 0; round < rounds; ++round) {
             SCOPED_TRACE(round);
-            const auto screen = ModuleOnStage::open();
+            const auto screen = ModuleTest::open();
             if (const auto step = round % 4; step > 0) {
                 clickThrough({steps.begin(), steps.begin() + static_cast<std::ptrdiff_t>(step - 1)});
                 ASSERT_TRUE(comesToShow(steps[step - 1]));

@@ -1,4 +1,4 @@
-#include "Support/ModuleOnStage.hpp"
+#include "Support/ModuleTest.hpp"
 
 #include <QAccessible>
 #include <QMetaProperty>
@@ -12,7 +12,7 @@ namespace quillet::testing {
 namespace {
 
 /// Reads everything that can be read of a window: by QML or an automation, and by an assistive program.
-struct Secrets : ModuleOnStage {
+struct Secrets : ModuleTest {
     void read() {
         seen.clear();
         read(*stage->window().contentItem());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Support/ModuleOnStage.hpp"
+#include "Support/ModuleTest.hpp"
 
 namespace quillet::testing {
 
@@ -20,7 +20,7 @@ struct Target {
 };
 
 /// Tests that do something at each place where a person can.
-struct AtTargets : ModuleOnStage {
+struct AtTargets : ModuleTest {
     [[nodiscard]] std::vector<Target> targets() const;
     [[nodiscard]] Target target(const std::string& name) const;
     /// Goes there, with a back end of its own, and with a stage and a host where there is none.

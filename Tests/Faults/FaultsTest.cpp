@@ -2,7 +2,7 @@
 #include "Models/Bodies.hpp"
 #include "Support/ActingHost.hpp"
 #include "Support/FaultServer.hpp"
-#include "Support/ModuleOnStage.hpp"
+#include "Support/ModuleTest.hpp"
 #include "Support/Reading.hpp"
 #include "Support/Thorough.hpp"
 #include "Workers/CheckoutWorkerFactory.hpp"
@@ -101,7 +101,7 @@ std::vector<Fault> faults() {
     return all;
 }
 
-struct Faults : ModuleOnStage {
+struct Faults : ModuleTest {
     Faults() {
         // So high that nothing scrolls.
         stage->window().resize(390, 1500);

@@ -1,5 +1,5 @@
 #include "SaleSummary/ViewModel/SaleSummaryViewModel.hpp"
-#include "Support/ModuleOnStage.hpp"
+#include "Support/ModuleTest.hpp"
 
 #include <QCoreApplication>
 
@@ -18,7 +18,7 @@ struct MockWorker : Executable {
     MOCK_METHOD(void, execute, (), (override));
 };
 
-struct SaleSummaryCalls : ModuleOnStage {
+struct SaleSummaryCalls : ModuleTest {
     /// The calls so far, and "..." while the module waits.
     [[nodiscard]] std::string calls() const {
         std::string methods;

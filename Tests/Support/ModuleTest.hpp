@@ -3,6 +3,8 @@
 #include "Quillet/Quillet.hpp"
 #include "Quillet/Testing.hpp"
 #include "Support/Stage.hpp"
+#include "Views/Animation/ViewAnimating.hpp"
+#include "Views/Covers/Cover.hpp"
 
 #include <KelCommon/KelAnalyticsManager.hpp>
 
@@ -10,7 +12,8 @@
 
 namespace quillet::testing {
 
-/// Tests that open the module in a host's window against a scripted back end, and use it.
+/// Tests that open the module in a host's window against a scripted back end, and use it. They may take the
+/// window down, or put another one in its place.
 struct ModuleTest : ::testing::Test {
     ModuleTest() { kel::KelAnalyticsManager::shared()->setSink(std::make_shared<RecordingAnalytics>(log)); }
     ~ModuleTest() override {
@@ -19,39 +22,49 @@ struct ModuleTest : ::testing::Test {
         EXPECT_THAT(Stage::complaints(), ::testing::IsEmpty());
     }
 
-    [[nodiscard]] static bool settled(const QQuickItem& stack) { return !stack.property("busy").toBool(); }
-
-    /// Opens the module on this stack, and waits until its page is there.
-    [[nodiscard]] bool open(QQuickItem& stack, QQuickItem* covered = nullptr) const {
+    /// Opens the module; only the stack owns the screen afterwards.
+    std::weak_ptr<platform::QuickViewController> open(QQuickItem* covered = nullptr) {
         const auto starter = Starter::create("token", "idp", {"cart-1", 41052, "CL"}, host);
-        // The window and its layouts get their sizes in the event loop.
-        return turnUntil([&] { return stack.height() > 0 && stack.window()->isExposed(); }) &&
-               present(starter->createRootViewController(), stack, covered) &&
-               turnUntil([&] { return settled(stack); });
+        const auto screen = starter->createRootViewController();
+        EXPECT_TRUE(present(screen, stage->stack(), covered));
+        return screen;
     }
-    [[nodiscard]] bool showsDialog(Stage& stage) const {
-        return turnUntil([&] { return stage.shows(viewOrders); });
+
+    [[nodiscard]] bool settled() const { return !stage->stack().property("busy").toBool(); }
+    /// Whether the item comes to be shown, at rest and under no cover.
+    [[nodiscard]] bool comesToShow(const QString& textOrName) const {
+        return turnUntil([&] {
+            const QQuickItem* const item = stage->item(textOrName);
+            return item && settled() && !Cover::isOver(*item);
+        });
     }
-    /// The dialog of an order that was taken over comes first.
-    [[nodiscard]] bool showSummary(Stage& stage) const {
-        if (!showsDialog(stage)) {
-            return false;
+    /// Clicks what these name, one after the other, each once it is there.
+    void clickThrough(const std::vector<QString>& textsOrNames) {
+        for (const QString& one : textsOrNames) {
+            ASSERT_TRUE(comesToShow(one)) << one.toStdString();
+            stage->click(one);
         }
-        stage.click(viewOrders);
-        return turnUntil([&] { return !stage.shows(viewOrders); });
     }
-    /// From the summary on.
-    [[nodiscard]] bool showResult(Stage& stage, QQuickItem& stack) const {
-        stage.click(send);
-        return turnUntil([&] { return stage.shows(someSent) && settled(stack); });
+
+    /// Lets as much time pass on the clock of the animations.
+    static void animateFor(std::chrono::milliseconds duration) {
+        bool isOver = false;
+        ViewAnimatingWrapper().animate(
+            duration, [](double) {}, [&] { isOver = true; });
+        ASSERT_TRUE(turnUntil([&] { return isOver; }));
     }
 
     Log log = makeLog();
     std::shared_ptr<QuilletNavigationDelegate> host = std::make_shared<RecordingNavigation>(log);
     std::shared_ptr<ScriptedBackend> backend = ScriptedBackend::install();
+    std::unique_ptr<Stage> stage = std::make_unique<Stage>();
+
     const QString viewOrders = "Ver Pedidos";
     const QString send = "Enviar productos a mi carrito";
     const QString someSent = "Algunos productos no fueron enviados al carrito. ¡Vea!";
+    const QString retry = "Actualizar";
+    const QString goToCart = "Ir al carrito";
+    const QString closeIcon = "dialogCloseIcon";
 };
 
 } // namespace quillet::testing

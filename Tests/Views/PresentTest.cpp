@@ -1,6 +1,6 @@
 #include "Platform/Screens/NavigationController.hpp"
 #include "SaleSummary/Screen/SaleSummaryViewController.hpp"
-#include "Support/ModuleOnStage.hpp"
+#include "Support/ModuleTest.hpp"
 #include "Views/Dialogs/AlertDialog.hpp"
 #include "Views/Screen/ViewController.hpp"
 
@@ -11,7 +11,7 @@ namespace {
 using ::testing::IsEmpty;
 
 /// Without a network, so that the first screen offers another try.
-struct PresentTest : ModuleOnStage {
+struct PresentTest : ModuleTest {
     PresentTest() {
         backend->script(Call::associate,
                         {Reply{.error = platform::URLError{platform::URLError::Code::notConnectedToInternet,
