@@ -9,8 +9,6 @@
 
 #include <gmock/gmock.h>
 
-#include <limits>
-
 namespace quillet::testing {
 
 namespace {
@@ -26,16 +24,11 @@ struct ResultScreen : ::testing::Test {
 
     /// Shows a partial result with this number of products, half of them sent.
     void show(std::size_t count) {
-        std::vector<Product> products(count);
+        const auto products = std::make_shared<std::vector<Product>>(count);
         for (std::size_t i = 0; i < count; ++i) {
-            products[i].productCode = i;
-            products[i].status = i % 2 ? ProductErrorStatus::none : ProductErrorStatus::unavailable;
+            products->at(i).productCode = i;
+            products->at(i).status = i % 2 ? ProductErrorStatus::none : ProductErrorStatus::unavailable;
         }
-        show(std::move(products));
-    }
-
-    void show(std::vector<Product> list) {
-        const auto products = std::make_shared<const std::vector<Product>>(std::move(list));
         const auto screen = std::make_shared<ProductsCheckoutStatusViewController>(
             std::make_unique<LoadingDisplayer>(std::make_unique<LoadingView>()),
             std::make_shared<RecordingAnalytics>(makeLog()));
@@ -128,22 +121,6 @@ TEST_F(ResultScreen, OpensASectionFromItsTop) {
         EXPECT_TRUE(height("Code: 3") <= distance || height("Code: 1") > 60);
         return height("Code: 3") > 60;
     }));
-}
-
-TEST_F(ResultScreen, LeavesNoNumberOnTopOfAnother) {
-    stage.stack().window()->resize(320, 844);
-    constexpr auto largest = std::numeric_limits<std::uint64_t>::max();
-    Product product;
-    product.productCode = product.quantity = product.totalPoints = largest;
-    show({product});
-    const auto text = QString::number(largest);
-    const QQuickItem& badge = *stage.item(text)->parentItem();
-    const QQuickItem& points = *stage.item(text + " puntos");
-    const auto area = [](const QQuickItem& item) {
-        return item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
-    };
-    EXPECT_FALSE(area(badge).intersects(area(points)));
-    EXPECT_LE(area(points).right(), 320);
 }
 
 TEST_F(ResultScreen, BringsIntoViewWhatTheKeysGoTo) {

@@ -79,8 +79,7 @@ TEST_F(Accessibility, TellsWhatHappensInItsOrderAndOnce) {
                 ElementsAre("Resumen de venta is busy", "says: Cargando",
                             "says: Está tardando más de lo habitual.", "Resumen de venta is no longer busy",
                             "says: Lo sentimos, algo salió mal"));
-    clickThrough({retry});
-    ASSERT_TRUE(comesToShow(viewOrders));
+    clickThrough({retry}, viewOrders);
     EXPECT_THAT(std::exchange(heard, {}),
                 ElementsAre("Resumen de venta is busy", "says: Cargando",
                             "Resumen de venta is no longer busy",
@@ -96,8 +95,7 @@ TEST_F(Accessibility, ScrollsByKeysAndByTheWheelAsSoonAsAPageIsShown) {
     // The dialog takes the keys, and gives them back.
     stage->stack().forceActiveFocus();
     open();
-    clickThrough({viewOrders});
-    ASSERT_TRUE(comesToShow(send));
+    clickThrough({viewOrders}, send);
     const auto y = [&] { return stage->middle("En Curso").y(); };
     const double top = y();
     const std::pair<Qt::Key, bool> steps[] = {{Qt::Key_Down, false},     {Qt::Key_Up, true},

@@ -6,10 +6,13 @@
 #include <QMarginsF>
 
 #include <ostream>
+#include <regex>
 
 namespace quillet::testing {
 
 namespace {
+
+const std::string longestNumber = "18446744073709551615";
 
 using Look = std::function<void(const QQuickItem&, const QRectF&)>;
 
@@ -86,7 +89,8 @@ struct Layout : ModuleTest, ::testing::WithParamInterface<Shape> {
         for (const QString& word : textOf(text).split(u' ')) {
             const double needed = QFontMetricsF(text.property("font").value<QFont>()).horizontalAdvance(word);
             const bool fitsALine = needed <= available - 2 * 32;
-            EXPECT_TRUE(isIcon(text) || word.contains(u'<') || needed <= text.width() + 0.5 || !fitsALine)
+            const bool mayBreak = isIcon(text) || word.contains(u'<') || word == longestNumber.c_str();
+            EXPECT_TRUE(mayBreak || needed <= text.width() + 0.5 || !fitsALine)
                 << word.toStdString() << " breaks";
         }
     }
@@ -143,6 +147,9 @@ struct Layout : ModuleTest, ::testing::WithParamInterface<Shape> {
 
 TEST_P(Layout, KeepsTextsApartWholeAndInTheSafePartOfTheWindow) {
     backend->script(Call::associate, {Reply{.status = 500}, Reply::sample(Call::associate)});
+    const std::regex number(R"re("(addedPoints|productCode|quantity|totalPoints)":\d+)re");
+    backend->script(Call::checkout, {Reply{.body = std::regex_replace(sampleBody(Call::checkout), number,
+                                                                      "\"$1\":" + longestNumber)}});
     ASSERT_TRUE(turnUntil([&] { return stage->stack().width() == size.width(); }));
     open();
     ASSERT_TRUE(comesToShow("Volver"));
@@ -150,14 +157,12 @@ TEST_P(Layout, KeepsTextsApartWholeAndInTheSafePartOfTheWindow) {
     stage->popAll();
 
     open();
-    clickThrough({viewOrders});
-    ASSERT_TRUE(comesToShow(send));
+    clickThrough({viewOrders}, send);
     check("summary");
     EXPECT_EQ(stage->item("14/03/2026")->property("font").value<QFont>().pixelSize(),
               16 * GetParam().textScale);
     checkLastButton(send);
-    clickThrough({send});
-    ASSERT_TRUE(comesToShow(someSent));
+    clickThrough({send}, someSent);
     check("result");
     stage->key(Qt::Key_End);
     if (size.width() < 840) {

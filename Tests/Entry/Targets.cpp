@@ -37,7 +37,7 @@ Target AtTargets::target(const std::string& name) const {
 void AtTargets::reach(const Target& target) {
     backend = ScriptedBackend::install();
     host = host ? host : std::make_shared<RecordingNavigation>(log);
-    stage = stage ? std::move(stage) : std::make_unique<Stage>();
+    stage = stage ? std::move(stage) : std::make_shared<Stage>();
     for (const auto& [call, replies] : target.replies) {
         backend->script(call, replies);
     }

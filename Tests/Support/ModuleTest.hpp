@@ -38,12 +38,13 @@ struct ModuleTest : ::testing::Test {
             return item && settled() && !Cover::isOver(*item);
         });
     }
-    /// Clicks what these name, one after the other, each once it is there.
-    void clickThrough(const std::vector<QString>& textsOrNames) {
+    /// Clicks what these name, one after the other, each once it is there, until this is shown.
+    void clickThrough(const std::vector<QString>& textsOrNames, const QString& goal = {}) {
         for (const QString& one : textsOrNames) {
             ASSERT_TRUE(comesToShow(one)) << one.toStdString();
             stage->click(one);
         }
+        ASSERT_TRUE(goal.isEmpty() || comesToShow(goal)) << goal.toStdString();
     }
 
     /// Lets as much time pass on the clock of the animations.
@@ -57,7 +58,7 @@ struct ModuleTest : ::testing::Test {
     Log log = makeLog();
     std::shared_ptr<QuilletNavigationDelegate> host = std::make_shared<RecordingNavigation>(log);
     std::shared_ptr<ScriptedBackend> backend = ScriptedBackend::install();
-    std::unique_ptr<Stage> stage = std::make_unique<Stage>();
+    std::shared_ptr<Stage> stage = std::make_shared<Stage>();
 
     const QString viewOrders = "Ver Pedidos";
     const QString send = "Enviar productos a mi carrito";

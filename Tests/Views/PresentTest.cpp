@@ -90,7 +90,7 @@ TEST_F(PresentTest, ReportsAScreenThatItCannotShow) {
     EXPECT_EQ(stage->depth(), 1);
     EXPECT_EQ(Stage::complaints().size(), 2);
     stage.reset();
-    stage = std::make_unique<Stage>();
+    stage = std::make_shared<Stage>();
 }
 
 } // namespace quillet::testing
