@@ -30,8 +30,6 @@ std::string shape(const ShippingStatusProductsView& view) {
 }
 
 struct Sections : ::testing::Test {
-    ~Sections() override { kel::KelAppearance::current().setReducedMotion(false); }
-
     /// A list of so many products in each section, with a tester that aborts at the first signal that
     /// contradicts the rows.
     ShippingStatusProductsView& show(std::size_t sent, std::optional<std::size_t> notSent) {
@@ -61,27 +59,6 @@ struct Sections : ::testing::Test {
 
 } // namespace
 
-TEST_F(Sections, OpenAndCloseAtOnceWithReducedMotion) {
-    kel::KelAppearance::current().setReducedMotion(true);
-    const struct {
-        std::size_t sent;
-        std::optional<std::size_t> notSent;
-        std::vector<std::pair<int, std::string>> taps;
-    } cases[] = {
-        {2, 1, {{1, "opPoP"}, {5, "opPoP"}, {0, "CoP"}, {1, "CC"}, {0, "opPC"}, {3, "opPoP"}}},
-        {0, 0, {{-1, "OO"}, {1, "OC"}, {0, "CC"}}},
-        {1, std::nullopt, {{0, "C"}, {0, "oP"}}},
-    };
-    for (const auto& [sent, notSent, taps] : cases) {
-        auto& list = show(sent, notSent);
-        for (const auto& [row, afterwards] : taps) {
-            list.toggle(row, 100);
-            EXPECT_EQ(shape(list), afterwards);
-        }
-        EXPECT_TRUE(animating->running.empty());
-    }
-}
-
 TEST_F(Sections, ShowWhatIsAboveTheCutWhileTheyMove) {
     auto& list = show(3, 1);
     list.toggle(0, 3);
@@ -105,55 +82,66 @@ TEST_F(Sections, ShowWhatIsAboveTheCutWhileTheyMove) {
 }
 
 TEST_F(Sections, MoveTheRowsInViewAndTurnRoundOrComeToRestAtTheNextTap) {
-    enum Act { tap, move, finish };
+    enum Act { tap, move };
     struct Step {
         Act act;
         /// The row that is tapped, or which of the moves goes on.
-        std::size_t index;
-        /// How many rows there is room for, or how far the move is.
-        double share;
+        int index;
         std::string shape;
-        double reveal;
+        /// How many rows there is room for, or how far the move is.
+        double share = 1;
+        double reveal = 1;
     };
-    const std::pair<std::size_t, std::vector<Step>> cases[] = {
+    const struct {
+        std::size_t sent;
+        std::optional<std::size_t> notSent;
+        std::vector<Step> steps;
+        bool reducesMotion = false;
+    } cases[] = {
         {5,
-         {{tap, 0, 2, "cmMopP", 1},
-          {move, 0, 0.5, "cmMopP", 0.125},
-          {finish, 0, 1, "CopP", 1},
-          {tap, 0, 3, "ommMopP", 0},
-          {move, 1, 0.5, "ommMopP", 0.875},
-          {finish, 1, 1, "oppppPopP", 1}}},
+         2,
+         {{tap, 0, "cmMopP", 2},
+          {move, 0, "cmMopP", 0.5, 0.125},
+          {move, 0, "CopP"},
+          {tap, 0, "ommMopP", 3, 0},
+          {move, 1, "ommMopP", 0.5, 0.875},
+          {move, 1, "oppppPopP"}}},
         {3,
-         {{tap, 0, 2, "cmMopP", 1},
-          {move, 0, 0.5, "cmMopP", 0.125},
-          {tap, 0, 2, "omMopP", 0.125},
-          {finish, 0, 1, "omMopP", 0.125},
-          {move, 1, 0.5, "omMopP", 0.125 + 0.875 * 0.875},
-          {finish, 1, 1, "oppPopP", 1}}},
+         2,
+         {{tap, 0, "cmMopP", 2},
+          {move, 0, "cmMopP", 0.5, 0.125},
+          {tap, 0, "omMopP", 2, 0.125},
+          {move, 0, "omMopP", 1, 0.125},
+          {move, 1, "omMopP", 0.5, 0.125 + 0.875 * 0.875},
+          {move, 1, "oppPopP"}}},
         // The row of the lower section's head at this moment.
-        {3,
-         {{tap, 0, 2, "cmMopP", 1},
-          {tap, 3, 1, "CcM", 1},
-          {finish, 0, 1, "CcM", 1},
-          {finish, 1, 1, "CC", 1}}},
+        {3, 2, {{tap, 0, "cmMopP", 2}, {tap, 3, "CcM"}, {move, 0, "CcM"}, {move, 1, "CC"}}},
+        {2,
+         1,
+         {{tap, 1, "opPoP"}, {tap, 5, "opPoP"}, {tap, 0, "CoP"}, {tap, 1, "CC"}, {tap, 0, "opPC"}},
+         true},
+        {0, 0, {{tap, -1, "OO"}, {tap, 1, "OC"}, {tap, 0, "CC"}}, true},
+        {1, std::nullopt, {{tap, 0, "C"}, {tap, 0, "oP"}}, true},
     };
-    for (const auto& [products, steps] : cases) {
-        auto& list = show(products, 2);
-        for (const auto& [act, index, share, rows, reveal] : steps) {
+    for (const auto& [sent, notSent, steps, reducesMotion] : cases) {
+        kel::KelAppearance::current().setReducedMotion(reducesMotion);
+        show(sent, notSent);
+        for (const auto& [act, index, rows, share, reveal] : steps) {
             if (act == tap) {
-                list.toggle(static_cast<int>(index), static_cast<int>(share));
-                EXPECT_EQ(animating->running.back().duration, std::chrono::milliseconds(200));
+                view->toggle(index, static_cast<int>(share));
+            } else if (share < 1) {
+                animating->running.at(static_cast<std::size_t>(index)).step(share);
             } else {
-                animating->running[index].step(share);
+                animating->running.at(static_cast<std::size_t>(index)).finish();
             }
-            if (act == finish) {
-                animating->running[index].completion();
-            }
-            EXPECT_EQ(shape(list), rows);
-            EXPECT_DOUBLE_EQ(list.reveal(), reveal) << rows;
+            EXPECT_EQ(shape(*view), rows);
+            EXPECT_DOUBLE_EQ(view->reveal(), reveal) << rows;
         }
+        EXPECT_EQ(animating->running.empty(), reducesMotion);
     }
-    view->toggle(0, 2);
+    kel::KelAppearance::current().setReducedMotion(false);
+    show(3, 2).toggle(0, 2);
+    EXPECT_EQ(animating->running.back().duration, std::chrono::milliseconds(200));
     tester.reset();
     view.reset();
     animating->running.back().finish();
