@@ -1,4 +1,3 @@
-#include "Support/ActingHost.hpp"
 #include "Support/Thorough.hpp"
 #include "Targets.hpp"
 
@@ -12,29 +11,30 @@ namespace quillet::testing {
 namespace {
 
 struct Callbacks : AtTargets {
-    /// Taps there and has the host react to the first such line. The host that reacts is the only one.
+    /// Taps there and has the host react to the first such line. The recorders are nobody else's.
     void react(const Target& target, const std::string& trigger, const std::function<void()>& reaction) {
         bool hasReacted = false;
-        reacting = std::make_shared<ActingHost>(log, [&](const std::string& line) {
+        const auto listener = [&](const std::string& line) {
             if (line == trigger && !std::exchange(hasReacted, true)) {
                 reaction();
             }
-        });
-        kel::KelAnalyticsManager::shared()->setSink(reacting);
-        host = reacting;
+        };
+        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<RecordingAnalytics>(log, listener));
+        host = std::make_shared<RecordingNavigation>(log, listener);
         ASSERT_NO_FATAL_FAILURE(reach(target));
         tapped = target.tapped;
         stage->clickAt(place(tapped));
         ASSERT_TRUE(turnUntil([&] { return hasReacted; }));
         animateFor(std::chrono::milliseconds(800));
         EXPECT_EQ(std::ranges::count(*log, trigger), 1);
+        goAway();
+    }
+    void goAway() {
         kel::KelAnalyticsManager::shared()->setSink(nullptr);
         host.reset();
-        reacting.reset();
     }
 
     QString tapped;
-    std::shared_ptr<ActingHost> reacting;
 };
 
 } // namespace
@@ -44,9 +44,7 @@ TEST_F(Callbacks, MayDoWithTheModuleWhatTheyLike) {
         {"removes the module and goes",
          [&] {
              stage->popAll();
-             kel::KelAnalyticsManager::shared()->setSink(nullptr);
-             host.reset();
-             reacting.reset();
+             goAway();
          }},
         {"leaves with an animation", [&] { stage->popSlowly(std::chrono::milliseconds(400)); }},
         {"opens another module", [&] { open(); }},

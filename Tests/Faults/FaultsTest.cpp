@@ -1,15 +1,14 @@
 #include "Checkout/CheckoutFactory.hpp"
 #include "Models/Bodies.hpp"
-#include "Support/ActingHost.hpp"
 #include "Support/FaultServer.hpp"
 #include "Support/ModuleTest.hpp"
 #include "Support/Reading.hpp"
 #include "Support/Thorough.hpp"
 #include "Workers/CheckoutWorkerFactory.hpp"
 
+#include <QFile>
+#include <QRegularExpression>
 #include <QThread>
-
-#include <fstream>
 
 namespace quillet::testing {
 
@@ -31,16 +30,11 @@ QStringList described(const std::string& screen) {
     if (screen == nothing) {
         return {"page \"Envío al carrito\""};
     }
-    QStringList lines;
-    std::ifstream file(QUILLET_KEPT_DESCRIPTIONS "/" + screen + ".txt");
-    for (std::string line; std::getline(file, line);) {
-        if (line == "heard:") {
-            lines.clear();
-        } else if (!line.contains("#host")) {
-            lines.push_back(QString::fromStdString(line));
-        }
-    }
-    return lines;
+    QFile file(QString::fromStdString(QUILLET_KEPT_DESCRIPTIONS "/" + screen + ".txt"));
+    EXPECT_TRUE(file.open(QFile::ReadOnly));
+    const QString heard = QString(file.readAll()).section("heard:\n", -1).trimmed();
+    // Without the sample host's own bar.
+    return heard.split('\n').filter(QRegularExpression("^(?!.*#host)"));
 }
 
 /// How a call is answered, and what the first screen and the checkout show then.
@@ -105,7 +99,7 @@ struct Faults : ModuleTest {
     Faults() {
         // So high that nothing scrolls.
         stage->window().resize(390, 1500);
-        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<ActingHost>(
+        kel::KelAnalyticsManager::shared()->setSink(std::make_shared<RecordingAnalytics>(
             log, [](const auto&) { EXPECT_EQ(QThread::currentThread(), qApp->thread()); }));
         platform::URLSessionConfiguration::setDefaultConfiguration(
             {.caBundleFile = authority.bundleFile(),

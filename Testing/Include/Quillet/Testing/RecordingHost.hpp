@@ -10,6 +10,7 @@
 #include <KelCommon/KelCommon.hpp>
 #endif
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -34,32 +35,41 @@ inline std::string event(const std::string& action, const std::string& label) {
     return "event Quillet - SellOutIntegration / " + action + " / " + label;
 }
 
+/// Hears of each line as soon as it is in the log. A test may do there what a host does.
+using Listener = std::function<void(std::string line)>;
+
 /// An analytics manager that records "screen <name>" and the lines of `event`. Main thread only.
 class RecordingAnalytics final : public kel::KelAnalyticsManagerType {
 public:
-    explicit RecordingAnalytics(Log log) : log_(std::move(log)) {}
+    explicit RecordingAnalytics(
+        Log log, Listener listener = [](const auto&) {})
+        : log_(std::move(log)), listener_(std::move(listener)) {}
     void trackScreen(const kel::KelAnalyticsScreenType& screen) override {
-        log_->push_back("screen " + screen.name());
+        listener_(log_->emplace_back("screen " + screen.name()));
     }
     void trackEvent(const kel::KelAnalyticsEventType& event) override {
-        log_->push_back("event " + event.category() + " / " + event.action() + " / " +
-                        event.label().value_or("no label"));
+        listener_(log_->emplace_back("event " + event.category() + " / " + event.action() + " / " +
+                                     event.label().value_or("no label")));
     }
 
 private:
     Log log_;
+    Listener listener_;
 };
 
 /// A host that records the names of the functions that the module calls. Main thread only.
 class RecordingNavigation final : public QuilletNavigationDelegate {
 public:
-    explicit RecordingNavigation(Log log) : log_(std::move(log)) {}
-    void navigateToCart() override { log_->push_back("navigateToCart"); }
-    void navigateToHome() override { log_->push_back("navigateToHome"); }
-    void navigateToShareMagazine() override { log_->push_back("navigateToShareMagazine"); }
+    explicit RecordingNavigation(
+        Log log, Listener listener = [](const auto&) {})
+        : log_(std::move(log)), listener_(std::move(listener)) {}
+    void navigateToCart() override { listener_(log_->emplace_back("navigateToCart")); }
+    void navigateToHome() override { listener_(log_->emplace_back("navigateToHome")); }
+    void navigateToShareMagazine() override { listener_(log_->emplace_back("navigateToShareMagazine")); }
 
 private:
     Log log_;
+    Listener listener_;
 };
 
 } // namespace quillet::testing
