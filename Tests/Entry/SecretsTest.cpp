@@ -1,11 +1,11 @@
 #include "Support/ModuleTest.hpp"
+#include "Support/Reading.hpp"
 
-#include <QAccessible>
 #include <QMetaProperty>
-#include <QSet>
 
 #include <algorithm>
 #include <mutex>
+#include <set>
 
 namespace quillet::testing {
 
@@ -16,13 +16,13 @@ struct Secrets : ModuleTest {
     void read() {
         seen.clear();
         read(*stage->window().contentItem());
-        read(*QAccessible::queryAccessibleInterface(&stage->window()));
+        const QStringList heard = readingOrder(*QAccessible::queryAccessibleInterface(&stage->window()));
+        all += heard.join('\n').toStdString();
     }
     void read(const QObject& object) {
-        if (seen.contains(&object)) {
+        if (!seen.insert(&object).second) {
             return;
         }
-        seen.insert(&object);
         for (int i = 0; i < object.metaObject()->propertyCount(); ++i) {
             const QVariant value = object.metaObject()->property(i).read(&object);
             all += value.toString().toStdString() + '\n';
@@ -37,25 +37,16 @@ struct Secrets : ModuleTest {
             }
         }
     }
-    void read(const QAccessibleInterface& interface) {
-        for (const auto text : {QAccessible::Name, QAccessible::Description, QAccessible::Value,
-                                QAccessible::Help, QAccessible::Accelerator}) {
-            all += interface.text(text).toStdString() + '\n';
-        }
-        for (int i = 0; i < interface.childCount(); ++i) {
-            read(*interface.child(i));
-        }
-    }
 
-    std::mutex mutex;
     std::string all;
-    QSet<const QObject*> seen;
+    std::set<const QObject*> seen;
 };
 
 } // namespace
 
 TEST_F(Secrets, AreInNothingThatIsShownReadOrLogged) {
     auto configuration = platform::URLSessionConfiguration::defaultConfiguration();
+    std::mutex mutex;
     std::string logged;
     configuration.log = [&](const platform::LoggedCall& call) {
         const std::lock_guard lock(mutex);
@@ -72,9 +63,6 @@ TEST_F(Secrets, AreInNothingThatIsShownReadOrLogged) {
         stage->click(step);
     }
     ScriptedBackend::uninstall();
-    for (const std::string& line : Stage::complaints()) {
-        all += line + '\n';
-    }
     all += logged;
     EXPECT_EQ(*backend->requests().at(0).headerFields.value("Consultant-Token"), token);
     for (const char* shown :
