@@ -5,14 +5,23 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace quillet::testing {
 
 using Code = platform::URLError::Code;
 
 inline const platform::Url toGateway{gatewayHost, "/"};
 
-/// Calls to a fault server.
+/// Calls to a fault server. The proxy settings of the machine do not count.
 struct SessionTest : ::testing::Test, SandboxedSession {
+    SessionTest() {
+        for (const char* const name :
+             {"https_proxy", "HTTPS_PROXY", "all_proxy", "ALL_PROXY", "no_proxy", "NO_PROXY"}) {
+            unsetenv(name);
+        }
+    }
+
     void start(const platform::URLSession& session,
                const platform::URLRequest& request = {.url = toGateway}) {
         session.dataTask(request, calls.completion()).resume();
