@@ -80,7 +80,7 @@ const Handshake handshakes[] = {
          return context;
      },
      {}},
-    {"HangsUp", [](auto&) { return ContextPointer(nullptr, &SSL_CTX_free); }, secureConnectionFailed},
+    {"HangsUp", [](auto&) { return ContextPointer(); }, secureConnectionFailed},
 };
 
 struct SessionHandshake : SessionTest, ::testing::WithParamInterface<Handshake> {};

@@ -3,7 +3,6 @@
 #include <openssl/pem.h>
 #include <openssl/x509v3.h>
 
-#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -12,52 +11,21 @@ namespace quillet::testing {
 
 namespace {
 
-// Serial numbers must be unique.
-long nextNumber() {
-    static std::atomic<long> number = 0;
-    return ++number;
-}
-
-KeyPointer makeKey() {
-    return {EVP_EC_gen("P-256"), &EVP_PKEY_free};
-}
-
-CertificatePointer makeCertificate(EVP_PKEY* key, const std::string& name, const std::string& extension,
-                                   int nid, X509* issuer, EVP_PKEY* issuerKey,
-                                   std::chrono::seconds from = -std::chrono::hours(1),
-                                   std::chrono::seconds until = std::chrono::hours(1)) {
-    CertificatePointer certificate(X509_new(), &X509_free);
-    X509_set_version(certificate.get(), 2);
-    ASN1_INTEGER_set(X509_get_serialNumber(certificate.get()), nextNumber());
-    X509_gmtime_adj(X509_getm_notBefore(certificate.get()), static_cast<long>(from.count()));
-    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), static_cast<long>(until.count()));
-    X509_set_pubkey(certificate.get(), key);
-    X509_NAME_add_entry_by_txt(X509_get_subject_name(certificate.get()), "CN", MBSTRING_ASC,
-                               reinterpret_cast<const unsigned char*>(name.c_str()), -1, -1, 0);
-    X509_set_issuer_name(certificate.get(), X509_get_subject_name(issuer ? issuer : certificate.get()));
-    X509_EXTENSION* const value = X509V3_EXT_conf_nid(nullptr, nullptr, nid, extension.c_str());
-    X509_add_ext(certificate.get(), value, -1);
-    X509_EXTENSION_free(value);
-    X509_sign(certificate.get(), issuerKey, EVP_sha256());
-    return certificate;
-}
-
-ContextPointer makeContext(EVP_PKEY* key, X509* certificate) {
-    ContextPointer context(SSL_CTX_new(TLS_server_method()), &SSL_CTX_free);
-    SSL_CTX_use_certificate(context.get(), certificate);
-    SSL_CTX_use_PrivateKey(context.get(), key);
+// The server's certificate has been changed, and so is signed anew.
+ContextPointer makeContext(const gateway::Credentials& server, EVP_PKEY* issuerKey) {
+    ContextPointer context(SSL_CTX_new(TLS_server_method()));
+    X509_sign(server.certificate.get(), issuerKey, EVP_sha256());
+    SSL_CTX_use_certificate(context.get(), server.certificate.get());
+    SSL_CTX_use_PrivateKey(context.get(), server.key.get());
     return context;
 }
 
 } // namespace
 
-TestAuthority::TestAuthority()
-    : key_(makeKey()),
-      certificate_(makeCertificate(key_.get(), "Test authority", "critical,CA:TRUE", NID_basic_constraints,
-                                   nullptr, key_.get())) {
+TestAuthority::TestAuthority() {
     bundleFile_ = std::filesystem::temp_directory_path() / "quillet-authority-XXXXXX";
     FILE* const file = fdopen(mkstemp(bundleFile_.data()), "w");
-    PEM_write_X509(file, certificate_.get());
+    PEM_write_X509(file, authority_.certificate.get());
     std::fclose(file);
 }
 
@@ -65,19 +33,21 @@ TestAuthority::~TestAuthority() {
     std::remove(bundleFile_.c_str());
 }
 
-ContextPointer TestAuthority::serverContext(const std::string& host, std::chrono::seconds from,
+ContextPointer TestAuthority::serverContext(std::string_view host, std::chrono::seconds from,
                                             std::chrono::seconds until) const {
-    const auto key = makeKey();
-    const auto certificate = makeCertificate(key.get(), host, "DNS:" + host, NID_subject_alt_name,
-                                             certificate_.get(), key_.get(), from, until);
-    return makeContext(key.get(), certificate.get());
+    const auto server = gateway::makeServer(authority_, {&host, 1});
+    X509_gmtime_adj(X509_getm_notBefore(server.certificate.get()), static_cast<long>(from.count()));
+    X509_gmtime_adj(X509_getm_notAfter(server.certificate.get()), static_cast<long>(until.count()));
+    return makeContext(server, authority_.key.get());
 }
 
-ContextPointer TestAuthority::selfSignedContext(const std::string& host) {
-    const auto key = makeKey();
-    const auto certificate =
-        makeCertificate(key.get(), host, "DNS:" + host, NID_subject_alt_name, nullptr, key.get());
-    return makeContext(key.get(), certificate.get());
+ContextPointer TestAuthority::selfSignedContext(std::string_view host) {
+    const auto server = gateway::makeServer(gateway::makeAuthority(), {&host, 1});
+    auto* const itself = server.certificate.get();
+    X509_set_issuer_name(itself, X509_get_subject_name(itself));
+    const int issuersKey = X509_get_ext_by_NID(itself, NID_authority_key_identifier, -1);
+    X509_EXTENSION_free(X509_delete_ext(itself, issuersKey));
+    return makeContext(server, server.key.get());
 }
 
 } // namespace quillet::testing

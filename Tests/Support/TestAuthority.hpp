@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Gateway/Certificate.hpp"
+
 #include <openssl/ssl.h>
 
 #include <chrono>
@@ -8,9 +10,7 @@
 
 namespace quillet::testing {
 
-using KeyPointer = std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)>;
-using CertificatePointer = std::unique_ptr<X509, decltype(&X509_free)>;
-using ContextPointer = std::unique_ptr<SSL_CTX, decltype(&SSL_CTX_free)>;
+using ContextPointer = std::unique_ptr<SSL_CTX, gateway::Freer<SSL_CTX_free>>;
 
 /// A new certificate authority. Its certificate is in a temporary file while it exists.
 class TestAuthority {
@@ -23,15 +23,14 @@ public:
     [[nodiscard]] const std::string& bundleFile() const { return bundleFile_; }
 
     /// A server's TLS context with a certificate for the host, in force between two times from now on.
-    [[nodiscard]] ContextPointer serverContext(const std::string& host,
+    [[nodiscard]] ContextPointer serverContext(std::string_view host,
                                                std::chrono::seconds from = -std::chrono::hours(1),
                                                std::chrono::seconds until = std::chrono::hours(1)) const;
     /// The same with a certificate that nobody else has signed.
-    [[nodiscard]] static ContextPointer selfSignedContext(const std::string& host);
+    [[nodiscard]] static ContextPointer selfSignedContext(std::string_view host);
 
 private:
-    KeyPointer key_;
-    CertificatePointer certificate_;
+    gateway::Credentials authority_ = gateway::makeAuthority();
     std::string bundleFile_;
 };
 
