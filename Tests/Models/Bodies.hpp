@@ -9,13 +9,13 @@ namespace quillet::tests {
 inline const std::string itemJson =
     R"({"productCode":70712,"origin":"MAGAZINE","productDescription":"Máscara \"N\u00edtida\"",
     "unitPoints":3,"totalPoints":6,"totalPrice":119.80,"totalProfit":35.94,"choosable":false,"amount":2,
-    "magazineAmount":2,"unitPrice":59.90,"unitProfit":17.97,"imageUrl":"https:\/\/images.example\/70712.jpg",
+    "magazineAmount":1,"unitPrice":59.90,"unitProfit":17.97,"imageUrl":"https:\/\/images.example\/70712.jpg",
     "isKit":true})";
 
 inline const std::string cartJson =
     R"({"cartNumber":18446744073709551615,"cartUuid":"6f1c","status":"OPEN","type":"SELL_OUT",
-    "createdAt":"2024-03-05T10:20:30.456-0300","totalRegularItems":1,"totalBenefitItems":0,"totalItems":1,
-    "totalPoints":6,"cartTotal":10.10,"regularItemsProfit":35.94,"benefitItemsProfit":0,"totalProfit":35.94,
+    "createdAt":"2024-03-05T10:20:30.456-0300","totalRegularItems":1,"totalBenefitItems":2,"totalItems":3,
+    "totalPoints":8,"cartTotal":10.10,"regularItemsProfit":35.94,"benefitItemsProfit":0,"totalProfit":36.04,
     "magazineCycle":"202405","regularItems":[)" +
     itemJson + R"(],"benefitItems":[]})";
 
