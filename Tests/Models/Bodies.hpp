@@ -51,4 +51,12 @@ inline std::string replaced(std::string text, std::string_view from, std::string
     return text.replace(position, from.size(), to);
 }
 
+inline std::string repeated(std::string_view text, std::size_t times) {
+    std::string all;
+    for (std::size_t i = 0; i < times; ++i) {
+        all += text;
+    }
+    return all;
+}
+
 } // namespace quillet::tests

@@ -1,3 +1,4 @@
+#include "Models/Bodies.hpp"
 #include "Models/Decoding.hpp"
 #include "Support/Thorough.hpp"
 
@@ -9,14 +10,6 @@
 namespace quillet::tests {
 
 using platform::DecodingError;
-
-std::string repeated(std::string_view text, std::size_t times) {
-    std::string all;
-    for (std::size_t i = 0; i < times; ++i) {
-        all += text;
-    }
-    return all;
-}
 
 /// Puts each value where nobody reads it, where it is read, and last: what stands within the last bytes is
 /// read in another way than what has more behind it.
@@ -99,20 +92,12 @@ TEST(JsonTest, LimitsNestingTo512AndNotTheNumberOfKeys) {
 
 TEST(JsonTest, ReadsBodiesThatAreManyWindowsLong) {
     // Strings that end in a comma, are longer than a window, or hold quotes mislead where a window is to end.
-    const std::string texts[] = {R"(,)",
-                                 R"(\\,)",
-                                 R"(\",\")",
-                                 R"(,\",)",
-                                 std::string(100000, 'a'),
-                                 R"(\\)",
-                                 "",
-                                 std::string(70000, ','),
-                                 R"(\u00e9, é)",
-                                 R"(a","b)"};
+    auto texts = words(R"(, \\, \",\" ,\", \\ \u00e9,é a","b)");
+    texts.insert(texts.end(), {"", std::string(100'000, 'a'), std::string(70'000, ',')});
     std::mt19937 random;
     std::string body = R"({"ignored":[)";
     for (int i = 0; i < 3000; ++i) {
-        const std::string& text = texts[random() % (i % 100 == 0 ? 10 : 4)];
+        const std::string& text = texts[random() % (i % 100 == 0 ? texts.size() : 4)];
         body += '"' + text + "\"," + std::to_string(random()) + (i % 7 == 0 ? " ,\n" : ",");
     }
     body += R"(0],"text":"read"})";

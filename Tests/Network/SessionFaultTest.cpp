@@ -1,3 +1,4 @@
+#include "Models/Bodies.hpp"
 #include "Network/SessionTest.hpp"
 #include "Support/FailingAllocations.hpp"
 
@@ -10,6 +11,7 @@ namespace quillet::testing {
 namespace {
 
 using namespace std::string_literals;
+using tests::repeated;
 using enum Code;
 using enum Answer::Ending;
 
@@ -94,7 +96,7 @@ struct SessionFault : SessionFaults, ::testing::WithParamInterface<Fault> {};
 TEST_P(SessionFault, EndsThePostWithAnErrorAloneInLittleMemory) {
     const auto& fault = GetParam();
     warmUp();
-    Answer answer{{fault.answer + repeated(fault.times, fault.more)}, fault.ending};
+    Answer answer{{fault.answer + repeated(fault.more, fault.times)}, fault.ending};
     const PeakMemory peak;
     expectRefusal(std::move(answer), fault.code);
     // A large body's room replaces the half mebibyte or less that it had so far.
@@ -143,7 +145,7 @@ TEST_F(SessionFaults, AreNotSeenInAnUnusualAnswer) {
         std::string body;
         std::int64_t status = 200;
     } cases[] = {
-        {Answer::complete(200, "{}", repeated(3'900, header)), "{}"},
+        {Answer::complete(200, "{}", repeated(header, 3'900)), "{}"},
         {Answer::complete(200, std::string(limit, ' ')), std::string(limit, ' ')},
         {Answer::complete(200, packed, "Content-Encoding: GZIP\r\n"), unpacked},
         {Answer::complete(200, packed + packed, "Content-Encoding: x-gzip\r\n"), unpacked + unpacked},
@@ -191,7 +193,7 @@ TEST_F(SessionFaults, OfOneSessionDoNotHoldUpAnother) {
     std::shared_ptr<void> closedGate(nullptr, [gate](void*) { gate->count_down(); });
     const platform::URLSession busy(configuration);
     server.enqueue(
-        {{ok + repeated(3'000, header), repeated(100'000, header)}, keepOpen, [gate] { gate->wait(); }});
+        {{ok + repeated(header, 3'000), repeated(header, 100'000)}, keepOpen, [gate] { gate->wait(); }});
     start(busy);
     ASSERT_TRUE(server.waitForRequests(1));
     warmUp();

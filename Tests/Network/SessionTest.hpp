@@ -42,13 +42,4 @@ struct SessionTest : ::testing::Test, SandboxedSession {
     CallRecorder calls;
 };
 
-/// The text so many times.
-inline std::string repeated(std::size_t count, std::string_view text) {
-    std::string all(text);
-    while (all.size() < count * text.size()) {
-        all.append(all, 0, count * text.size() - all.size());
-    }
-    return all;
-}
-
 } // namespace quillet::testing

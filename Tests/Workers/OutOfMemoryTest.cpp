@@ -52,11 +52,8 @@ public:
 struct WorkerTrial : testing::SandboxedSession {
     explicit WorkerTrial(std::size_t items)
         : SandboxedSession{.serverPlace = {.onThread = &FailingResource::spareThisThread}} {
-        std::string lines = tests::itemJson;
-        for (std::size_t line = 1; line < items; ++line) {
-            lines += "," + tests::itemJson;
-        }
-        const std::string body = tests::replaced(tests::orderJson, tests::itemJson, lines);
+        const auto lines = tests::itemJson + tests::repeated("," + tests::itemJson, items - 1);
+        const auto body = tests::replaced(tests::orderJson, tests::itemJson, lines);
         server.enqueue(Answer::complete(200, body));
         server.enqueue(Answer::complete(200, body));
         platform::URLSessionConfiguration::setDefaultConfiguration(configuration);
