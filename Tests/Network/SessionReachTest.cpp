@@ -1,6 +1,6 @@
 #include "Network/SessionTest.hpp"
 #include "Support/FakeNetworkPath.hpp"
-#include "Support/SilentPort.hpp"
+#include "Support/ListeningPort.hpp"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,6 @@ namespace {
 
 using namespace std::chrono_literals;
 using enum Code;
-using Kind = SilentPort::Kind;
 
 // A label of 64 letters is not a valid name, so no name server is asked.
 const std::string noName = std::string(64, 'a') + ".test";
@@ -49,7 +48,7 @@ TEST_F(SessionReach, AsksForANetworkOnlyWhereTheHostIsNotReached) {
 
 // The first attempts get no reply; then a server takes over the port.
 TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
-    auto dead = std::make_unique<SilentPort>(Kind::dropping);
+    auto dead = std::make_unique<DeadPort>();
     const auto port = dead->port();
     std::unique_ptr<FaultServer> late;
     int failures = 0;
@@ -75,8 +74,8 @@ TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
 
 // One call is connected and gets no answer; the other, on the same thread, fails to connect five times.
 TEST_F(SessionReach, KeepsAConnectionThatIsSlowToSpeak) {
-    const SilentPort slow;
-    const SilentPort dead(Kind::dropping);
+    const ListeningPort slow;
+    const DeadPort dead;
     const auto path = std::make_shared<FakeNetworkPath>(true);
     configuration.hostMappings[0].port = slow.port();
     configuration.hostMappings.push_back({"dead.test", "127.0.0.1", dead.port()});

@@ -1,6 +1,6 @@
 #include "Network/SessionTest.hpp"
 #include "Support/FakeNetworkPath.hpp"
-#include "Support/SilentPort.hpp"
+#include "Support/ListeningPort.hpp"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -49,13 +49,13 @@ TEST_F(SessionTime, IsSixtySecondsOfSilenceAfterThePost) {
 }
 
 TEST_F(SessionTime, IsSixtySecondsOfSilenceBeforeTlsAndOfAttemptsToConnect) {
-    const SilentPort silent;
+    const ListeningPort silent;
     configuration.hostMappings[0].port = silent.port();
     startPost();
     expectTimeOutAfter(60s);
-    const SilentPort dropping(SilentPort::Kind::dropping);
+    const DeadPort dead;
     const auto path = std::make_shared<FakeNetworkPath>(true);
-    configuration.hostMappings[0].port = dropping.port();
+    configuration.hostMappings[0].port = dead.port();
     configuration.networkPath = path;
     EXPECT_EQ(std::exchange(configuration.connectTimeout, 20ms), 15s);
     startPost();

@@ -1,10 +1,6 @@
 #include "Support/FaultServer.hpp"
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
 #include <netinet/tcp.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 #include <array>
 #include <chrono>
@@ -73,25 +69,12 @@ Answer Answer::sliced(std::size_t size) const {
 FaultServer::FaultServer(ContextPointer context, ServerPlace place)
     : context_(std::move(context)), place_(std::move(place)) {
     std::signal(SIGPIPE, SIG_IGN);
-    listener_ = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(place_.port == 0 ? INADDR_LOOPBACK : INADDR_ANY);
-    address.sin_port = htons(place_.port);
-    socklen_t size = sizeof(address);
-    const int again = 1;
-    setsockopt(listener_, SOL_SOCKET, SO_REUSEADDR, &again, sizeof(again));
-    bind(listener_, reinterpret_cast<sockaddr*>(&address), size);
-    getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size);
-    listen(listener_, 16);
-    port_ = ntohs(address.sin_port);
     acceptor_ = newThread([this] { acceptConnections(); });
 }
 
 FaultServer::~FaultServer() {
-    shutdown(listener_, SHUT_RDWR);
+    shutdown(listener_.socket(), SHUT_RDWR);
     acceptor_.join();
-    close(listener_);
     {
         const std::lock_guard lock(mutex_);
         for (const int socket : sockets_) {
@@ -142,7 +125,7 @@ std::thread FaultServer::newThread(std::function<void()> work) const {
 
 void FaultServer::acceptConnections() {
     while (true) {
-        const int socket = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
+        const int socket = accept4(listener_.socket(), nullptr, nullptr, SOCK_CLOEXEC);
         if (socket < 0) {
             return;
         }

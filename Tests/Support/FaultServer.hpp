@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Support/ListeningPort.hpp"
 #include "Support/TestAuthority.hpp"
 
 #include <condition_variable>
@@ -59,7 +60,7 @@ public:
     explicit FaultServer(ContextPointer context, ServerPlace place = {});
     ~FaultServer();
 
-    [[nodiscard]] std::uint16_t port() const { return port_; }
+    [[nodiscard]] std::uint16_t port() const { return listener_.port(); }
     void enqueue(Answer answer);
     /// For the connections from now on.
     void setContext(ContextPointer context);
@@ -78,8 +79,7 @@ private:
 
     std::shared_ptr<SSL_CTX> context_;
     const ServerPlace place_;
-    int listener_ = -1;
-    std::uint16_t port_ = 0;
+    const ListeningPort listener_{place_.port};
     std::mutex mutex_;
     std::condition_variable changed_;
     std::deque<Answer> script_;
