@@ -30,12 +30,12 @@ bool fails(Resource resource) {
 }
 
 /// Calls the function that the program's own replaces.
-template <typename... Arguments>
-int givenBySystem(Resource resource, const char* function, Arguments... arguments) {
-    using Function = int(Arguments...);
+template <typename Result, typename... Arguments>
+Result givenBySystem(Resource resource, Result refusal, const char* function, Arguments... arguments) {
+    using Function = Result(Arguments...);
     if (fails(resource)) {
         errno = EMFILE;
-        return -1;
+        return refusal;
     }
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, function))(arguments...);
 }
@@ -149,25 +149,20 @@ extern "C" {
 
 int pthread_create(pthread_t* thread, const pthread_attr_t* attributes, void* (*run)(void*),
                    void* argument) noexcept {
-    const int result = givenBySystem(Resource::threads, "pthread_create", thread, attributes, run, argument);
-    return result < 0 ? EAGAIN : result;
+    return givenBySystem(Resource::threads, EAGAIN, "pthread_create", thread, attributes, run, argument);
 }
 
 int socket(int domain, int type, int protocol) noexcept {
-    return givenBySystem(Resource::sockets, "socket", domain, type, protocol);
+    return givenBySystem(Resource::sockets, -1, "socket", domain, type, protocol);
 }
 
 int socketpair(int domain, int type, int protocol, int* pair) noexcept {
-    return givenBySystem(Resource::sockets, "socketpair", domain, type, protocol, pair);
+    return givenBySystem(Resource::sockets, -1, "socketpair", domain, type, protocol, pair);
 }
 
 // Libraries that take large files on every machine open them with this one.
 FILE* fopen64(const char* path, const char* mode) {
-    if (fails(Resource::files)) {
-        errno = EMFILE;
-        return nullptr;
-    }
-    return reinterpret_cast<FILE* (*)(const char*, const char*)>(dlsym(RTLD_NEXT, "fopen64"))(path, mode);
+    return givenBySystem<FILE*>(Resource::files, nullptr, "fopen64", path, mode);
 }
 
 } // extern "C"
