@@ -2,8 +2,6 @@
 #include "Network/Errors/HttpErrorFactory.hpp"
 #include "Network/Request/URLRequestWrapper.hpp"
 #include "Network/Services/SellOutCartCheckoutService.hpp"
-#include "Network/Services/SellOutCartService.hpp"
-#include "Network/Services/SellOutCartsStatusOpenService.hpp"
 #include "Network/Session/URLSessionWrapper.hpp"
 #include "Network/Url/UrlCreator.hpp"
 #include "Support/SandboxedSession.hpp"
@@ -17,18 +15,23 @@ namespace quillet::testing {
 
 namespace {
 
-/// The three services, as the workers make them.
+/// The service of the checkout, as its worker makes it. All services perform their calls in the same way.
 struct Services : ::testing::Test, SandboxedSession {
-    [[nodiscard]] SellOutCartService associate() const {
-        return {session, requests, host, errors, urls, authorization};
+    /// Waits for the result of the next checkout.
+    const CheckoutResult& result() {
+        const auto call = results.count();
+        const SellOutCartCheckoutService service(authorization, country, 0, host, requests, session, errors,
+                                                 urls);
+        service.checkout(
+            [results = results](CheckoutResult result) mutable { results.record(std::move(result)); });
+        return results.wait(call);
     }
-    [[nodiscard]] SellOutCartsStatusOpenService openCarts() const {
-        return {host, {"PE", 0}, requests, authorization.jwt, session, errors, urls};
-    }
-    [[nodiscard]] SellOutCartCheckoutService checkout() const {
-        return {authorization, "PE", 0, host, requests, session, errors, urls};
+    const CheckoutResult& resultOf(Answer answer) {
+        server.enqueue(std::move(answer));
+        return result();
     }
 
+    std::string country = "PE";
     std::string host = gatewayHost;
     Authorization authorization{"the.signed.token", "provider"};
     std::shared_ptr<URLSessionWrapper> session =
@@ -36,6 +39,7 @@ struct Services : ::testing::Test, SandboxedSession {
     std::shared_ptr<URLRequestFactory> requests = std::make_shared<URLRequestFactory>();
     std::shared_ptr<HttpErrorFactory> errors = std::make_shared<HttpErrorFactory>();
     std::shared_ptr<UrlCreator> urls = std::make_shared<UrlCreator>();
+    Recorder<CheckoutResult> results;
 };
 
 using enum Answer::Ending;
@@ -100,17 +104,20 @@ TEST(URLRequestWrapper, JoinsASecondValueOfAHeaderAndRefusesOneThatWouldSplitThe
 }
 
 TEST_F(Services, CompleteAtOnceWhenTheRequestCannotBeFormed) {
-    const auto errorFor = [&](const std::string& cart) {
-        std::optional<OrderResult> result;
-        associate().associateConsultantToCart(cart, 1, [&](OrderResult r) { result = std::move(r); });
-        EXPECT_TRUE(result && !result->response && result->httpStatusCode == 0);
-        return result->error.value();
+    const auto expect = [&](const ServiceError& error) {
+        const auto& [response, itsError, status] = result();
+        EXPECT_FALSE(response);
+        EXPECT_EQ(itsError, error);
+        EXPECT_EQ(status, 0);
+        EXPECT_EQ(results.threadOf(results.count() - 1), std::this_thread::get_id());
     };
-    EXPECT_EQ(errorFor("\xff"), ServiceError(NetworkServiceError::invalidUrl));
+    country = "\xff";
+    expect(NetworkServiceError::invalidUrl);
+    country = "PE";
     authorization.provider = "a\r\nX-Evil: 1";
-    EXPECT_EQ(errorFor("cart"), ServiceError(platform::EncodingError{"Authorization-Provider"}));
+    expect(platform::EncodingError{"Authorization-Provider"});
     host = "https://gateway.test";
-    EXPECT_EQ(errorFor("cart"), ServiceError(NetworkServiceError::invalidUrl));
+    expect(NetworkServiceError::invalidUrl);
     EXPECT_EQ(server.requests().size(), 0u);
 }
 
@@ -133,40 +140,23 @@ TEST_F(Services, MakeAResultOfEveryStatusWithEveryBody) {
     for (const auto& record : {tests::clientErrorJson, tests::serverErrorJson}) {
         bodies.insert(bodies.end(), {record, record + "x", tests::replaced(record, R"(,"path":"/p")", "")});
     }
-    bodies.insert(bodies.end(), {tests::orderJson, tests::openOrdersJson, tests::checkoutJson});
-    std::size_t pair = 0;
-    const auto expect = [&]<typename Result>(auto Result::*response, const std::string& goodBody, auto call) {
-        Recorder<Result> results;
-        for (const auto& [statuses, record, error] : kinds) {
-            for (const int status : statuses) {
-                for (const auto& body : bodies) {
-                    if (pair++ % thorough(3, 1) != 0) {
-                        continue;
-                    }
-                    SCOPED_TRACE(std::to_string(status) + " " + body);
-                    server.enqueue(Answer::complete(status, body));
-                    const auto count = results.count();
-                    call([&](Result result) { results.record(std::move(result)); });
-                    const Result& result = results.wait(count);
-                    EXPECT_EQ((result.*response).has_value(), body == goodBody);
-                    EXPECT_EQ(result.httpStatusCode, status);
-                    EXPECT_EQ(result.error, !error || body == record ? error : HttpStatusCodeError{status});
-                }
+    bodies.push_back(tests::checkoutJson);
+    for (const auto& [statuses, record, error] : kinds) {
+        for (const int status : statuses) {
+            for (const auto& body : bodies) {
+                SCOPED_TRACE(std::to_string(status) + " " + body);
+                const auto& result = resultOf(Answer::complete(status, body));
+                EXPECT_EQ(result.checkoutResponse.has_value(), body == tests::checkoutJson);
+                EXPECT_EQ(result.httpStatusCode, status);
+                EXPECT_EQ(result.error, !error || body == record ? error : HttpStatusCodeError{status});
             }
         }
-    };
-    expect(&OrderResult::response, tests::orderJson,
-           [&](auto completion) { associate().associateConsultantToCart("cart", 1, completion); });
-    expect(&OpenOrdersResult::response, tests::openOrdersJson,
-           [&](auto completion) { openCarts().getOpenOrders(completion); });
-    expect(&CheckoutResult::checkoutResponse, tests::checkoutJson,
-           [&](auto completion) { checkout().checkout(completion); });
-    RecordProperty("cases", static_cast<int>(server.requests().size()));
+    }
+    RecordProperty("cases", static_cast<int>(results.count()));
 }
 
 TEST_P(CutAnswers, AreNeverTakenAndNeverAskedForAgain) {
     const auto& [name, whole, ending, undetected, isWholeTaken] = GetParam();
-    Recorder<CheckoutResult> results;
     const std::size_t step = thorough(17, 1);
     for (std::size_t bytes = whole.size() % step; bytes <= whole.size(); bytes += step) {
         if (whole.substr(0, bytes).ends_with("\r\n0\r\n\r")) {
@@ -174,14 +164,11 @@ TEST_P(CutAnswers, AreNeverTakenAndNeverAskedForAgain) {
             continue;
         }
         SCOPED_TRACE(bytes);
-        server.enqueue({{whole.substr(0, bytes)}, ending});
-        const std::size_t call = results.count();
-        checkout().checkout([&](CheckoutResult result) { results.record(std::move(result)); });
-        const auto& result = results.wait(call);
+        const auto& result = resultOf({{whole.substr(0, bytes)}, ending});
         EXPECT_EQ(result.checkoutResponse.has_value(), isWholeTaken && bytes == whole.size());
         EXPECT_EQ(result.httpStatusCode, bytes < undetected ? 0 : 200);
         EXPECT_EQ(result.error ? platformErrorCode(*result.error) : 0, bytes < undetected ? -1005 : 0);
-        EXPECT_EQ(server.requests().size(), call + 1);
+        EXPECT_EQ(server.requests().size(), results.count());
     }
     RecordProperty("cases", static_cast<int>(results.count()));
 }
