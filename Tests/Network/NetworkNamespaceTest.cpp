@@ -14,21 +14,20 @@ namespace {
 using enum Code;
 
 // An interface that is up, with link-local addresses of both families and no route.
-const std::vector<std::string> link = {"link add near type veth peer name far", "link set near up",
-                                       "link set far up", "address add 169.254.7.7/16 dev near"};
-
-std::vector<std::string> linkAnd(std::initializer_list<std::string> commands) {
-    std::vector<std::string> all = link;
-    all.insert(all.end(), commands);
-    return all;
-}
+const std::string link = R"(
+        ip link add near type veth peer name far
+        ip link set near up
+        ip link set far up
+        ip address add 169.254.7.7/16 dev near
+    )";
 
 /// A device with its own network, where the hosts file alone resolves the gateway's name and nothing is
 /// mapped.
 struct Place {
     std::string name;
     std::string hosts;
-    std::vector<std::string> commands;
+    /// Shell commands.
+    std::string commands;
     Code error = {};
     ServerPlace server = {};
 
@@ -36,35 +35,36 @@ struct Place {
 };
 
 const ServerPlace httpsPort{.port = 443};
-const std::string toDefault = "route add default dev near";
+const std::string linkToDefault = link + "ip route add default dev near\n";
 const std::string itself = "127.0.0.1 gateway.test\n";
 const std::string far = "203.0.113.5 gateway.test\n";
 
 const Place places[] = {
-    {"NoInterface", far, {"link set lo down"}, notConnectedToInternet},
-    {"NothingButLoopback", far, {}, notConnectedToInternet},
+    {"NoInterface", far, "ip link set lo down", notConnectedToInternet},
+    {"NothingButLoopback", far, "", notConnectedToInternet},
     {"ALinkThatLeadsNowhere", far, link, notConnectedToInternet},
     {"ALinkThatLeadsNowhereAndNoName", "", link, notConnectedToInternet},
-    {"ARouteToTheNextHouseOnly", far, linkAnd({"address add 10.9.8.7/24 dev near"}), notConnectedToInternet},
-    {"ARouteAndNothingBehind", far, linkAnd({toDefault, "route add unreachable 203.0.113.5"}),
+    {"ARouteToTheNextHouseOnly", far, link + "ip address add 10.9.8.7/24 dev near", notConnectedToInternet},
+    {"ARouteAndNothingBehind", far, linkToDefault + "ip route add unreachable 203.0.113.5",
      cannotConnectToHost},
-    {"ARouteAndNoName", "", linkAnd({toDefault}), cannotFindHost},
-    {"ARouteAndAClosedPort", itself, linkAnd({toDefault}), cannotConnectToHost},
-    {"ARouteOfTheOtherFamilyAndAClosedPort", "2001:db8::5 gateway.test\n" + itself, linkAnd({toDefault}),
+    {"ARouteAndNoName", "", linkToDefault, cannotFindHost},
+    {"ARouteAndAClosedPort", itself, linkToDefault, cannotConnectToHost},
+    {"ARouteOfTheOtherFamilyAndAClosedPort", "2001:db8::5 gateway.test\n" + itself, linkToDefault,
      cannotConnectToHost},
     {"ARouteOfTheNewerFamilyAndNoName", "",
-     linkAnd({"-6 route add default dev near", "-6 address add 2001:db8::7/64 dev near nodad"}),
+     link + "ip -6 route add default dev near\nip -6 address add 2001:db8::7/64 dev near nodad",
      cannotFindHost},
-    {"AServerWithoutARoute", itself, {}, {}, httpsPort},
-    {"AProxyWithoutARoute", "", {}, {}, {.isProxy = true}},
-    {"AProxyThatRefuses", "", {}, cannotConnectToHost, {.isProxy = true, .proxyStatus = 403}},
-    {"AProxyThatWantsALogin", "", {}, cannotConnectToHost, {.isProxy = true, .proxyStatus = 407}},
+    {"AServerWithoutARoute", itself, "", {}, httpsPort},
+    {"AProxyWithoutARoute", "", "", {}, {.isProxy = true}},
+    {"AProxyThatRefuses", "", "", cannotConnectToHost, {.isProxy = true, .proxyStatus = 403}},
+    {"AProxyThatWantsALogin", "", "", cannotConnectToHost, {.isProxy = true, .proxyStatus = 407}},
     // Packets to the first address are routed back to this machine, which drops them. getaddrinfo() keeps the
     // order of these two, since neither is an address of this machine.
     {"ADeadAddressFirst",
      "198.51.100.9 gateway.test\n203.0.113.10 gateway.test\n",
-     {"address add 198.51.100.77/32 dev lo", "route add 198.51.100.0/24 dev lo",
-      "route add local 203.0.113.10 dev lo src 198.51.100.77"},
+     "ip address add 198.51.100.77/32 dev lo\n"
+     "ip route add 198.51.100.0/24 dev lo\n"
+     "ip route add local 203.0.113.10 dev lo src 198.51.100.77",
      {},
      httpsPort},
 };
@@ -74,19 +74,15 @@ struct SessionPlace : SessionTest, ::testing::WithParamInterface<Place> {};
 // The shell command that runs tests of this program in the place. Root may make a network, and other users
 // once they have become root in a namespace of users.
 std::string inPlace(const Place& place, const std::string& tests) {
-    std::string script = R"(
+    const std::string script = R"(
         bind() { file=$(mktemp); echo "$1" >$file; mount --bind $file $2; rm $file; }
         bind ")" + place.hosts +
-                         R"(" /etc/hosts
+                               R"(" /etc/hosts
         # No name server listens there, so a name that is not in the file fails at once.
         [ ! -e /etc/resolv.conf ] || bind "nameserver 127.0.0.1" $(realpath /etc/resolv.conf)
         ip link set lo up
-    )";
-    for (const auto& command : place.commands) {
-        script += "ip " + command + "\n";
-    }
-    script +=
-        "QUILLET_PLACE=1 exec " + std::filesystem::read_symlink("/proc/self/exe").string() + " " + tests;
+        )" + place.commands + "\nQUILLET_PLACE=1 exec " +
+                               std::filesystem::read_symlink("/proc/self/exe").string() + " " + tests;
     return std::string(geteuid() == 0 ? "unshare" : "unshare --map-root-user") + " --net --mount sh -ec '" +
            script + "'";
 }

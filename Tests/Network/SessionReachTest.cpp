@@ -68,7 +68,7 @@ TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
     EXPECT_EQ(errorOf(platform::URLSession(configuration)), Code());
     EXPECT_EQ(failures, 2);
     EXPECT_EQ(late->requests().size(), 1u);
-    EXPECT_EQ(observer->lines(),
+    EXPECT_EQ(observer->lines.all(),
               (std::vector<std::string>{"0 POST https://gateway.test/", "0 ended 200 0 0"}));
 }
 

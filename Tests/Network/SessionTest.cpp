@@ -75,7 +75,7 @@ TEST_F(SessionTest, TellsItsObserverBeforeTheCompletion) {
     // Whoever answers in place of the network.
     configuration.loader = std::make_shared<ScriptedBackend>();
     start(platform::URLSession(configuration), get);
-    EXPECT_EQ(observer->lines(),
+    EXPECT_EQ(observer->lines.all(),
               (std::vector<std::string>{"0 GET https://gateway.test/", "0 ended 404 0 0",
                                         "1 GET https://gateway.test/", "1 ended 0 -1001 60000",
                                         "2 GET https://gateway.test/", "2 ended 200 0 0"}));

@@ -10,6 +10,7 @@
 #include <nlohmann/json.hpp>
 #include <openssl/hmac.h>
 
+#include <numeric>
 #include <random>
 
 namespace quillet::testing {
@@ -35,10 +36,8 @@ std::string randomText(std::mt19937& random) {
 
 // RFC 4231, cases 1 to 4, 6 and 7; RFC 7515, appendix A.1.
 TEST(HmacSha256, GivesThePublishedSignatures) {
-    std::string ascending;
-    for (char byte = 1; byte <= 25; ++byte) {
-        ascending += byte;
-    }
+    std::string ascending(25, '\0');
+    std::iota(ascending.begin(), ascending.end(), '\1');
     const std::string longKey(131, '\xaa');
     const std::string tokenKey =
         "AyM1SysPpbyDfgZld3umj1qzKObwVMkoqQ-EstJQLr_T-1qS0gZH75aKtMN3Yj0iPS4hcgUuTwjAzZr1Z9"
@@ -125,9 +124,9 @@ TEST_F(SessionTest, TellsNoTokenInALogOrAnErrorHoweverACallEnds) {
         log.record(error ? error->message : "");
     }
     std::string told = ::testing::internal::GetCapturedStdout() + ::testing::internal::GetCapturedStderr();
-    ASSERT_EQ(log.count(), 10u);
-    for (std::size_t i = 0; i < log.count(); ++i) {
-        told += log.wait(i) + '\n';
+    EXPECT_EQ(log.count(), 10u);
+    for (const auto& line : log.all()) {
+        told += line + '\n';
     }
     EXPECT_THAT(server.requests().at(0), HasSubstr("Consultant-Token: " + token));
     for (const auto& hidden : {token, token.substr(37, 20), token.substr(token.rfind('.')), secret}) {

@@ -35,6 +35,12 @@ public:
         return state_->outcomes[index];
     }
 
+    /// Those so far.
+    [[nodiscard]] std::vector<Outcome> all() {
+        const std::lock_guard lock(state_->mutex);
+        return {state_->outcomes.begin(), state_->outcomes.end()};
+    }
+
     [[nodiscard]] std::size_t count() {
         const std::lock_guard lock(state_->mutex);
         return state_->outcomes.size();

@@ -29,26 +29,20 @@ class TrafficLog final : public platform::URLSessionObserving {
 public:
     void willSend(std::uint64_t exchange, const platform::URLRequest& request) override {
         first_ = std::min(first_, exchange);
-        log_.record(std::to_string(exchange - first_) + " " + request.httpMethod.value_or("") + " " +
-                    request.url.absoluteString());
+        lines.record(std::to_string(exchange - first_) + " " + request.httpMethod.value_or("") + " " +
+                     request.url.absoluteString());
     }
     void didEnd(std::uint64_t exchange, const platform::URLRequest&,
                 const platform::URLSessionExchangeEnd& end) override {
         const auto code = end.errorCode ? static_cast<std::int64_t>(*end.errorCode) : 0;
-        log_.record(std::to_string(exchange - first_) + " ended " + std::to_string(end.statusCode) + " " +
-                    std::to_string(code) + " " + std::to_string(end.duration.count()));
+        lines.record(std::to_string(exchange - first_) + " ended " + std::to_string(end.statusCode) + " " +
+                     std::to_string(code) + " " + std::to_string(end.duration.count()));
     }
-    [[nodiscard]] std::vector<std::string> lines() {
-        std::vector<std::string> all;
-        while (all.size() < log_.count()) {
-            all.push_back(log_.wait(all.size()));
-        }
-        return all;
-    }
+
+    Recorder<std::string> lines;
 
 private:
     std::uint64_t first_ = UINT64_MAX;
-    Recorder<std::string> log_;
 };
 
 } // namespace quillet::testing
