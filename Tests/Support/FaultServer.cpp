@@ -3,7 +3,6 @@
 #include <netinet/tcp.h>
 
 #include <array>
-#include <chrono>
 #include <csignal>
 #include <optional>
 #include <string_view>
@@ -99,19 +98,9 @@ void FaultServer::setContext(ContextPointer context) {
     context_ = std::move(context);
 }
 
-std::vector<std::string> FaultServer::requests() {
-    const std::lock_guard lock(mutex_);
-    return requests_;
-}
-
 std::size_t FaultServer::connections() {
     const std::lock_guard lock(mutex_);
     return sockets_.size();
-}
-
-bool FaultServer::waitForRequests(std::size_t count) {
-    std::unique_lock lock(mutex_);
-    return changed_.wait_for(lock, std::chrono::seconds(30), [&] { return requests_.size() >= count; });
 }
 
 std::thread FaultServer::newThread(std::function<void()> work) const {
@@ -163,13 +152,12 @@ bool FaultServer::answerOneRequest(SSL* tls, int socket) {
     std::optional<Answer> answer;
     {
         const std::lock_guard lock(mutex_);
-        requests_.push_back(request);
         if (!script_.empty()) {
             answer = std::move(script_.front());
             script_.pop_front();
         }
-        changed_.notify_all();
     }
+    requests_.record(request);
     if (!answer) {
         // Silence, until the client goes away.
         return !readRequest(tls).empty();

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Support/ListeningPort.hpp"
+#include "Support/Recorder.hpp"
 #include "Support/TestAuthority.hpp"
 
-#include <condition_variable>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -66,10 +66,9 @@ public:
     void setContext(ContextPointer context);
 
     /// The requests received so far, each with its head and body unchanged, also those that broke off.
-    [[nodiscard]] std::vector<std::string> requests();
+    [[nodiscard]] std::vector<std::string> requests() { return requests_.all(); }
     [[nodiscard]] std::size_t connections();
-    /// False if they do not come in time.
-    [[nodiscard]] bool waitForRequests(std::size_t count);
+    void waitForRequests(std::size_t count) { static_cast<void>(requests_.wait(count - 1)); }
 
 private:
     [[nodiscard]] std::thread newThread(std::function<void()> work) const;
@@ -81,9 +80,8 @@ private:
     const ServerPlace place_;
     const ListeningPort listener_{place_.port};
     std::mutex mutex_;
-    std::condition_variable changed_;
     std::deque<Answer> script_;
-    std::vector<std::string> requests_;
+    Recorder<std::string> requests_;
     std::vector<int> sockets_;
     std::list<std::thread> servers_;
     std::thread acceptor_;

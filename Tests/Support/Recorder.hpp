@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Platform/Http/URLSessionExchange.hpp"
-
 #include <chrono>
 #include <condition_variable>
 #include <deque>
@@ -60,16 +58,6 @@ private:
     };
 
     std::shared_ptr<State> state_ = std::make_shared<State>();
-};
-
-/// Outcomes of a session's calls.
-class CallRecorder : public Recorder<platform::URLSessionOutcome> {
-public:
-    [[nodiscard]] platform::URLSessionDataTaskCompletion completion() {
-        return [recorder = *this](auto data, auto response, auto error) mutable {
-            recorder.record({std::move(data), std::move(response), std::move(error)});
-        };
-    }
 };
 
 } // namespace quillet::testing

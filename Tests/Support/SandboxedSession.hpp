@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/Http/URLSessionExchange.hpp"
 #include "Quillet/Platform/URLSessionConfiguration.hpp"
 #include "Quillet/Testing/ManualClock.hpp"
 #include "Support/FaultServer.hpp"
@@ -22,6 +23,16 @@ struct SandboxedSession {
         .hostMappings = {{.host = gatewayHost, .address = "127.0.0.1", .port = server.port()}},
         .clock = clock,
     };
+};
+
+/// Outcomes of a session's calls.
+class CallRecorder : public Recorder<platform::URLSessionOutcome> {
+public:
+    [[nodiscard]] platform::URLSessionDataTaskCompletion completion() {
+        return [recorder = *this](auto data, auto response, auto error) mutable {
+            recorder.record({std::move(data), std::move(response), std::move(error)});
+        };
+    }
 };
 
 /// The beginnings and ends of calls, numbered from the first one on.
