@@ -7,8 +7,6 @@
 #include <pthread.h>
 #include <sys/socket.h>
 
-#include <algorithm>
-#include <array>
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
@@ -20,13 +18,13 @@ namespace quillet::testing {
 
 namespace {
 
+std::atomic<Resource> refused{};
 // Counts down to the time that fails; none fails after it.
-std::array<std::atomic<long>, 6> left{};
+std::atomic<long> left = 0;
 thread_local bool isSpared = false;
 
 bool fails(Resource resource) {
-    auto& counter = left[static_cast<std::size_t>(resource)];
-    return !isSpared && counter.load() > 0 && counter.fetch_sub(1) == 1;
+    return !isSpared && resource == refused && left > 0 && left.fetch_sub(1) == 1;
 }
 
 /// Calls the function that the program's own replaces.
@@ -91,17 +89,16 @@ const bool isInstalled = [] {
 } // namespace
 
 FailingResource::FailingResource(Resource resource, std::size_t index) {
-    left[static_cast<std::size_t>(resource)] = static_cast<long>(index);
+    refused = resource;
+    left = static_cast<long>(index);
 }
 
 FailingResource::~FailingResource() {
-    for (auto& counter : left) {
-        counter = 0;
-    }
+    left = 0;
 }
 
 bool FailingResource::hasFailed() const {
-    return std::ranges::none_of(left, [](const auto& counter) { return counter > 0; });
+    return left <= 0;
 }
 
 void FailingResource::spareThisThread() {

@@ -8,8 +8,9 @@ namespace quillet::testing {
 /// like, and files.
 enum class Resource { cpp, curl, openSsl, threads, sockets, files };
 
-/// Refuses a resource once while it exists. Linking it into a program replaces the program's allocation
-/// functions, those of the two libraries, and the system's functions that give the other resources.
+/// Refuses a resource once while it exists, of which there may be one at a time. Linking it into a program
+/// replaces the program's allocation functions, those of the two libraries, and the system's functions that
+/// give the other resources.
 class FailingResource {
 public:
     /// Refuses at the `index`th time, counted from 1 over all threads that are not exempt.
