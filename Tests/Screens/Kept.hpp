@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QStringList>
+#include "Support/Reading.hpp"
+
+#include <QFile>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -9,12 +11,20 @@ namespace demo::testing {
 
 /// Compares lines with those kept in Expected under this name, and fails where they differ. With
 /// QUILLET_RENEW_DESCRIPTIONS set it keeps them instead, and the test counts as skipped.
-void expectKept(const QString& name, const QStringList& lines);
-
-/// The name of a test that is for what has this name.
-[[nodiscard]] std::string testName(const ::testing::TestParamInfo<const char*>& instance);
+inline void expectKept(const QString& name, const QStringList& lines) {
+    QFile file(QStringLiteral(QUILLET_KEPT_DESCRIPTIONS "/%1.txt").arg(name));
+    const QByteArray told = lines.join(u'\n').toUtf8() + '\n';
+    if (qEnvironmentVariableIsSet("QUILLET_RENEW_DESCRIPTIONS")) {
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(told) == told.size());
+        GTEST_SKIP() << "renewed";
+    }
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+    EXPECT_EQ(told.toStdString(), file.readAll().toStdString()) << file.fileName().toStdString();
+}
 
 /// What a screen reader reads of a window, in its order.
-[[nodiscard]] QStringList heardOf(QWindow& window);
+[[nodiscard]] inline QStringList heardOf(QWindow& window) {
+    return quillet::testing::readingOrder(*QAccessible::queryAccessibleInterface(&window));
+}
 
 } // namespace demo::testing

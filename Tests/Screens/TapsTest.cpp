@@ -5,9 +5,6 @@
 #include "Play/Hands.hpp"
 #include "Play/Stage.hpp"
 #include "Quillet/Testing/RecordingHost.hpp"
-#include "Support/Reading.hpp"
-
-#include <gtest/gtest.h>
 
 #include <ranges>
 
@@ -18,10 +15,8 @@ namespace {
 using quillet::testing::Call;
 using quillet::testing::Reply;
 
-constexpr QSize phone{390, 1500};
-
 /// What the host is told: on the way to a screen, and by a tap on each of its buttons.
-struct Taps : ::testing::TestWithParam<const char*> {
+struct Taps : ::testing::TestWithParam<std::string> {
     Taps() {
         kel::KelAnalyticsManager::shared()->setSink(
             std::make_shared<quillet::testing::RecordingAnalytics>(log));
@@ -34,7 +29,7 @@ struct Taps : ::testing::TestWithParam<const char*> {
     /// Opens the screen and returns what the host was told meanwhile. From then on nothing is answered.
     QStringList open() {
         log->clear();
-        const auto opened = stage.open(galleryScreen(GetParam()), phone);
+        const auto opened = stage.open(screen, {390, 1500});
         EXPECT_TRUE(opened) << opened.error().toStdString();
         for (const Call call : {Call::associate, Call::getOpenOrders, Call::checkout}) {
             stage.backend().script(call, {Reply::never()});
@@ -76,6 +71,8 @@ struct Taps : ::testing::TestWithParam<const char*> {
         return lines.isEmpty() ? QStringList("  nothing") : lines;
     }
 
+    const QString name = QString::fromStdString(GetParam());
+    const GalleryScreen screen = galleryScreen(name.section(u'.', 0, 0));
     quillet::testing::Log log = quillet::testing::makeLog();
     GalleryStage stage;
 };
@@ -93,19 +90,16 @@ TEST_P(Taps, TellTheHostWhatIsDescribed) {
         lines << quillet::testing::reading(*button) + ":";
         lines << tap([&] { button->actionInterface()->doAction(QAccessibleActionInterface::pressAction()); });
     }
-    if (galleryScreen(GetParam()).kind == GalleryKind::dialog) {
+    if (screen.kind == GalleryKind::dialog) {
         open();
         lines << "beside the dialog:" << tap([&] {
             Hands(*stage.host().window()).tap({5, 5}, Device::mouse);
         });
     }
-    expectKept(QStringLiteral("%1.taps").arg(GetParam()), lines);
+    expectKept(name, lines);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Taps,
-                         ::testing::Values("order-registered", "other-consultant", "already-submitted",
-                                           "summary", "no-connection", "time-out", "generic-error",
-                                           "checkout-error", "some-sent", "section-closed"),
+INSTANTIATE_TEST_SUITE_P(All, Taps, ::testing::ValuesIn(keptNames(QUILLET_KEPT_DESCRIPTIONS, "*.taps.txt")),
                          testName);
 
 } // namespace demo::testing
