@@ -28,7 +28,7 @@ QString textIn(const char* language, const char* key) {
 QString countsIn(const char* language, const char* key) {
     kel::setLanguage(language);
     const auto count = kel::localizedCount(key, moduleBundle());
-    return count(1) + QLatin1String(", ") + count(2);
+    return count(0) + QLatin1String(", ") + count(1) + QLatin1String(", ") + count(2);
 }
 
 void printText(std::ostream& out, const char* key, QString (*in)(const char* language, const char* key)) {
