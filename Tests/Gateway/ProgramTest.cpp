@@ -10,11 +10,6 @@ using namespace std::chrono_literals;
 
 using GatewayProgram = RunningGateway;
 
-// In both the TLS stream ends without close_notify, which libcurl 8.14 reports as a receive error and 7.88
-// did not.
-const ::testing::Matcher<CURLcode> isCut = ::testing::AnyOf(CURLE_PARTIAL_FILE, CURLE_RECV_ERROR);
-const ::testing::Matcher<CURLcode> isClosed = ::testing::AnyOf(CURLE_GOT_NOTHING, CURLE_RECV_ERROR);
-
 } // namespace
 
 TEST_F(GatewayProgram, IsRefusedInOneClearLineOfErrors) {
@@ -61,7 +56,7 @@ TEST_F(GatewayProgram, ListsItsOrders) {
 }
 
 TEST_F(GatewayProgram, TurnsAwayWhatIsTooLargeAndStopsWhenAskedTo) {
-    const std::tuple<long, std::string, std::string> cases[] = {
+    const std::tuple<int, std::string, std::string> cases[] = {
         {431, "Authorization-Provider", std::string(20'000, 'x')},
         {413, ":body", std::string(200'000, ' ')},
         {400, ":method", "G(E)T"},
@@ -90,31 +85,28 @@ TEST_F(GatewayProgram, KeepsItsAuthorityAndAtAResetNothingElse) {
 TEST_F(GatewayProgram, FailsOnTheWireAsItIsToldToAndLogsItOnce) {
     // The beginning of the body; then whether it stands in the log as answered, and whether the order is
     // submitted afterwards.
-    const std::tuple<std::string, ::testing::Matcher<CURLcode>, long, std::string, bool, bool> cases[] = {
-        {"delay value=0", CURLE_OK, 200, R"({"submittedOrderId":)", true, true},
-        {"status value=503", CURLE_OK, 503, R"({"error":{"response":)", true, false},
-        {"status value=404", CURLE_OK, 404, R"({"details":"This failure)", true, false},
-        {"status value=302", CURLE_OK, 302, "{}", true, false},
-        {"status value=204", CURLE_OK, 204, "", true, false},
-        {"malformed", CURLE_OK, 200, R"({"consultant":{"id":)", true, false},
-        {"malformed value=empty", CURLE_OK, 200, "", true, false},
-        {"malformed value=null", CURLE_OK, 200, "null", true, false},
-        {"malformed value=shape", CURLE_OK, 200, R"({"result":"ok",)", true, false},
-        {"malformed value=html", CURLE_OK, 200, "<!DOCTYPE html>", true, false},
-        {"cut", isCut, 200, R"({"submittedOrderId":)", true, true},
-        {"silence", CURLE_OPERATION_TIMEDOUT, 0, "", false, false},
-        {"close", isClosed, 0, "", false, true},
+    const std::tuple<std::string, std::string, int, std::string, bool, bool> cases[] = {
+        {"delay value=0", "", 200, R"({"submittedOrderId":)", true, true},
+        {"status value=503", "", 503, R"({"error":{"response":)", true, false},
+        {"status value=404", "", 404, R"({"details":"This failure)", true, false},
+        {"status value=302", "", 302, "{}", true, false},
+        {"status value=204", "", 204, "", true, false},
+        {"malformed", "", 200, R"({"consultant":{"id":)", true, false},
+        {"malformed value=empty", "", 200, "", true, false},
+        {"malformed value=null", "", 200, "null", true, false},
+        {"malformed value=shape", "", 200, R"({"result":"ok",)", true, false},
+        {"malformed value=html", "", 200, "<!DOCTYPE html>", true, false},
+        {"cut", "cut", 200, R"({"submittedOrderId":)", true, true},
+        {"silence", "silent", 0, "", false, false},
+        {"close", "closed", 0, "", false, true},
     };
     std::size_t lines = 0;
-    for (const auto& [kind, code, status, body, isAnswered, isSent] : cases) {
+    for (const auto& [kind, failure, status, body, isAnswered, isSent] : cases) {
         SCOPED_TRACE(kind);
         adjust({"--reset", "--fault", "consultant=41051 call=checkout times=1 kind=" + kind});
         ASSERT_EQ(client.send(associateRequest(41051, cartOf(41051))).status, 200);
-        // On a reused connection curl itself would repeat a POST that is closed; for silence alone the time
-        // of connecting must not count.
-        const auto exchange = kind == "silence" ? client.send(checkoutRequest(41051), 300ms)
-                                                : newClient().send(checkoutRequest(41051));
-        EXPECT_THAT(exchange.code, code) << curl_easy_strerror(exchange.code);
+        const auto exchange = client.send(checkoutRequest(41051), kind == "silence" ? 300ms : 20s);
+        EXPECT_EQ(exchange.failure, failure);
         EXPECT_EQ(exchange.status, status);
         EXPECT_EQ(exchange.body.substr(0, body.size()), body);
         EXPECT_EQ(exchange.body.empty(), body.empty());
@@ -144,10 +136,11 @@ TEST_F(GatewayProgram, StopsWhateverItsClientsWaitFor) {
             "consultant=41052 call=open kind=status value=500", "--fault",
             "consultant=41052 call=open kind=none"});
     auto delayed = newClient();
-    EXPECT_EQ(client.send(checkoutRequest(41062), 300ms).code, CURLE_OPERATION_TIMEDOUT);
-    EXPECT_EQ(delayed.send(openRequest(41051), 300ms).code, CURLE_OPERATION_TIMEDOUT);
-    auto connected = newClient();
-    EXPECT_EQ(connected.connect(false), CURLE_OK);
+    EXPECT_EQ(client.send(checkoutRequest(41062), 300ms).failure, "silent");
+    EXPECT_EQ(delayed.send(openRequest(41051), 300ms).failure, "silent");
+    QTcpSocket connected;
+    connected.connectToHost(QHostAddress::LocalHost, port);
+    EXPECT_TRUE(connected.waitForConnected());
     auto idle = newClient();
     EXPECT_EQ(idle.send(openRequest(41052)).status, 200);
     EXPECT_EQ(gateway.end(SIGTERM), 0);

@@ -118,7 +118,13 @@ TEST_F(GatewayReliability, ServesTheNextClientAmongManyThatSayNothing) {
         std::async(std::launch::async, [&] { return newClient().send(openRequest(41052)).status; });
     std::list<HttpsClient> idle;
     for (int number = 0; number < 300; ++number) {
-        EXPECT_EQ(idle.emplace_back(newClient()).connect(number % 10 == 0), CURLE_OK);
+        auto& one = idle.emplace_back(port, folder / "ca.pem");
+        if (number % 10 == 0) {
+            EXPECT_TRUE(one.connectSilently());
+            continue;
+        }
+        one.connectToHost(QHostAddress::LocalHost, port);
+        EXPECT_TRUE(one.waitForConnected());
     }
     EXPECT_EQ(client.send(openRequest(41051)).status, 200);
     // Whoever waits for an answer gets it.
@@ -146,7 +152,7 @@ TEST_F(GatewayReliability, WaitsForAHandleInsteadOfSpinning) {
         return static_cast<int>(used.tv_sec * 1000 + used.tv_nsec / 1'000'000);
     };
     const int before = milliseconds();
-    EXPECT_EQ(client.send(openRequest(41051), 1s).code, CURLE_OPERATION_TIMEDOUT);
+    EXPECT_EQ(client.send(openRequest(41051), 1s).failure, "silent");
     const int taken = milliseconds() - before;
     EXPECT_LT(taken, 50);
     RecordProperty("milliseconds", taken);

@@ -4,6 +4,9 @@
 #include "Gateway/Requests.hpp"
 
 #include <QProcess>
+#include <QRegularExpression>
+#include <QSslConfiguration>
+#include <QSslSocket>
 #include <QTemporaryDir>
 #include <QtTest/qtestsystem.h>
 
@@ -11,11 +14,9 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
-#include <memory>
 #include <string>
 #include <vector>
 
-#include <curl/curl.h>
 #include <gmock/gmock.h>
 
 namespace quillet::gateway {
@@ -50,48 +51,57 @@ struct GatewayProcess : QProcess {
     }
 };
 
-/// The outcome of an exchange.
+/// An answer, and how it ended if not as it should: "cut", "closed" before it began, or "silent".
 struct Exchange {
-    CURLcode code = CURLE_OK;
-    long status = 0;
+    int status = 0;
     std::string body;
+    std::string failure;
 };
 
 /// Sends requests over HTTPS to a port of 127.0.0.1, and trusts one authority. Consecutive requests share a
 /// connection if the server keeps it open.
-class HttpsClient {
+class HttpsClient : public QSslSocket {
 public:
-    HttpsClient(std::uint16_t port, const std::filesystem::path& authority)
-        : address_("://127.0.0.1:" + std::to_string(port)) {
-        set(CURLOPT_CAINFO, authority.c_str());
-        set(CURLOPT_PATH_AS_IS, 1L);
-        set(CURLOPT_PROXY, "");
-        set(CURLOPT_NOSIGNAL, 1L);
-        set(
-            CURLOPT_WRITEFUNCTION, +[](char* data, std::size_t size, std::size_t count, void* body) {
-                static_cast<std::string*>(body)->append(data, size * count);
-                return size * count;
-            });
+    HttpsClient(std::uint16_t port, const std::filesystem::path& authority) : port_(port) {
+        QSslConfiguration trusting = sslConfiguration();
+        trusting.setCaCertificates(QSslCertificate::fromPath(QString::fromStdString(authority)));
+        setSslConfiguration(trusting);
+    }
+
+    /// Connects, up to the end of the TLS handshake, and says nothing.
+    bool connectSilently(int milliseconds = 20'000) {
+        connectToHostEncrypted(QStringLiteral("127.0.0.1"), port_);
+        return waitForEncrypted(milliseconds);
     }
 
     Exchange send(const Request& request, std::chrono::milliseconds deadline = std::chrono::seconds(20)) {
-        curl_slist* headers = nullptr;
+        const auto milliseconds = static_cast<int>(deadline.count());
+        if (!isEncrypted()) {
+            connectSilently(milliseconds);
+        }
+        auto bytes = request.method + ' ' + request.target + " HTTP/1.1\r\n";
         for (const auto& [name, value] : request.headers) {
-            headers = curl_slist_append(headers, (name + ": " + value).c_str());
+            bytes.append(name).append(": ").append(value).append("\r\n");
         }
-        Exchange exchange;
-        set(CURLOPT_URL, ("https" + address_ + request.target).c_str());
-        set(CURLOPT_HTTPHEADER, headers);
-        set(CURLOPT_TIMEOUT_MS, static_cast<long>(deadline.count()));
-        set(CURLOPT_WRITEDATA, &exchange.body);
-        set(CURLOPT_HTTPGET, 1L);
-        if (!request.body.empty()) {
-            set(CURLOPT_COPYPOSTFIELDS, request.body.c_str());
+        bytes += "Content-Length: " + std::to_string(request.body.size()) + "\r\n\r\n" + request.body;
+        write(QByteArray::fromStdString(bytes));
+        QByteArray answer;
+        qsizetype body = 0;
+        const auto isWhole = [&] {
+            static const QRegularExpression length(QStringLiteral("Content-Length: (\\d+)"));
+            body = answer.indexOf("\r\n\r\n") + 4;
+            return body >= 4 && answer.size() - body >= length.match(answer).captured(1).toInt();
+        };
+        while (!isWhole() && waitForReadyRead(milliseconds)) {
+            answer += readAll();
         }
-        set(CURLOPT_CUSTOMREQUEST, request.method.c_str());
-        exchange.code = curl_easy_perform(curl_.get());
-        curl_easy_getinfo(curl_.get(), CURLINFO_RESPONSE_CODE, &exchange.status);
-        curl_slist_free_all(headers);
+        Exchange exchange{answer.mid(9, 3).toInt(), answer.mid(body).toStdString(), {}};
+        if (!isWhole()) {
+            exchange.failure = error() == SocketTimeoutError ? "silent" : answer.isEmpty() ? "closed" : "cut";
+        }
+        if (!isWhole() || answer.contains("Connection: close")) {
+            abort();
+        }
         return exchange;
     }
 
@@ -101,18 +111,8 @@ public:
         return told(exchange.status, exchange.body);
     }
 
-    /// Connects, up to the end of the TLS handshake or without one, and says nothing.
-    CURLcode connect(bool withTls) {
-        set(CURLOPT_URL, ((withTls ? "https" : "http") + address_).c_str());
-        set(CURLOPT_CONNECT_ONLY, 1L);
-        return curl_easy_perform(curl_.get());
-    }
-
 private:
-    void set(CURLoption option, auto value) { curl_easy_setopt(curl_.get(), option, value); }
-
-    std::string address_;
-    std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> curl_{curl_easy_init(), &curl_easy_cleanup};
+    std::uint16_t port_;
 };
 
 /// A gateway that serves from a folder of its own, and a client that trusts it.
