@@ -15,7 +15,6 @@ namespace quillet::gateway {
 
 namespace {
 
-using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
 using GatewayReliability = RunningGateway;
@@ -43,20 +42,20 @@ TEST_F(GatewayReliability, KeepsAnOrderWholeOrNotAtAllWhenItIsKilled) {
     gateway.end(SIGKILL);
     fs::copy_file(file, prepared);
     // Starts the gateway, and kills it when it has answered or this time is over.
-    qint64 taken = 0;
-    const auto checkOut = [&](std::chrono::milliseconds deadline, const std::string& fault) {
+    int taken = 0;
+    const auto checkOut = [&](int deadline, const std::string& fault) {
         GatewayProcess serving({"--data", folder});
-        HttpsClient caller(serving.port(), folder / "ca.pem");
+        const HttpsClient caller{serving.port(), folder / "ca.pem"};
         EXPECT_EQ(caller.send(openRequest(41051)).status, 200);
         Database(file).script(fault);
         QElapsedTimer timer;
         timer.start();
         const auto status = caller.send(checkoutRequest(41051), deadline).status;
-        taken = timer.elapsed();
+        taken = static_cast<int>(timer.elapsed());
         EXPECT_EQ(serving.end(SIGKILL), -1);
         return status;
     };
-    ASSERT_EQ(checkOut(20s, ""), 200);
+    ASSERT_EQ(checkOut(20'000, ""), 200);
     const auto usual = taken;
 
     int kept = 0;
@@ -64,9 +63,9 @@ TEST_F(GatewayReliability, KeepsAnOrderWholeOrNotAtAllWhenItIsKilled) {
     for (int moment = 1; moment <= moments; ++moment) {
         fs::copy_file(prepared, file, fs::copy_options::overwrite_existing);
         // With the answer held back, the later moments come after the order was sent.
-        checkOut(std::chrono::milliseconds(1 + 2 * usual * moment / moments),
+        checkOut(1 + 2 * usual * moment / moments,
                  "INSERT INTO faults VALUES (41051, 'checkout', 'delay', '600000', 1)");
-        const auto again = checkOut(20s, "DELETE FROM faults");
+        const auto again = checkOut(20'000, "DELETE FROM faults");
         EXPECT_THAT(again, ::testing::AnyOf(200, 400));
         kept += again == 400 ? 1 : 0;
         Database database(file);
@@ -100,7 +99,7 @@ TEST_F(GatewayReliability, AnswersThatTheDiskIsFullAndGoesOnOnceItIsNot) {
                      << confined.readAllStandardError().toStdString();
     }
     const auto seen = "/proc/" + std::to_string(confined.processId()) + "/root" + disk.string();
-    HttpsClient caller(itsPort, ca);
+    const HttpsClient caller{itsPort, ca};
     EXPECT_EQ(caller.send(associateRequest(41051, cartOf(41051))).status, 200);
     std::ofstream(seen + "/filling") << std::string(1 << 20, 'x');
     for (int request = 0; request < 12; ++request) {
@@ -114,17 +113,17 @@ TEST_F(GatewayReliability, AnswersThatTheDiskIsFullAndGoesOnOnceItIsNot) {
 
 TEST_F(GatewayReliability, ServesTheNextClientAmongManyThatSayNothing) {
     adjust({"--fault", "consultant=41052 call=open kind=delay value=1000"});
-    auto waiting =
-        std::async(std::launch::async, [&] { return newClient().send(openRequest(41052)).status; });
-    std::list<HttpsClient> idle;
-    for (int number = 0; number < 300; ++number) {
-        auto& one = idle.emplace_back(port, folder / "ca.pem");
-        if (number % 10 == 0) {
-            EXPECT_TRUE(one.connectSilently());
-            continue;
-        }
+    auto waiting = std::async(std::launch::async, [&] { return client.send(openRequest(41052)).status; });
+    std::list<QSslSocket> idle(300);
+    int number = 0;
+    for (QSslSocket& one : idle) {
+        one.setPeerVerifyMode(QSslSocket::VerifyNone);
         one.connectToHost(QHostAddress::LocalHost, port);
         EXPECT_TRUE(one.waitForConnected());
+        if (++number % 10 == 0) {
+            one.startClientEncryption();
+            EXPECT_TRUE(one.waitForEncrypted());
+        }
     }
     EXPECT_EQ(client.send(openRequest(41051)).status, 200);
     // Whoever waits for an answer gets it.
@@ -139,7 +138,7 @@ TEST_F(GatewayReliability, WaitsForAHandleInsteadOfSpinning) {
 #endif
     // By then it has all the handles that it keeps.
     const auto id = static_cast<pid_t>(gateway.processId());
-    ASSERT_EQ(newClient().send(openRequest(41051)).status, 200);
+    ASSERT_EQ(client.send(openRequest(41051)).status, 200);
     rlimit usual{};
     ASSERT_EQ(::prlimit(id, RLIMIT_NOFILE, nullptr, &usual), 0);
     const rlimit none{.rlim_cur = 3, .rlim_max = usual.rlim_max};
@@ -152,7 +151,7 @@ TEST_F(GatewayReliability, WaitsForAHandleInsteadOfSpinning) {
         return static_cast<int>(used.tv_sec * 1000 + used.tv_nsec / 1'000'000);
     };
     const int before = milliseconds();
-    EXPECT_EQ(client.send(openRequest(41051), 1s).failure, "silent");
+    EXPECT_TRUE(client.send(openRequest(41051), 1000).isTimedOut);
     const int taken = milliseconds() - before;
     EXPECT_LT(taken, 50);
     RecordProperty("milliseconds", taken);

@@ -22,18 +22,6 @@ void expectRefused(const Request& request, int status) {
 
 } // namespace
 
-TEST(GatewayRequests, AreTakenAsTheModuleSendsThem) {
-    const auto associate =
-        checkRequest(associateRequest(18446744073709551615u, "a%20b/%C3%B1"), builtInIdentity());
-    ASSERT_TRUE(associate);
-    EXPECT_EQ(associate->cart, "a b/ñ");
-    EXPECT_EQ(associate->consultant, 18446744073709551615u);
-    const auto open = checkRequest(openRequest(0, "C%2FL"), builtInIdentity());
-    ASSERT_TRUE(open);
-    EXPECT_EQ(open->country, "C/L");
-    EXPECT_EQ(open->consultant, 0u);
-}
-
 TEST(GatewayRequests, ThatAreWrongGetAClientErrorWithAllItsKeys) {
     const auto associate = associateRequest(41051, cartOf(41051));
     const auto open = openRequest(41051);

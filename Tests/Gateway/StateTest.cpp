@@ -93,7 +93,7 @@ TEST_F(GatewayState, DecidesAProductsStatusByCatalogueStockAndQuota) {
 
 TEST_F(GatewayState, SendsACartOnceAndCountsItAgainstTheQuota) {
     adjust(parseQuota("70412=3"));
-    EXPECT_EQ(associate(41051, 41051), "200 OPEN");
+    EXPECT_EQ(told(associateRequest(41051, "%34" + cartOf(41051).substr(1))), "200 OPEN");
     EXPECT_EQ(associate(41060, 41051), "422 ERROR_CART_OTHER_CONSULTANT");
     EXPECT_EQ(associate(41051, 41051), "200 OPEN");
     EXPECT_EQ(checkOut(41051), sent);
