@@ -63,7 +63,7 @@ TEST_F(GatewayReliability, KeepsAnOrderWholeOrNotAtAllWhenItIsKilled) {
     for (int moment = 1; moment <= moments; ++moment) {
         fs::copy_file(prepared, file, fs::copy_options::overwrite_existing);
         // With the answer held back, the later moments come after the order was sent.
-        checkOut(1 + 2 * usual * moment / moments,
+        checkOut(1 + 3 * usual * moment / moments,
                  "INSERT INTO faults VALUES (41051, 'checkout', 'delay', '600000', 1)");
         const auto again = checkOut(20'000, "DELETE FROM faults");
         EXPECT_THAT(again, ::testing::AnyOf(200, 400));

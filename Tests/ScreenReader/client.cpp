@@ -50,30 +50,15 @@ std::vector<Element> childrenOf(const Element& element) {
     return children;
 }
 
-/// The states that a person is told of.
 std::string statesOf(const Element& element) {
-    static const struct {
-        AtspiStateType state;
-        bool told;
-        const char* name;
-    } known[] = {
-        // clang-format off
-        {ATSPI_STATE_FOCUSED, true, ", focused"},
-        {ATSPI_STATE_EXPANDABLE, true, ", expandable"},
-        {ATSPI_STATE_EXPANDED, true, ", expanded"},
-        {ATSPI_STATE_SELECTED, true, ", selected"},
-        {ATSPI_STATE_CHECKED, true, ", checked"},
-        {ATSPI_STATE_PRESSED, true, ", pressed"},
-        {ATSPI_STATE_BUSY, true, ", busy"},
-        {ATSPI_STATE_MODAL, true, ", modal"},
-        {ATSPI_STATE_ENABLED, false, ", disabled"},
-        {ATSPI_STATE_SHOWING, false, ", hidden"},
-        // clang-format on
-    };
     const auto set = owned(atspi_accessible_get_state_set(element.get()));
+    const std::unique_ptr<GArray, decltype(&g_array_unref)> held(atspi_state_set_get_states(set.get()),
+                                                                 &g_array_unref);
+    auto* const names = static_cast<GEnumClass*>(g_type_class_ref(ATSPI_TYPE_STATE_TYPE));
     std::string states;
-    for (const auto& [state, told, name] : known) {
-        states += set && (atspi_state_set_contains(set.get(), state) == TRUE) == told ? name : "";
+    for (guint i = 0; i < held->len; ++i) {
+        states += std::string(", ") +
+                  g_enum_get_value(names, g_array_index(held.get(), AtspiStateType, i))->value_nick;
     }
     return states;
 }
