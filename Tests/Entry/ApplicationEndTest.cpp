@@ -1,7 +1,7 @@
 #include "Platform/Screens/MainQueuePump.hpp"
 #include "Quillet/Platform/MainQueue.hpp"
+#include "Support/ListeningPort.hpp"
 #include "Support/ModuleTest.hpp"
-#include "Support/SilentPort.hpp"
 
 #include <KelCommon/KelLocalized.hpp>
 
@@ -70,7 +70,7 @@ struct Module final : ModuleTest {
     void TestBody() override {}
 
     void reach(Step step) {
-        const SilentPort silence;
+        const ListeningPort silence;
         if (step == Step::underWayOverTheNetwork) {
             const std::string gateway = Starter::create("", "", {}, nullptr)->domainUrl();
             platform::URLSessionConfiguration::setDefaultConfiguration(
