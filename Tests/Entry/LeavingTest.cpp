@@ -1,6 +1,14 @@
+#include "Support/Thorough.hpp"
 #include "Targets.hpp"
 
+#include <QGuiApplication>
 #include <QPointer>
+
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
+
+#include <cstdlib>
 
 namespace quillet::testing {
 
@@ -12,7 +20,7 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-/// The host does away with the module, or with its delegate.
+/// The host does away with the module, with its delegate, or with the application.
 struct Leaving : AtTargets, ::testing::WithParamInterface<std::string> {
     /// Calls that are on their way.
     [[nodiscard]] std::vector<Target> calls() const {
@@ -58,16 +66,50 @@ struct Leaving : AtTargets, ::testing::WithParamInterface<std::string> {
 
     void leave(const Target& target, bool isAnswerQueued) {
         SCOPED_TRACE(target.name + std::string(isAnswerQueued ? ", answered" : ""));
-        ASSERT_NO_FATAL_FAILURE(reach(target));
+        if (endsApplication) {
+            GTEST_FLAG_SET(death_test_style, "threadsafe");
+            EXPECT_EXIT(endApplication(target, isAnswerQueued), ::testing::ExitedWithCode(EXIT_SUCCESS), "");
+        } else {
+            leaveThere(target, isAnswerQueued);
+        }
+    }
+
+    /// Whether a dialog that was tapped is still fading then.
+    bool goThere(const Target& target, bool isAnswerQueued) {
+        reach(target);
         if (isAnswerQueued) {
             backend->clock()->advance(seconds(5));
         }
-        // A dialog that was tapped is still fading then.
         const bool isDialog = stage->shows(closeIcon);
         if (isDialog) {
             stage->clickAt(place(target.tapped));
         }
         log->clear();
+        return isDialog;
+    }
+
+    /// Ends the process with 0 where nothing is told to anybody after the end of the application. A process
+    /// may also be left without any end of it, as exit() does.
+    [[noreturn]] void endApplication(const Target& target, bool isAnswerQueued) {
+#ifdef __SANITIZE_ADDRESS__
+        // What exit() leaves behind is no leak, and much of it is reachable from QML's heap alone.
+        if (GetParam() == "Exit") {
+            __lsan_disable();
+        }
+#endif
+        const auto neverShown = Starter::create("token", "idp", {}, host)->createRootViewController();
+        goThere(target, isAnswerQueued);
+        if (GetParam() == "Application") {
+            stage.reset();
+            qApp->~QCoreApplication();
+        }
+        backend->clock()->advance(seconds(60));
+        std::exit(log->empty() && !HasFailure() ? EXIT_SUCCESS : EXIT_FAILURE);
+    }
+
+    void leaveThere(const Target& target, bool isAnswerQueued) {
+        const bool isDialog = goThere(target, isAnswerQueued);
+        ASSERT_FALSE(HasFatalFailure());
         const std::size_t requests = backend->requests().size();
         end();
         backend->clock()->advance(seconds(5));
@@ -88,23 +130,33 @@ struct Leaving : AtTargets, ::testing::WithParamInterface<std::string> {
 
     const bool isMoving = GetParam() == "Page";
     const bool leaves = GetParam() != "Delegate";
+    const bool endsApplication = GetParam() == "Application" || GetParam() == "Exit";
     QPointer<QObject> page;
 };
 
 } // namespace
 
 TEST_P(Leaving, EndsAtOnceWhateverIsOnItsWay) {
+    std::vector<std::pair<Target, bool>> cases;
     for (const Target& call : calls()) {
-        ASSERT_NO_FATAL_FAILURE(leave(call, false));
-        ASSERT_NO_FATAL_FAILURE(leave(call, true));
+        cases.insert(cases.end(), {{call, false}, {call, true}});
     }
     for (const Target& target : targets()) {
-        ASSERT_NO_FATAL_FAILURE(leave(target, false));
+        cases.emplace_back(target, false);
     }
-    RecordProperty("cases", static_cast<int>(2 * calls().size() + targets().size()));
+    if (endsApplication) {
+        cases.emplace_back(Target{"over the network", {}, {}, {}, {}, 0, false, true}, false);
+    }
+    // A process takes its time.
+    const std::size_t step = endsApplication ? thorough(3, 1) : 1;
+    for (std::size_t i = 0; i < cases.size(); i += step) {
+        ASSERT_NO_FATAL_FAILURE(leave(cases[i].first, cases[i].second));
+    }
+    RecordProperty("cases", static_cast<int>((cases.size() + step - 1) / step));
 }
 
-INSTANTIATE_TEST_SUITE_P(, Leaving, ::testing::Values("Page", "AllPages", "Window", "Delegate"),
+INSTANTIATE_TEST_SUITE_P(, Leaving,
+                         ::testing::Values("Page", "AllPages", "Window", "Delegate", "Application", "Exit"),
                          [](const auto& parameter) { return parameter.param; });
 
 } // namespace quillet::testing

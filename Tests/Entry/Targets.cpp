@@ -1,5 +1,7 @@
 #include "Targets.hpp"
 
+#include "Support/ListeningPort.hpp"
+
 namespace quillet::testing {
 
 std::vector<Target> AtTargets::targets() const {
@@ -40,6 +42,12 @@ void AtTargets::reach(const Target& target) {
     stage = stage ? std::move(stage) : std::make_shared<Stage>();
     for (const auto& [call, replies] : target.replies) {
         backend->script(call, replies);
+    }
+    if (target.isOverTheNetwork) {
+        static const ListeningPort silence;
+        const std::string gateway = Starter::create("", "", {}, nullptr)->domainUrl();
+        platform::URLSessionConfiguration::setDefaultConfiguration(
+            {.hostMappings = {{gateway, "127.0.0.1", silence.port()}}});
     }
     stage->popAll();
     // High enough for all of a result.

@@ -17,6 +17,8 @@ struct Target {
     std::size_t requests;
     /// Whether every tap counts, each with the next line.
     bool isSwitch = false;
+    /// Whether a port that says nothing takes the back end's place.
+    bool isOverTheNetwork = false;
 };
 
 /// Tests that do something at each place where a person can.
