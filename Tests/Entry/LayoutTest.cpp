@@ -18,12 +18,7 @@ using Look = std::function<void(const QQuickItem&, const QRectF&)>;
 
 /// Of a text, where it is drawn.
 QRectF placeOf(const QQuickItem& item) {
-    const QVariant drawn = item.property("contentWidth");
-    const double width = item.property("lineCount").isValid() ? drawn.toDouble() : item.width();
-    const int alignment = item.property("effectiveHorizontalAlignment").toInt();
-    const double room = item.width() - width;
-    const double x = alignment == Qt::AlignRight ? room : alignment == Qt::AlignHCenter ? room / 2 : 0;
-    return item.mapRectToScene(QRectF(x, 0, width, item.height()));
+    return item.mapRectToScene(item.boundingRect());
 }
 
 /// Goes through all that is visible, with the part of the window in which it is seen.
