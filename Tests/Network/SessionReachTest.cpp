@@ -1,5 +1,4 @@
 #include "Network/SessionTest.hpp"
-#include "Support/FakeNetworkPath.hpp"
 #include "Support/ListeningPort.hpp"
 
 #include <gtest/gtest.h>
@@ -23,7 +22,7 @@ struct SessionReach : SessionTest {};
 } // namespace
 
 TEST_F(SessionReach, AsksForANetworkOnlyWhereTheHostIsNotReached) {
-    const auto path = std::make_shared<FakeNetworkPath>([](const std::string& host, bool) {
+    const auto path = std::make_shared<FakeNetworkPath>([](const std::string& host) {
         return host == noName ? throw std::bad_alloc() : host != gatewayHost;
     });
     configuration.networkPath = path;
@@ -52,7 +51,7 @@ TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
     const auto port = dead->port();
     std::unique_ptr<FaultServer> late;
     int failures = 0;
-    configuration.networkPath = std::make_shared<FakeNetworkPath>([&](const std::string&, bool) {
+    configuration.networkPath = std::make_shared<FakeNetworkPath>([&](auto&) {
         if (++failures == 2) {
             dead.reset();
             late = std::make_unique<FaultServer>(authority.serverContext(gatewayHost), ServerPlace{port});
@@ -76,7 +75,7 @@ TEST_F(SessionReach, TriesAnewToConnectForAsLongAsTheCallHasTime) {
 TEST_F(SessionReach, KeepsAConnectionThatIsSlowToSpeak) {
     const ListeningPort slow;
     const DeadPort dead;
-    const auto path = std::make_shared<FakeNetworkPath>(true);
+    const auto path = std::make_shared<FakeNetworkPath>();
     configuration.hostMappings[0].port = slow.port();
     configuration.hostMappings.push_back({"dead.test", "127.0.0.1", dead.port()});
     configuration.networkPath = path;
@@ -101,7 +100,7 @@ TEST_F(SessionReach, TrustsTheAuthoritiesOfTheFileAloneOrElseTheSystems) {
 TEST_F(SessionReach, ReachesAMappedHostPastTheProxyOfTheEnvironment) {
     server.enqueue(Answer::complete(200, "{}"));
     configuration.hostMappings[0].host = "GATEWAY.test";
-    configuration.networkPath = std::make_shared<FakeNetworkPath>(true);
+    configuration.networkPath = std::make_shared<FakeNetworkPath>();
     setenv("https_proxy", "http://127.0.0.1:1", 1);
     EXPECT_EQ(errorOf(platform::URLSession(configuration)), Code());
     EXPECT_EQ(errorOf(platform::URLSession(configuration), "unmapped.test"), cannotConnectToHost);

@@ -1,6 +1,5 @@
 #include "Network/SessionTest.hpp"
 #include "Quillet/Testing/ScriptedBackend.hpp"
-#include "Support/FakeNetworkPath.hpp"
 
 #include <gtest/gtest.h>
 
@@ -39,7 +38,7 @@ TEST_F(SessionTest, RunsAStartedCallToItsEndAndThenEndsItsThread) {
                         gate->wait();
                     }});
     std::promise<void> freed;
-    configuration.networkPath = {new FakeNetworkPath(true), [&](const FakeNetworkPath* path) {
+    configuration.networkPath = {new FakeNetworkPath, [&](const FakeNetworkPath* path) {
                                      delete path;
                                      freed.set_value();
                                  }};

@@ -1,5 +1,4 @@
 #include "Network/SessionTest.hpp"
-#include "Support/FakeNetworkPath.hpp"
 #include "Support/ListeningPort.hpp"
 
 #include <gtest/gtest.h>
@@ -54,7 +53,7 @@ TEST_F(SessionTime, IsSixtySecondsOfSilenceBeforeTlsAndOfAttemptsToConnect) {
     startPost();
     expectTimeOutAfter(60s);
     const DeadPort dead;
-    const auto path = std::make_shared<FakeNetworkPath>(true);
+    const auto path = std::make_shared<FakeNetworkPath>();
     configuration.hostMappings[0].port = dead.port();
     configuration.networkPath = path;
     EXPECT_EQ(std::exchange(configuration.connectTimeout, 20ms), 15s);

@@ -35,6 +35,24 @@ public:
     }
 };
 
+/// A network path that is there, unless the test answers otherwise.
+class FakeNetworkPath final : public platform::NetworkPathMonitoring {
+public:
+    using Answer = std::function<bool(const std::string& host)>;
+    explicit FakeNetworkPath(Answer answer = [](auto&) { return true; }) : answer_(std::move(answer)) {}
+
+    [[nodiscard]] bool isSatisfied(const std::string& host, bool isMapped) const override {
+        asked.record({host + (isMapped ? " mapped" : "")});
+        return answer_(host);
+    }
+
+    /// The hosts asked about.
+    mutable Recorder<std::string> asked;
+
+private:
+    Answer answer_;
+};
+
 /// The beginnings and ends of calls, numbered from the first one on.
 class TrafficLog final : public platform::URLSessionObserving {
 public:
