@@ -95,8 +95,8 @@ TEST_P(SessionPlace, TellsWhereACallFails) {
         if (std::system(inPlace({"Any", "", link}, "--gtest_list_tests >/dev/null").c_str()) != 0) {
             GTEST_SKIP() << "This machine lets no process have a network of its own.";
         }
-        const std::string itself = "--gtest_brief=1 --gtest_filter=*/" + place.name;
-        EXPECT_EQ(std::system(inPlace(place, itself).c_str()), 0);
+        const std::string alone = "--gtest_brief=1 --gtest_filter=*/" + place.name;
+        EXPECT_EQ(std::system(inPlace(place, alone).c_str()), 0);
         return;
     }
     FaultServer there(authority.serverContext(gatewayHost), place.server);
