@@ -1,10 +1,6 @@
-#include "KelCommon/KelLocalized.hpp"
-#include "Language.hpp"
 #include "Options.hpp"
 #include "PhoneArea.hpp"
 #include "Play/PlayScript.hpp"
-
-#include <QGuiApplication>
 
 #include <gtest/gtest.h>
 
@@ -90,15 +86,6 @@ TEST(PlayScript, NamesTheLineAndWhatIsWrongWithIt) {
         EXPECT_EQ(play.error().toStdString(), "p, line 2: " + complaint);
     }
     EXPECT_EQ(parsePlay("p", "# nothing but a comment\n").error(), "p has no steps");
-}
-
-// What its texts are, the descriptions of the screens tell.
-TEST(Language, RunsFromRightToLeftWhereItsTextsDo) {
-    for (const auto& [code, direction] : {std::pair("xb", Qt::RightToLeft), {"es", Qt::LeftToRight}}) {
-        useLanguage(code);
-        EXPECT_EQ(QGuiApplication::layoutDirection(), direction) << code;
-    }
-    kel::setHostTexts({});
 }
 
 TEST(PhoneArea, HasLiveBesideItWhereTheDesktopHasRoom) {

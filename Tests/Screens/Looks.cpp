@@ -9,7 +9,6 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <map>
 #include <optional>
 #include <ranges>
 #include <utility>
@@ -153,21 +152,18 @@ void collect(QQuickItem& item, double opacity, Element& ground) {
     if (!item.isVisible() || opacity == 0) {
         return;
     }
-    // From bottom to top, as they are painted: those below zero lie under the item itself, and of the same
-    // height the later one is above.
-    std::multimap<double, QQuickItem*> children;
-    for (QQuickItem* child : item.childItems()) {
-        children.emplace(child->z(), child);
+    // From bottom to top, as they are painted: of the same height the later one is above, and those below
+    // zero lie under the item itself.
+    QList<QQuickItem*> parts = item.childItems();
+    std::ranges::stable_sort(parts, {}, &QQuickItem::z);
+    parts.insert(std::ranges::lower_bound(parts, 0, {}, &QQuickItem::z), &item);
+    for (QQuickItem* part : parts) {
+        if (part != &item) {
+            collect(*part, opacity, ground);
+        } else if (auto element = describe(item, opacity)) {
+            put(ground, *std::move(element));
+        }
     }
-    const auto above = children.lower_bound(0);
-    const auto collectAll = [&](auto first, auto last) {
-        std::for_each(first, last, [&](const auto& child) { collect(*child.second, opacity, ground); });
-    };
-    collectAll(children.begin(), above);
-    if (auto element = describe(item, opacity)) {
-        put(ground, *std::move(element));
-    }
-    collectAll(above, children.end());
 }
 
 bool areInOneRow(const Element& one, const Element& other) {
