@@ -48,17 +48,16 @@ inline Request associateRequest(std::uint64_t consultant, const std::string& car
                    R"({"consultant":{"id":)" + std::to_string(consultant) + "}}");
 }
 
+inline std::string cartsOf(std::uint64_t consultant, const std::string& country) {
+    return "/quillet-bff/consultants/" + country + "/" + std::to_string(consultant) + "/sell-out-carts";
+}
+
 inline Request openRequest(std::uint64_t consultant, const std::string& country = "CL") {
-    return request("GET",
-                   "/quillet-bff/consultants/" + country + "/" + std::to_string(consultant) +
-                       "/sell-out-carts?status=OPEN",
-                   {{"Accept", "application/json"}});
+    return request("GET", cartsOf(consultant, country) + "?status=OPEN", {{"Accept", "application/json"}});
 }
 
 inline Request checkoutRequest(std::uint64_t consultant, const std::string& country = "CL") {
-    return request("POST",
-                   "/quillet-bff/consultants/" + country + "/" + std::to_string(consultant) +
-                       "/sell-out-carts/checkout",
+    return request("POST", cartsOf(consultant, country) + "/checkout",
                    {{"Accept", "application/json"}, {"Authorization-Provider", "sales-app"}});
 }
 

@@ -63,50 +63,48 @@ std::string statesOf(const Element& element) {
     return states;
 }
 
-void write(const Element& element, const std::string& indent, std::string& text) {
-    const std::string name = nameOf(element);
-    const std::string description = taken(atspi_accessible_get_description(element.get(), nullptr));
-    text += indent + taken(atspi_accessible_get_role_name(element.get(), nullptr));
-    text += name.empty() ? "" : " \"" + name + '"';
-    text += description.empty() ? "" : " (" + description + ')';
-    text += statesOf(element) + '\n';
+/// The element and all that is in it, each with how deep it lies.
+void collect(const Element& element, std::size_t depth, std::vector<std::pair<std::size_t, Element>>& all) {
+    all.emplace_back(depth, element);
     for (const Element& child : childrenOf(element)) {
-        write(child, indent + "  ", text);
+        collect(child, depth + 1, all);
     }
 }
 
-std::vector<Element> windowsOf(const std::string& program) {
+/// The windows of the program, and all that is in them.
+std::vector<std::pair<std::size_t, Element>> elementsOf(const std::string& program) {
     const Element desktop = owned(atspi_get_desktop(0));
     atspi_accessible_clear_cache(desktop.get());
+    std::vector<std::pair<std::size_t, Element>> all;
     for (const Element& one : childrenOf(desktop)) {
         if (nameOf(one) == program) {
-            return childrenOf(one);
+            for (const Element& window : childrenOf(one)) {
+                collect(window, 0, all);
+            }
         }
     }
-    return {};
+    return all;
 }
 
 std::string textOf(const std::string& program) {
     std::string text;
-    for (const Element& window : windowsOf(program)) {
-        write(window, "", text);
+    for (const auto& [depth, element] : elementsOf(program)) {
+        const std::string name = nameOf(element);
+        const std::string description = taken(atspi_accessible_get_description(element.get(), nullptr));
+        text += std::string(2 * depth, ' ') + taken(atspi_accessible_get_role_name(element.get(), nullptr));
+        text += name.empty() ? "" : " \"" + name + '"';
+        text += description.empty() ? "" : " (" + description + ')';
+        text += statesOf(element) + '\n';
     }
     return text;
 }
 
-/// Presses the first of these, or of what is in them, that has this name and can be pressed.
-bool pressAmong(const std::vector<Element>& elements, const std::string& name) {
-    for (const Element& element : elements) {
+/// Presses the first element that has this name and can do something, of which a press is the first.
+bool press(const std::string& program, const std::string& name) {
+    for (const auto& [depth, element] : elementsOf(program)) {
         const auto action = owned(atspi_accessible_get_action_iface(element.get()));
-        const int count =
-            action && nameOf(element) == name ? atspi_action_get_n_actions(action.get(), nullptr) : 0;
-        for (int i = 0; i < count; ++i) {
-            if (taken(atspi_action_get_action_name(action.get(), i, nullptr)) == "Press") {
-                return atspi_action_do_action(action.get(), i, nullptr) == TRUE;
-            }
-        }
-        if (pressAmong(childrenOf(element), name)) {
-            return true;
+        if (action && nameOf(element) == name) {
+            return atspi_action_do_action(action.get(), 0, nullptr) == TRUE;
         }
     }
     return false;
@@ -126,7 +124,7 @@ bool waitUntil(const std::function<bool()>& condition) {
 
 bool perform(const std::string& program, const std::string& step, const std::string& object) {
     if (step == "press") {
-        return waitUntil([&] { return pressAmong(windowsOf(program), object); });
+        return waitUntil([&] { return press(program, object); });
     }
     std::ifstream file(object);
     const std::string expected(std::istreambuf_iterator<char>(file), {});

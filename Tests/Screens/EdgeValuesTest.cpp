@@ -2,10 +2,6 @@
 #include "Kept.hpp"
 #include "Named.hpp"
 
-#include <gtest/gtest.h>
-
-#include <ostream>
-
 namespace demo::testing {
 
 namespace {
@@ -23,8 +19,6 @@ struct EdgeValue {
     std::optional<Edits> openOrders;
     /// Of a checkout, whose result is what is described then.
     Edits checkout = {};
-
-    friend void PrintTo(const EdgeValue& one, std::ostream* stream) { *stream << one.name; }
 };
 
 const char* const cycle = R"("cycle":{"code":202605)";
@@ -80,24 +74,19 @@ Reply edited(Call call, const std::optional<Edits>& edits) {
     return {.body = body.toStdString()};
 }
 
-struct EdgeValues : ::testing::TestWithParam<EdgeValue> {};
-
 } // namespace
 
-TEST_P(EdgeValues, AreHeardAsTheyAreDescribed) {
-    const auto& [name, association, openOrders, checkout] = GetParam();
-    GalleryScreen screen = galleryScreen(checkout.empty() ? "summary" : "some-sent");
-    screen.replies = {{Call::associate, edited(Call::associate, association)},
-                      {Call::getOpenOrders, edited(Call::getOpenOrders, openOrders)},
-                      {Call::checkout, edited(Call::checkout, checkout)}};
+TEST(EdgeValues, AreHeardAsTheyAreDescribed) {
     GalleryStage stage;
-    const auto opened = stage.open(screen, {390, 1500});
-    ASSERT_TRUE(opened) << opened.error().toStdString();
-    expectKept(QStringLiteral("edge.") + name, heardOf(*stage.host().window()));
+    for (const auto& [name, association, openOrders, checkout] : edgeValues()) {
+        GalleryScreen screen = galleryScreen(checkout.empty() ? "summary" : "some-sent");
+        screen.replies = {{Call::associate, edited(Call::associate, association)},
+                          {Call::getOpenOrders, edited(Call::getOpenOrders, openOrders)},
+                          {Call::checkout, edited(Call::checkout, checkout)}};
+        const auto opened = stage.open(screen, {390, 1500});
+        ASSERT_TRUE(opened) << name << ": " << opened.error().toStdString();
+        expectKept(QStringLiteral("edge.") + name, heardOf(*stage.host().window()));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(All, EdgeValues, ::testing::ValuesIn(edgeValues()), [](const auto& instance) {
-    return QString(instance.param.name).remove(u'-').toStdString();
-});
 
 } // namespace demo::testing

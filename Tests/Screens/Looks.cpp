@@ -2,6 +2,7 @@
 
 #include "KelDS/KelDS.hpp"
 #include "KelDS/KelIcons.hpp"
+#include "Play/Items.hpp"
 #include "Views/ProgressIndicatorCircular/ProgressIndicatorItem.hpp"
 
 #include <QMetaEnum>
@@ -44,10 +45,6 @@ QString colorName(const QColor& color) {
         tokens, [&](const char* one) { return theme.property(one).value<QColor>().rgb() == color.rgb(); });
     const QString name = token == tokens.end() ? color.name() : QString::fromLatin1(*token);
     return color.alpha() == 255 ? name : name + QStringLiteral(" %1%").arg(std::lround(100 * color.alphaF()));
-}
-
-bool has(const QQuickItem& item, const char* property) {
-    return item.metaObject()->indexOfProperty(property) >= 0;
 }
 
 QString sizeOf(const QRectF& place) {
@@ -109,7 +106,7 @@ QString describedBox(QQuickItem& item, double opacity) {
 }
 
 std::optional<Element> describe(QQuickItem& item, double opacity) {
-    const QRectF place = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
+    const QRectF place = sceneRect(item);
     if (const auto* ring = qobject_cast<quillet::ProgressIndicatorItem*>(&item)) {
         const auto& arc = *ring->indicator()->semiCircleLayer();
         return Element{QStringLiteral("ring %1, %2, %3 thick")
@@ -152,10 +149,8 @@ void collect(QQuickItem& item, double opacity, Element& ground) {
     if (!item.isVisible() || opacity == 0) {
         return;
     }
-    // From bottom to top, as they are painted: of the same height the later one is above, and those below
-    // zero lie under the item itself.
-    QList<QQuickItem*> parts = item.childItems();
-    std::ranges::stable_sort(parts, {}, &QQuickItem::z);
+    // Those below zero lie under the item itself.
+    QList<QQuickItem*> parts = paintOrder(item);
     parts.insert(std::ranges::lower_bound(parts, 0, {}, &QQuickItem::z), &item);
     for (QQuickItem* part : parts) {
         if (part != &item) {
@@ -200,7 +195,7 @@ void write(std::vector<Element> elements, int depth, QStringList& lines) {
 } // namespace
 
 QStringList looksOf(QQuickItem& item) {
-    Element all{{}, item.mapRectToScene(QRectF(0, 0, item.width(), item.height())), true};
+    Element all{{}, sceneRect(item), true};
     collect(item, 1, all);
     QStringList lines;
     write(std::move(all.above), 0, lines);

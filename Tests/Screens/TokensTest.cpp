@@ -50,6 +50,7 @@ TEST(Tokens, HaveTheColorsOfTheirTheme) {
 }
 
 TEST(Tokens, HaveTheirMeasures) {
+    kel::KelAppearance::current().setReducedMotion(false);
     QStringList lines = valuesOf<kel::KelSpacing>() + valuesOf<kel::KelSizes>() +
                         valuesOf<kel::KelBorderRadius>() + valuesOf<kel::KelOpacity>() +
                         valuesOf<kel::KelMotion>();

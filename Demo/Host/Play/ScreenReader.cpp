@@ -1,5 +1,7 @@
 #include "Play/ScreenReader.hpp"
 
+#include "Play/Items.hpp"
+
 #include <QAccessible>
 #include <QQuickWindow>
 
@@ -16,34 +18,12 @@ namespace {
 /// Elements whose centres are vertically closer than this are on one line.
 constexpr double line = 8;
 
-// Maps with equal keys keep the order in which these came, and unlike a stable sort need no temporary buffer,
-// which libstdc++ 12 takes from a function that Clang warns of.
-
-/// Children from bottom to top, as they are painted.
-QList<QQuickItem*> paintOrder(const QQuickItem& item) {
-    std::multimap<double, QQuickItem*> byHeight;
-    for (QQuickItem* child : item.childItems()) {
-        byHeight.emplace(child->z(), child);
-    }
-    const auto children = byHeight | std::views::values;
-    return {children.begin(), children.end()};
-}
-
-/// QML's own types have no public C++ class, so they are recognised by a property that only they have.
-bool has(const QQuickItem& item, const char* property) {
-    return item.metaObject()->indexOfProperty(property) >= 0;
-}
-
 bool drawn(const QQuickItem& item) {
     double opacity = 1;
     for (const QQuickItem* i = &item; i; i = i->parentItem()) {
         opacity *= i->opacity();
     }
     return item.isVisible() && opacity > 0;
-}
-
-QRectF sceneRect(const QQuickItem& item) {
-    return item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
 }
 
 /// What the window and every clipping ancestor leave of it for the item to be seen in.
@@ -135,7 +115,7 @@ QList<QQuickItem*> ScreenReader::items() const {
 }
 
 QList<ScreenElement> ScreenReader::elements() const {
-    // By line, then from left to right.
+    // By line, then from left to right; equal ones keep the order in which they came.
     std::multimap<std::pair<double, double>, ScreenElement> inReadingOrder;
     for (QQuickItem* item : items()) {
         const QString name = drawn(*item) ? accessibleName(*item) : QString();
