@@ -46,8 +46,8 @@ bool write(const QImage& picture, const QString& file) {
     return picture.convertToFormat(QImage::Format_RGB888).save(file, "png", 0);
 }
 
-QImage kept(const QString& name) {
-    return QImage(QStringLiteral(QUILLET_KEPT_PICTURES "/%1.png").arg(name));
+QString fileOf(const QString& name) {
+    return QStringLiteral(QUILLET_KEPT_PICTURES "/%1.png").arg(name);
 }
 
 /// Compares a picture with the one kept in Expected under this name, and fails where they differ. The actual
@@ -55,23 +55,25 @@ QImage kept(const QString& name) {
 /// picture instead, and the test counts as skipped.
 void expectKept(const QString& name, const QImage& picture) {
     if (qEnvironmentVariableIsSet("QUILLET_RENEW_PICTURES")) {
-        ASSERT_TRUE(write(picture, QStringLiteral(QUILLET_KEPT_PICTURES "/%1.png").arg(name)));
+        ASSERT_TRUE(write(picture, fileOf(name)));
         GTEST_SKIP() << "renewed";
     }
-    const QRect place = difference(kept(name), picture);
+    const QImage expected(fileOf(name));
+    const QRect place = difference(expected, picture);
     if (place.isEmpty()) {
         return;
     }
     QImage marked = picture.copy();
     QPainter painter(&marked);
     painter.setCompositionMode(QPainter::CompositionMode_Difference);
-    painter.drawImage(0, 0, kept(name));
+    painter.drawImage(0, 0, expected);
     painter.end();
     const QString left = QStringLiteral(QUILLET_PICTURE_DIFFERENCES "/") + name;
     EXPECT_TRUE(QDir().mkpath(QUILLET_PICTURE_DIFFERENCES) && write(picture, left + ".actual.png") &&
                 write(marked, left + ".difference.png"));
     QString message;
-    QDebug(&message) << "It differs within" << place << "from what is kept, as shown by" << left + ".*.png";
+    QDebug(&message) << "It differs within" << place << "from" << fileOf(name) << "as shown by"
+                     << left + ".*.png";
     ADD_FAILURE() << message.toStdString();
 }
 
@@ -97,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(All, Pictures, ::testing::ValuesIn(keptNames(QUILLET_KE
                          testName);
 
 TEST(Comparison, SeesALostIconAndAnotherTone) {
-    const QImage picture = kept("summary.light.100.390x844");
+    const QImage picture(fileOf("summary.light.100.390x844"));
     const std::tuple<QRect, QColor, QRect> changes[] = {
         {{20, 500, 7, 7}, "#6b6862", {16, 496, 16, 16}},
         {{64, 640, 64, 64}, "#e6e4df", {64, 640, 64, 64}},

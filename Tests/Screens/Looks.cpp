@@ -176,11 +176,7 @@ void write(std::vector<Element> elements, int depth, QStringList& lines) {
     std::optional<Element> previous;
     while (!elements.empty()) {
         // To be beside another is not transitive, so this is no sort.
-        const auto first = std::ranges::find_if(elements, [&](const Element& one) {
-            return std::ranges::none_of(elements,
-                                        [&](const Element& other) { return comesBefore(other, one); });
-        });
-        const auto next = first == elements.end() ? elements.begin() : first;
+        const auto next = std::ranges::min_element(elements, comesBefore);
         const bool goesOn = previous && areInOneRow(*previous, *next);
         lines << QString(2 * depth, u' ') + (goesOn ? "+ " : "- ") + next->line;
         if (next->isGround && !holdsText(*next)) {
