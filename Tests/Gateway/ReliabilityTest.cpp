@@ -58,23 +58,19 @@ TEST_F(GatewayReliability, KeepsAnOrderWholeOrNotAtAllWhenItIsKilled) {
     ASSERT_EQ(checkOut(20'000, ""), 200);
     const auto usual = taken;
 
-    int kept = 0;
     const auto moments = static_cast<int>(quillet::testing::thorough(6, 60));
     for (int moment = 1; moment <= moments; ++moment) {
         fs::copy_file(prepared, file, fs::copy_options::overwrite_existing);
         // With the answer held back, the later moments come after the order was sent.
         checkOut(1 + 3 * usual * moment / moments,
                  "INSERT INTO faults VALUES (41051, 'checkout', 'delay', '600000', 1)");
-        const auto again = checkOut(20'000, "DELETE FROM faults");
-        EXPECT_THAT(again, ::testing::AnyOf(200, 400));
-        kept += again == 400 ? 1 : 0;
+        EXPECT_THAT(checkOut(20'000, "DELETE FROM faults"), ::testing::AnyOf(200, 400));
         Database database(file);
         auto state = database.query(stateOfLargeOrder);
         ASSERT_TRUE(state.next());
         EXPECT_EQ(state.text(0), "SUBMITTED, 42 lines in 1, 120 left") << "killed at moment " << moment;
     }
     RecordProperty("cases", moments);
-    RecordProperty("kept", kept);
 }
 
 TEST_F(GatewayReliability, AnswersThatTheDatabaseIsLockedAndGoesOnOnceItIsNot) {
@@ -152,9 +148,7 @@ TEST_F(GatewayReliability, WaitsForAHandleInsteadOfSpinning) {
     };
     const int before = milliseconds();
     EXPECT_TRUE(client.send(openRequest(41051), 1000).isTimedOut);
-    const int taken = milliseconds() - before;
-    EXPECT_LT(taken, 50);
-    RecordProperty("milliseconds", taken);
+    EXPECT_LT(milliseconds() - before, 50);
     ASSERT_EQ(::prlimit(id, RLIMIT_NOFILE, &usual, nullptr), 0);
     EXPECT_EQ(client.send(openRequest(41051)).status, 200);
 }

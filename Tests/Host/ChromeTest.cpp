@@ -1,16 +1,14 @@
 #include "HostWindow.hpp"
 
 #include "KelDS/KelMeasures.hpp"
+#include "Play/Items.hpp"
 
 namespace demo::testing {
 
 namespace {
 
 struct Chrome : HostWindow {
-    [[nodiscard]] QRectF place(const char* name) const { return placeOf(item(name)); }
-    [[nodiscard]] QRectF placeOf(const QQuickItem& item) const {
-        return item.mapRectToItem(host->phone(), QRectF(0, 0, item.width(), item.height()));
-    }
+    [[nodiscard]] QRectF place(const char* name) const { return sceneRect(item(name)); }
     [[nodiscard]] QQuickItem& page() const { return *stack().property("currentItem").value<QQuickItem*>(); }
     [[nodiscard]] bool rests() const { return settle() && page().x() == 0 && page().opacity() == 1; }
 };
