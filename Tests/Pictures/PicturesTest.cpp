@@ -1,8 +1,10 @@
 #include "Gallery/GalleryStage.hpp"
+#include "KelDS/KelDS.hpp"
 #include "PhoneSize.hpp"
 #include "Screens/Named.hpp"
 
 #include <QPainter>
+#include <QRawFont>
 
 namespace demo::testing {
 
@@ -21,7 +23,7 @@ int distance(QColor one, QColor other) {
 }
 
 /// Where two pictures differ as a person would see it; empty if they do not. Another version of Qt draws the
-/// edges of letters differently and may move them by a pixel, which counts as no difference.
+/// edges of letters differently, which counts as no difference.
 QRect difference(const QImage& expected, const QImage& actual) {
     QRect place = expected.size() == actual.size() ? QRect() : actual.rect();
     for (const auto& [side, tolerance] : scales) {
@@ -84,6 +86,11 @@ struct Pictures : ::testing::TestWithParam<std::string> {};
 } // namespace
 
 TEST_P(Pictures, LookAsTheyAreKept) {
+    // Another version of the font has other widths, with which words move and lines break elsewhere.
+    const auto font = kel::KelFonts::font(kel::KelFonts::Body1, kel::KelFonts::Regular);
+    if (QRawFont::fromFont(font).fontTable("head").mid(4, 4).toHex() != "000304dd") {
+        GTEST_SKIP() << "The pictures were made with version 3.019 of Inter.";
+    }
     const QString name = QString::fromStdString(GetParam());
     const QStringList words = name.split(u'.');
     GalleryStage stage;
