@@ -70,14 +70,7 @@ constexpr auto sideBySide = R"(
         HostStack { Component.onCompleted: window.right = this }
     })";
 
-struct HostShapes : ModuleTest {
-    void useWindow(const std::string& content) {
-        stage = std::make_shared<Stage>(windowWith(content).c_str());
-        // The window and its layouts get their sizes in the event loop.
-        ASSERT_TRUE(turnUntil([&] { return stage->stack().height() > 0 && stage->window().isExposed(); }));
-    }
-};
-
+struct HostShapes : ModuleTest {};
 struct TwoModules : HostShapes, ::testing::WithParamInterface<bool> {};
 
 } // namespace
@@ -86,9 +79,11 @@ TEST_F(HostShapes, AreCoveredAsFarAsTheModuleReaches) {
     for (const auto& [content, coversBar, namesWindow] : shapes) {
         SCOPED_TRACE(content);
         backend->script(Call::associate, {Reply{.body = sampleBody(Call::associate), .after = seconds(5)}});
-        useWindow(content);
+        stage = std::make_shared<Stage>(windowWith(content).c_str());
         open(namesWindow ? stage->window().contentItem() : nullptr);
-        ASSERT_TRUE(turnUntil([&] { return settled(); }));
+        // The window and its layouts get their sizes in the event loop.
+        ASSERT_TRUE(turnUntil(
+            [&] { return settled() && stage->stack().height() > 0 && stage->window().isExposed(); }));
         const QSizeF size = stage->stack().size();
         // The bar of the drawer's window begins beside the drawer.
         const auto clickBar = [&] {
@@ -107,7 +102,7 @@ TEST_F(HostShapes, AreCoveredAsFarAsTheModuleReaches) {
 TEST_P(TwoModules, AreApart) {
     backend->script(Call::associate, {Reply::never(), Reply::sample(Call::associate)});
     if (!GetParam()) {
-        useWindow(sideBySide);
+        stage = std::make_shared<Stage>(windowWith(sideBySide).c_str());
     }
     const auto leftStage = stage;
     const QQuickItem& left = stage->stack();
