@@ -49,7 +49,7 @@ private:
 
 /// In a process without another application.
 [[noreturn]] void endApplications() {
-    qApp->~QCoreApplication();
+    std::destroy_at(qApp);
     int count = 0;
     QCoreApplication::setEventDispatcher(new SlowDispatcher);
     auto application = std::make_unique<QCoreApplication>(count, nullptr);

@@ -9,6 +9,7 @@
 #endif
 
 #include <cstdlib>
+#include <memory>
 
 namespace quillet::testing {
 
@@ -101,7 +102,7 @@ struct Leaving : AtTargets, ::testing::WithParamInterface<std::string> {
         goThere(target, isAnswerQueued);
         if (GetParam() == "Application") {
             stage.reset();
-            qApp->~QCoreApplication();
+            std::destroy_at(qApp);
         }
         backend->clock()->advance(seconds(60));
         std::exit(log->empty() && !HasFailure() ? EXIT_SUCCESS : EXIT_FAILURE);
