@@ -162,14 +162,12 @@ TEST_F(Program, DrawsAGalleryWithADifferenceAlongEachAxis) {
     EXPECT_EQ(pictures.size(), all);
 }
 
+// The first language has a gap, and those that are drawn after it have none.
 TEST_F(Program, FailsWhereItCannotWriteAPicture) {
-    const QStringList taken{folder.filePath("loading.light.es.100.320x568.png"),
-                            folder.filePath("loading.light.xb.100.320x568.png")};
-    ASSERT_TRUE(QDir().mkpath(taken[0]) && QDir().mkpath(taken[1]));
+    const QString taken = folder.filePath("loading.light.es.100.320x568.png");
+    ASSERT_TRUE(QDir().mkpath(taken));
     EXPECT_EQ(run({"--gallery", folder.path(), "--quick"}), 1);
-    for (const QString& file : taken) {
-        EXPECT_NE(complaint.find("cannot write " + file.toStdString() + "\n"), std::string::npos);
-    }
+    EXPECT_NE(complaint.find("cannot write " + taken.toStdString() + "\n"), std::string::npos);
 }
 
 } // namespace demo::testing

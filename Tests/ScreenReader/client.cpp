@@ -112,14 +112,13 @@ bool press(const std::string& program, const std::string& name) {
 
 /// The bus tells of changes too, but one has to look again for what they were.
 bool waitUntil(const std::function<bool()>& condition) {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > deadline) {
-            return false;
+    for (int looks = 0; looks < 400; ++looks) {
+        if (condition()) {
+            return true;
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     }
-    return true;
+    return false;
 }
 
 bool perform(const std::string& program, const std::string& step, const std::string& object) {
