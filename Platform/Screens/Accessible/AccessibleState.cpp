@@ -15,7 +15,8 @@ AccessibleState::AccessibleState(QObject* item) : QObject(item), item_(qobject_c
     }
     connect(this, &AccessibleState::changed, this, &AccessibleState::tell);
     // What an item is when it is made is no change, and it may have no name yet.
-    QMetaObject::invokeMethod(this, [this] { isMade_ = true; }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { isMade_ = true; }, Qt::QueuedConnection);
     if (item_) {
         connect(item_, &QQuickItem::visibleChanged, this, &AccessibleState::announce);
         connect(item_, &QQuickItem::windowChanged, this, &AccessibleState::announce);
