@@ -81,8 +81,8 @@ std::string inPlace(const Place& place, const std::string& tests) {
         # No name server listens there, so a name that is not in the file fails at once.
         [ ! -e /etc/resolv.conf ] || bind "nameserver 127.0.0.1" $(realpath /etc/resolv.conf)
         ip link set lo up
-        )" + place.commands + "\nQUILLET_PLACE=1 exec " +
-                               std::filesystem::read_symlink("/proc/self/exe").string() + " " + tests;
+        )" + place.commands + "\nQUILLET_PLACE=1 exec \"" +
+                               std::filesystem::read_symlink("/proc/self/exe").string() + "\" " + tests;
     return std::string(geteuid() == 0 ? "unshare" : "unshare --map-root-user") + " --net --mount sh -ec '" +
            script + "'";
 }
