@@ -45,8 +45,8 @@ Functions functionsOf(const fs::path& generated) {
     for (std::size_t i = 0; i < 4; ++i) {
         functions.all |= bytes.at(place + i) << (8 * i);
     }
-    // The table's last entry is an empty one.
-    static const std::regex entry(R"(\{ \d+, QMetaType)");
+    // The table's last entry is an empty one. From Qt 6.8 on an entry tells its types in a function.
+    static const std::regex entry(R"(\{ \d+, (QMetaType|\d+, (\[\]|nullptr)))");
     const auto entries = std::distance(std::sregex_iterator(text.begin(), text.end(), entry), {});
     functions.compiled = static_cast<std::size_t>(entries) - 1;
     if (entries < 1 || functions.compiled > functions.all || functions.all > bytes.size()) {
