@@ -186,8 +186,10 @@ private:
             return !value.get_bool().error();
         case ondemand::json_type::null:
             return value.is_null();
+        // Later versions have a type for what is no JSON.
+        default:
+            return false;
         }
-        return false;
     }
 
     OnDemandDecoder::Decimals kind_;

@@ -3,6 +3,9 @@
 #include "Harness/Rounds.hpp"
 #include "Programs/Program.hpp"
 
+#include <unistd.h>
+
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <stdexcept>

@@ -70,7 +70,7 @@ TEST(Tokens, HaveTheirMeasures) {
         return QString::number(kel::KelFonts::font(kel::KelFonts::Body1, weight).weight());
     });
     lines << "icons:" << valuesOf<kel::KelIcons::Number>([](int icon) {
-        return QStringLiteral("%1 %2").arg(icon).arg(kel::KelIcons::glyph(icon).at(0).unicode(), 4, 16);
+        return QStringLiteral("%1 %2").arg(icon).arg(int{kel::KelIcons::glyph(icon).at(0).unicode()}, 4, 16);
     });
     expectKept(QStringLiteral("measures"), lines);
 }
