@@ -72,7 +72,7 @@ TEST(CycleDeathTest, ShowsTheLastTwoDigitsOfTheCodeAndStopsTheProgramForOneUnles
     EXPECT_EQ(Cycle::onlyCode({18446744073709551615U, {}, {}}), "15");
     const Cycle wrong{5, {}, {}};
     EXPECT_DEATH(static_cast<void>(Cycle::onlyCode(wrong)),
-                 "^Fatal error: The cycle's code has fewer than two digits: file Cycle.cpp, line [0-9]+\n$");
+                 "^Fatal error: The cycle's code has fewer than two digits: file Cycle.cpp, line [0-9]+\n");
     const auto original = std::exchange(FatalErrorWrapper::fatalErrorClosure, [](auto&&...) {});
     EXPECT_EQ(Cycle::onlyCode(wrong), "5");
     FatalErrorWrapper::fatalErrorClosure = original;
